@@ -1,0 +1,656 @@
+#!/usr/bin/env python3
+"""Checks the sample installation: configuration files, catalogs and models, each by itself and against the others.
+
+A development aid until `vyrcfd check` exists; it knows no Choices, and goes when the tool can do its work.
+
+    samples/check.py            check the files beside this script; exit 1 if there are findings
+    samples/check.py --prove    break copies of the files in memory, one way at a time; exit 1 if a break goes unseen
+
+Paths that run through references and lists of objects have no declared type, so they are followed on the sample
+models: at least one object of the configured type must have such a target.
+"""
+
+import copy
+import itertools
+import json
+import re
+import sys
+from dataclasses import dataclass, field
+from pathlib import Path
+
+CONFIG_FOLDER = "reffiles/VYRCfdApp/"
+MAIN_FILE, SLOPE_FILE = "SolverConfigurations.json", "SolverConfigurations_dxSlope.json"
+OTHER_FILES = [
+    "conditionsConfig_Flow.json", "conditionsConfig_Energy.json", "conditionsConfig_Turbulence.json",
+    "conditionsConfig_Species.json", "conditionsConfig_Phase.json", "solverConfig_Flow.json",
+    "solverConfig_Energy.json", "solverConfig_Turbulence.json", "solverConfig_MultiSpecies.json",
+    "measurementsConfig.json", "solverConfig_Radiation.json", "conditionsConfig_Radiation.json",
+    "conditionsConfig_ECooling.json", "solverConfig_MultiPhase.json", "meshFYEConfig.json"]
+
+SCALARS = {"real", "integer", "boolean", "enumeration", "string"}
+KINDS = SCALARS | {"component", "reference", "list"}
+OPERATORS = ["==", "!=", "<=", ">=", "<", ">", "="]  # in the order in which a condition is searched for them
+ITEM_SHAPES = {  # keys that an item must hold, and keys that it may hold
+    "values": ({"path", "value", "list"}, set()),
+    "default": ({"path", "type", "default"}, {"defaultAutoKey"}),
+    "nested": ({"path", "config"}, {"condition"})}
+ATTRIBUTE_KEYS = {"name", "kind", "default", "values", "type", "of"}
+HOST_TYPES = {
+    "VYRCfdValues": [{"name": "defaultManagement", "kind": "component", "type": "VYRCfdDefaultManagement"}],
+    "VYRCfdDefaultManagement": [{"name": "configuration", "kind": "list", "of": "reference"}],
+    "VYRCfdConfigItem": [{"name": name, "kind": "string"}
+                         for name in ("type", "path", "default", "defaultAutoKey", "condition", "config")]}
+
+
+# --- reading ---------------------------------------------------------------------------------------------------------
+
+def unique_keys(pairs):
+    keys = [key for key, _ in pairs]
+    for key in keys:
+        if keys.count(key) > 1:
+            raise ValueError(f'key "{key}" stands twice in one object')
+    return dict(pairs)
+
+
+def no_constant(text):
+    raise ValueError(f"{text} is not valid JSON")
+
+
+def read_files(root, findings):
+    documents = {}
+    for path in sorted(root.rglob("*.json")):
+        name = path.relative_to(root).as_posix()
+        try:
+            documents[name] = json.loads(path.read_text(encoding="utf-8"), object_pairs_hook=unique_keys,
+                                         parse_constant=no_constant)
+        except ValueError as error:
+            findings.append(f"{name}: {error}")
+    return documents
+
+
+# --- values ----------------------------------------------------------------------------------------------------------
+
+def text_fits(text, attribute):
+    """Whether a default's text is a value of the attribute's kind."""
+    kind = attribute["kind"]
+    if kind == "integer":
+        return bool(re.fullmatch(r"[+-]?\d+", text)) and -2**31 <= int(text) < 2**31
+    if kind == "real":
+        return bool(re.fullmatch(r"[+-]?(\d+\.?\d*|\.\d+)([eE][+-]?\d+)?", text))
+    if kind == "boolean":
+        return text.lower() in ("true", "false", "0", "1")
+    if kind == "enumeration":
+        return text in attribute["values"]
+    return kind == "string"
+
+
+def value_fits(value, kind, attribute):
+    """Whether a JSON value is a value of the scalar kind; null is the unset value."""
+    if value is None:
+        return True
+    if kind == "real":
+        return isinstance(value, (int, float)) and not isinstance(value, bool)
+    if kind == "integer":
+        return isinstance(value, int) and not isinstance(value, bool) and -2**31 <= value < 2**31
+    if kind == "boolean":
+        return isinstance(value, bool)
+    if kind == "enumeration":
+        return value in attribute["values"]
+    return isinstance(value, str)
+
+
+# --- catalogs --------------------------------------------------------------------------------------------------------
+
+class Types:
+    """The feature types of all catalogs, with what the host brings."""
+
+    def __init__(self, documents, findings):
+        self.findings = findings
+        self.bases = {name: "" for name in HOST_TYPES}
+        self.own = {name: {a["name"]: a for a in attributes} for name, attributes in HOST_TYPES.items()}
+        self.meant = {}    # type -> configurations that are meant for it
+        self.catalog = {}  # type -> catalog
+        self.uses = {"VYRCfdBase": []}
+        declared = {}
+        for file, document in documents.items():
+            if file.startswith("catalogs/"):
+                self.read_catalog(file, document, declared)
+        for name, (file, entry) in declared.items():
+            self.check_type(file, name, entry)
+
+    def read_catalog(self, file, document, declared):
+        catalog = document.get("catalog", "")
+        if set(document) != {"catalog", "uses", "types"} or file != f"catalogs/{catalog}.catalog.json":
+            self.findings.append(f'{file}: a catalog holds "catalog" (its file\'s name), "uses" and "types"')
+        self.uses[catalog] = document.get("uses", [])
+        for entry in document.get("types", []):
+            name = entry.get("name", "")
+            if not name or re.search(r"[ ,]", name) or name in self.own:
+                self.findings.append(f'{file}: bad or repeated type name "{name}"')
+                continue
+            declared[name] = (file, entry)
+            self.catalog[name] = catalog
+            self.bases[name] = entry.get("base", "")
+            self.own[name] = {a.get("name", ""): a for a in entry.get("attributes", [])}
+            self.meant[name] = entry.get("configurations", [])
+
+    def chain(self, name):
+        while name:
+            yield name
+            name = self.bases.get(name, "")
+
+    def derives(self, name, base):
+        return base in self.chain(name)
+
+    def attributes(self, name):
+        merged = {}
+        for one in reversed(list(self.chain(name))):
+            merged.update(self.own.get(one, {}))
+        return merged
+
+    def visible(self, catalog):
+        """The catalogs that a catalog knows: itself and what it uses, directly or not."""
+        seen, open_ = set(), [catalog]
+        while open_:
+            one = open_.pop()
+            if one not in seen:
+                seen.add(one)
+                open_ += self.uses.get(one, [])
+        return seen
+
+    def known_from(self, name, catalog):
+        return name in self.own and self.catalog.get(name, "VYRCfdBase") in self.visible(catalog)
+
+    def check_type(self, file, name, entry):
+        where = f"{file}: {name}"
+        if not set(entry) <= {"name", "base", "attributes", "startup", "configurations"}:
+            self.findings.append(f"{where}: unknown keys {sorted(entry)}")
+        if not self.known_from(self.bases[name], self.catalog[name]):
+            self.findings.append(f'{where}: base "{self.bases[name]}" is not known here')
+            self.bases[name] = ""
+        elif not self.derives(name, "VYRCfdValues"):
+            self.findings.append(f"{where}: has no default management, so it cannot be configured")
+        names = [a.get("name", "") for a in entry.get("attributes", [])]
+        inherited = self.attributes(self.bases[name])
+        for attribute in entry.get("attributes", []):
+            label = attribute.get("name", "")
+            if names.count(label) > 1 or label in inherited:
+                self.findings.append(f'{where}: attribute "{label}" is declared twice')
+            self.check_attribute(f"{where}.{label}", attribute, self.catalog[name])
+        self.check_containment(where, name, [name])
+        self.check_startup(where, name, entry.get("startup", {}))
+
+    def check_attribute(self, where, attribute, catalog):
+        name, kind = attribute.get("name", ""), attribute.get("kind", "")
+        if not re.fullmatch(r"[a-z][A-Za-z0-9]*", name) or name.endswith(("_isset", "_isauto")):
+            self.findings.append(f"{where}: bad attribute name")
+        if not set(attribute) <= ATTRIBUTE_KEYS or kind not in KINDS:
+            self.findings.append(f"{where}: unknown key or kind")
+            return
+        entry_kind = attribute.get("of", "") if kind == "list" else kind
+        if ("of" in attribute) != (kind == "list") or entry_kind not in KINDS - {"list"}:
+            self.findings.append(f'{where}: "of" names the kind of a list\'s entries')
+            return
+        values = attribute.get("values")
+        if (values is not None) != (entry_kind == "enumeration") or len(values or []) != len(set(values or [])):
+            self.findings.append(f'{where}: an enumeration, and nothing else, has "values", each once')
+            return
+        if kind == "component" and not self.known_from(attribute.get("type", ""), catalog):
+            self.findings.append(f'{where}: type "{attribute.get("type", "")}" is not known here')
+        if "default" in attribute:
+            self.check_value(where, attribute["default"], attribute)
+
+    def check_value(self, where, value, attribute):
+        """A default or a start-up value of a scalar or of a list of scalars."""
+        kind = attribute["kind"]
+        entries, kind = (value, attribute["of"]) if kind == "list" else ([value], kind)
+        if not isinstance(entries, list) or kind not in SCALARS or \
+                not all(value_fits(entry, kind, attribute) for entry in entries):
+            self.findings.append(f"{where}: {json.dumps(value)} is no value of kind {attribute['kind']}")
+
+    def check_containment(self, where, name, trail):
+        for attribute in self.attributes(name).values():
+            part = attribute.get("type", "") if attribute.get("kind") == "component" else ""
+            if part in trail:
+                self.findings.append(f"{where}: contains itself by {' > '.join(trail + [part])}")
+            elif part:
+                self.check_containment(where, part, trail + [part])
+
+    def check_startup(self, where, name, startup):
+        attributes = self.attributes(name)
+        for key, value in startup.items():
+            attribute = attributes.get(key)
+            if attribute is None:
+                self.findings.append(f'{where}: start-up of unknown attribute "{key}"')
+            elif attribute["kind"] == "component" and isinstance(value, dict):
+                self.check_startup(f"{where}.{key}", attribute.get("type", ""), value)
+            else:
+                self.check_value(f"{where}.{key}", value, attribute)
+
+
+# --- models ----------------------------------------------------------------------------------------------------------
+
+class Model:
+    """One model file; its objects keep their JSON form."""
+
+    def __init__(self, file, document, types, findings):
+        self.file, self.types, self.findings = file, types, findings
+        if set(document) != {"model", "catalogs", "objects"} or document.get("model") != 1:
+            findings.append(f'{file}: a model holds "model": 1, "catalogs" and "objects"')
+        self.known = set()
+        for catalog in document.get("catalogs", []):
+            if catalog not in types.uses:
+                findings.append(f'{file}: unknown catalog "{catalog}"')
+            self.known |= types.visible(catalog)
+        self.objects = document.get("objects", [])
+        ids = [o["id"] for o in self.objects if "id" in o]
+        if len(ids) != len(set(ids)) or not all(type(i) is int for i in ids):
+            findings.append(f"{file}: ids are numbers, each given once")
+        for one in self.objects:
+            self.check_object(f"{file}: {one.get('name', '')}", one, one.get("type", ""))
+
+    def target(self, reference):
+        """The one object that a reference names by id, identifier or name, or None."""
+        ref = reference.get("ref") if isinstance(reference, dict) else None
+        keys = ("id",) if type(ref) is int else ("identifier", "name")
+        hits = [o for o in self.objects if any(o.get(key) == ref for key in keys)]
+        return hits[0] if ref is not None and len(hits) == 1 else None
+
+    def check_object(self, where, one, declared):
+        type_ = one.get("type", declared)
+        if not set(one) <= {"type", "name", "alias", "identifier", "id", "values", "added"}:
+            self.findings.append(f"{where}: unknown keys {sorted(one)}")
+        if type_ not in self.types.own or self.types.catalog.get(type_, "VYRCfdBase") not in self.known:
+            self.findings.append(f'{where}: type "{type_}" is not in the catalogs of the model')
+            return
+        attributes = self.types.attributes(type_)
+        for name, value in one.get("values", {}).items():
+            if name not in attributes:
+                self.findings.append(f'{where}: {type_} has no attribute "{name}"')
+            elif name != "defaultManagement":
+                self.check_value(f"{where}.{name}", value, attributes[name])
+        if self.types.derives(type_, "VYRCfdValues"):
+            self.check_flags(where, one, attributes)
+
+    def check_value(self, where, value, attribute):
+        kind = attribute["kind"]
+        entries, kind = (value, attribute["of"]) if kind == "list" else ([value], kind)
+        if not isinstance(entries, list):
+            self.findings.append(f"{where}: not a list")
+            return
+        for entry in entries:
+            if kind == "component":
+                if isinstance(entry, dict):
+                    self.check_object(where, entry, attribute.get("type", ""))
+                else:
+                    self.findings.append(f"{where}: not an object")
+            elif kind == "reference":
+                if self.target(entry) is None:
+                    self.findings.append(f"{where}: {json.dumps(entry)} does not name one object")
+            elif not value_fits(entry, kind, attribute):
+                self.findings.append(f"{where}: {json.dumps(entry)} is no value of kind {kind}")
+
+    def check_flags(self, where, one, attributes):
+        """What somebody wrote carries a set flag; components come with their owner and carry none."""
+        values = one.get("values", {})
+        flags = values.get("defaultManagement", {}).get("added", {})
+        for flag, content in flags.items():
+            name = re.sub("_(isset|isauto)$", "", flag)
+            if name == flag or name not in attributes or content.get("kind") != "boolean" or \
+                    not isinstance(content.get("value"), bool):
+                self.findings.append(f'{where}: "{flag}" is no flag of an attribute')
+        for name in values:
+            written = attributes.get(name, {}).get("kind", "component") != "component"
+            if written and flags.get(name + "_isset", {}).get("value") is not True:
+                self.findings.append(f'{where}: "{name}" has a value but no set flag')
+
+
+# --- configurations --------------------------------------------------------------------------------------------------
+
+def check_shapes(file, document, findings):
+    if set(document) != {"configurations"} or not isinstance(document["configurations"], list):
+        findings.append(f'{file}: a configuration file holds the array "configurations"')
+        return
+    for configuration in document["configurations"]:
+        if set(configuration) != {"name", "config"} or not configuration["config"]:
+            findings.append(f'{file}: a configuration holds "name" and "config", the items')
+            continue
+        for number, item in enumerate(configuration["config"], 1):
+            where = f"{file}: {configuration['name']}, item {number}"
+            if item_kind(item) is None:
+                findings.append(f"{where}: no known kind of item has the keys {sorted(item)}")
+            for key, value in item.items():
+                if (value is not True) if key == "list" else not (isinstance(value, str) and value):
+                    findings.append(f'{where}: "{key}" does nothing with {json.dumps(value)}')
+
+
+def item_kind(item):
+    for kind, (must, may) in ITEM_SHAPES.items():
+        if must <= set(item) <= must | may:
+            return kind
+    return None
+
+
+def parse_condition(text):
+    """(path, operator, right side), or None for a text that is no condition."""
+    for operator in OPERATORS:
+        position = text.find(operator)
+        if position > 0:
+            right = text[position + len(operator):]
+            return (text[:position], operator, right) if right else None
+    return None
+
+
+def exclude_each_other(first, second):
+    """Whether two conditions, each with the path of the object it is asked of, compare one path with different texts."""
+    one, two = parse_condition(first[1]), parse_condition(second[1])
+    return bool(one and two and first[0] == second[0] and one[0] == two[0] and one[2] != two[2]
+                and {one[1], two[1]} <= {"=", "=="})
+
+
+@dataclass
+class Place:
+    """What a path has reached: an object type with the sample objects there, a list of objects, or an attribute."""
+    type: str = ""
+    objects: list = field(default_factory=list)  # (model, object)
+    rows: list = None                            # per owner, the (model, object) entries of a list
+    attribute: dict = None
+
+
+class Walk:
+    """Follows one configuration, and those it applies, on one type."""
+
+    def __init__(self, types, models, configurations, findings):
+        self.types, self.models, self.configurations, self.findings = types, models, configurations, findings
+        self.reached = set()
+        self.led = {}  # conditional item -> whether it has led somewhere on any type
+
+    def start(self, name, type_):
+        objects = [(m, o) for m in self.models for o in m.objects if self.types.derives(o.get("type", ""), type_)]
+        self.applied = {}  # path -> per application, the conditions it hangs on
+        self.visit(name, Place(type_, objects), "", [], [])
+        for path, ways in self.applied.items():
+            if any(not any(exclude_each_other(a, b) for a in one for b in two)
+                   for one, two in itertools.combinations(ways, 2)):
+                self.findings.append(f'{name} on {type_}: "{path}" is configured twice; the last records stand alone')
+
+    def visit(self, name, place, path, trail, conditions):
+        where = f"{' > '.join(trail + [name])} on {place.type}"
+        if name in trail:
+            self.findings.append(f"{where}: cycle")
+            return
+        self.reached.add(name)
+        defaults = set()
+        for item in self.configurations[name]:
+            kind = item_kind(item)
+            if kind == "values":
+                self.check_values_item(where, item, place)
+            elif kind == "default":
+                if item["path"] in defaults:
+                    self.findings.append(f'{where}: two defaults for "{item["path"]}"')
+                defaults.add(item["path"])
+                self.check_default_item(where, item, place)
+            elif kind == "nested":
+                self.follow_nested(where, item, place, path, trail + [name], conditions)
+
+    def check_values_item(self, where, item, place):
+        attribute = self.types.attributes(place.type).get(item["path"], {})
+        if (attribute.get("kind"), attribute.get("of")) != ("list", "string"):
+            self.findings.append(f'{where}: "{item["path"]}" is no list of strings')
+        for token in item["value"].split(","):
+            if not token.strip() or " " in token.strip():
+                self.findings.append(f'{where}: empty entry, or blank inside one, in "{item["value"]}"')
+
+    def check_default_item(self, where, item, place):
+        attribute = self.types.attributes(place.type).get(item["path"])
+        if attribute is None or attribute["kind"] not in SCALARS:
+            self.findings.append(f'{where}: "{item["path"]}" is no attribute that can have a default')
+        elif item["type"] != attribute["kind"]:
+            self.findings.append(f'{where}: "{item["path"]}" is of kind {attribute["kind"]}, not {item["type"]}')
+        elif not text_fits(item["default"], attribute):
+            self.findings.append(f'{where}: "{item["default"]}" is no {attribute["kind"]} for "{item["path"]}"')
+
+    def follow_nested(self, where, item, place, path, trail, conditions):
+        if item["config"] not in self.configurations:
+            self.findings.append(f'{where}: unknown configuration "{item["config"]}"')
+            return
+        if "condition" in item:
+            self.check_condition(where, item["condition"], place)
+            conditions = conditions + [(path, item["condition"])]
+        targets = [t for t in self.resolve(place, item["path"]) if t.type]
+        if "condition" in item:  # may lack its target here, as long as it has one somewhere
+            key = (trail[-1], item["path"])
+            self.led[key] = self.led.get(key, False) or bool(targets)
+        elif not targets:
+            self.findings.append(f'{where}: "{item["path"]}" leads to no object')
+        full = path + "/" + item["path"]
+        self.applied.setdefault(full, []).append(conditions)
+        for target in targets:
+            self.visit(item["config"], target, full, trail, conditions)
+
+    def check_condition(self, where, text, place):
+        parsed = parse_condition(text)
+        if parsed is None or " " in parsed[0] + parsed[2][:1]:
+            self.findings.append(f'{where}: bad condition "{text}"')
+            return
+        path, operator, right = parsed
+        attributes = [t.attribute for t in self.resolve(place, path) if t.attribute]
+        if not attributes:
+            self.findings.append(f'{where}: condition "{text}" reads no attribute')
+        for attribute in attributes:
+            kind = attribute["kind"]
+            good = {"real": bool(re.match(r"[+-]?\.?\d", right)), "integer": bool(re.fullmatch(r"[+-]?\d+", right)),
+                    "enumeration": right.isdigit() and 1 <= int(right) <= len(attribute.get("values", [])),
+                    "boolean": (operator, right) == ("==", "true"),
+                    "string": operator in ("==", "=", "!=")}
+            if not good.get(kind, False):
+                self.findings.append(f'{where}: condition "{text}" does not fit an attribute of kind {kind}')
+
+    def resolve(self, place, path):
+        places = [place]
+        for name in path.split("/"):
+            places = [after for before in places for after in self.step(before, name)]
+        return places
+
+    def step(self, place, name):
+        if place.rows is not None:
+            return self.by_type([hit for row in place.rows for hit in self.find(row, name)])
+        attribute = self.types.attributes(place.type).get(name) if place.type else None
+        if attribute is None:
+            return []
+        kind, entry_kind = attribute["kind"], attribute.get("of")
+        held = [(m, o["values"][name]) for m, o in place.objects if o.get("values", {}).get(name) is not None]
+        if kind == "component":
+            return [Place(attribute["type"], held)]
+        if kind == "reference":
+            return self.by_type([(m, m.target(value)) for m, value in held])
+        if entry_kind == "component":
+            return [Place(rows=[[(m, o) for o in value] for m, value in held])]
+        if entry_kind == "reference":
+            return [Place(rows=[[(m, m.target(o)) for o in value] for m, value in held])]
+        return [Place(attribute=attribute)]
+
+    @staticmethod
+    def find(row, name):
+        """The entry of a list that a name means: display name before name, before type, before position."""
+        entries = [(m, o) for m, o in row if o is not None]
+        for key in ("alias", "name", "type"):
+            for entry in entries:
+                if entry[1].get(key) == name:
+                    return [entry]
+        return [row[int(name) - 1]] if name.isdigit() and 1 <= int(name) <= len(row) else []
+
+    @staticmethod
+    def by_type(objects):
+        groups = {}
+        for model, one in objects:
+            if one is not None:
+                groups.setdefault(one.get("type", ""), []).append((model, one))
+        return [Place(type_, group) for type_, group in groups.items()]
+
+
+def check_configurations(documents, types, models, findings):
+    names = {}
+    for main in (MAIN_FILE, SLOPE_FILE):
+        configurations = {}
+        for file in [main] + OTHER_FILES:
+            if CONFIG_FOLDER + file not in documents:
+                findings.append(f"{file}: missing")
+                continue
+            for configuration in documents[CONFIG_FOLDER + file].get("configurations", []):
+                name = configuration.get("name", "")
+                if name in configurations:
+                    findings.append(f'{file}: "{name}" is defined before; this definition is never used')
+                configurations.setdefault(name, configuration.get("config", []))
+        names[main] = set(configurations)
+        walk = Walk(types, models, configurations, findings)
+        for type_, meant in types.meant.items():
+            for name in meant:
+                if name in configurations:
+                    walk.start(name, type_)
+                else:
+                    findings.append(f'{type_}: unknown configuration "{name}"')
+        for (name, path), led in walk.led.items():
+            if not led:
+                findings.append(f'{name}: "{path}" leads to no object on any type')
+        for name in sorted(set(configurations) - walk.reached):
+            findings.append(f'{main}: "{name}" is meant for no type and applied by no other')
+    if names[MAIN_FILE] != names[SLOPE_FILE]:
+        findings.append(f"{MAIN_FILE} and {SLOPE_FILE} define different names: "
+                        f"{sorted(names[MAIN_FILE] ^ names[SLOPE_FILE])}")
+
+
+def check(documents):
+    """All findings about the parsed files, each once."""
+    findings = []
+    for file, document in documents.items():
+        if file.startswith(CONFIG_FOLDER):
+            check_shapes(file, document, findings)
+    types = Types(documents, findings)
+    models = [Model(file, document, types, findings)
+              for file, document in documents.items() if file.startswith("models/")]
+    if not models:
+        findings.append("no models")
+    check_configurations(documents, types, models, findings)
+    return list(dict.fromkeys(findings))
+
+
+# --- proof that the check can fail -----------------------------------------------------------------------------------
+
+def configuration_of(documents, name):
+    for file, document in documents.items():
+        for configuration in document.get("configurations", []) if file.startswith(CONFIG_FOLDER) else []:
+            if configuration["name"] == name and SLOPE_FILE not in file:
+                return configuration
+    raise KeyError(name)
+
+
+def item_of(documents, name, **keys):
+    return next(i for i in configuration_of(documents, name)["config"] if keys.items() <= i.items())
+
+
+def type_of(documents, name):
+    return next(t for f, d in documents.items() if f.startswith("catalogs/") for t in d["types"] if t["name"] == name)
+
+
+def object_of(documents, model, name):
+    return next(o for o in documents[f"models/{model}.model.json"]["objects"] if o["name"] == name)
+
+
+BREAKS = [  # what is broken, what the finding must say
+    (lambda d: d.pop(CONFIG_FOLDER + "conditionsConfig_Phase.json"), "conditionsConfig_Phase.json: missing"),
+    (lambda d: item_of(d, "externalFlow", path="iterations").update(default="many"), "is no integer"),
+    (lambda d: item_of(d, "steadyTimeMarching", path="cflNumber").update(default="ten"), "is no real"),
+    (lambda d: item_of(d, "steadyTimeMarching", path="cflNumber").update(type="integer"), "is of kind real"),
+    (lambda d: item_of(d, "externalFlow", path="iterations").update(path="iteration"), "can have a default"),
+    (lambda d: item_of(d, "externalFlow", path="iterations").update(path="output/screenInterval"),
+     "can have a default"),
+    (lambda d: item_of(d, "externalFlow", path="iterations").update(defualt="1"), "no known kind of item"),
+    (lambda d: item_of(d, "externalFlow", path="reportedCoefficients").update(list=False), "does nothing"),
+    (lambda d: item_of(d, "externalFlow", path="reportedCoefficients").update(value="LIFT,,DRAG"), "empty entry"),
+    (lambda d: item_of(d, "externalFlow", path="reportedCoefficients").update(path="caseName"), "no list of strings"),
+    (lambda d: item_of(d, "externalFlow", path="fluid").update(config="airPropertys"), "unknown configuration"),
+    (lambda d: item_of(d, "externalFlow", path="fluid").update(path="fluids"), "leads to no object"),
+    (lambda d: item_of(d, "externalFlow", path="fluid").update(path="caseName"), "leads to no object"),
+    (lambda d: item_of(d, "externalFlow", path="fluid").update(path="turbulence"), "can have a default"),
+    (lambda d: item_of(d, "externalFlow", condition="dimension==3").update(condition="dimension"), "bad condition"),
+    (lambda d: item_of(d, "externalFlow", condition="dimension==3").update(condition="dimension == 3"),
+     "bad condition"),
+    (lambda d: item_of(d, "externalFlow", condition="dimension==3").update(condition="dimension==flat"),
+     "does not fit"),
+    (lambda d: item_of(d, "externalFlow", condition="dimension==3").update(condition="dimensions==3"),
+     "reads no attribute"),
+    (lambda d: item_of(d, "externalFlow", condition="dimension==3").update(condition="caseName>a"), "does not fit"),
+    (lambda d: item_of(d, "externalFlow", condition="dimension==3").pop("condition"), "configured twice"),
+    (lambda d: configuration_of(d, "externalFlow")["config"].append({"path": "fluid", "config": "airProperties"}),
+     "configured twice"),
+    (lambda d: item_of(d, "airProperties", path="sutherland").update(config="airProperties"), "cycle"),
+    (lambda d: configuration_of(d, "inlet").update(name="outlet"), "is defined before"),
+    (lambda d: configuration_of(d, "outlet").update(name="outflow"), 'OutletCondition: unknown configuration "outlet"'),
+    (lambda d: configuration_of(d, "inlet")["config"].append({"path": "massFlowRate", "type": "real", "default": "1"})
+     or type_of(d, "InletCondition").update(configurations=[]), "meant for no type"),
+    (lambda d: configuration_of(d, "flowConvergence").update(name="convergence"), "define different names"),
+    (lambda d: type_of(d, "FluidModel")["attributes"][0].update(default="AIR"), "is no value of kind enumeration"),
+    (lambda d: type_of(d, "FluidModel")["attributes"][1].update(kind="float"), "unknown key or kind"),
+    (lambda d: type_of(d, "FluidModel")["attributes"][1].update(name="gas/constant"), "bad attribute name"),
+    (lambda d: type_of(d, "FluidModel").update(base="VYRCfdConfigItem"), "no default management"),
+    (lambda d: type_of(d, "FluidModel").update(base="FreestreamConditions"), "is not known here"),
+    (lambda d: type_of(d, "SutherlandLaw")["attributes"].append(
+        {"name": "fluid", "kind": "component", "type": "FluidModel"}), "contains itself"),
+    (lambda d: type_of(d, "InternalFlowSolver")["startup"]["fluid"].update(viscosity=1), "start-up of unknown"),
+    (lambda d: type_of(d, "ForceMonitor")["attributes"].append({"name": "surfaces", "kind": "string"}),
+     "declared twice"),
+    (lambda d: object_of(d, "externalFlow", "Solver.1")["values"].update(iterations=1.5), "no value of kind integer"),
+    (lambda d: object_of(d, "externalFlow", "Solver.1")["values"].update(iteration=1), "has no attribute"),
+    (lambda d: object_of(d, "externalFlow", "Solver.1")["values"].update(dimension=2), "no set flag"),
+    (lambda d: object_of(d, "externalFlow", "Solver.1")["values"].update(mesh={"ref": 70}), "does not name one object"),
+    (lambda d: object_of(d, "externalFlow", "Solver.1")["values"]["freestream"]["values"].update(freestreamMach="fast"),
+     "no value of kind real"),
+    (lambda d: object_of(d, "externalFlow", "Solver.1")["values"]["defaultManagement"]["added"].update(
+        iteration_isset={"kind": "boolean", "value": True}), "is no flag"),
+    (lambda d: object_of(d, "externalFlow", "FarField.1").update(type="InletCondition"), "not in the catalogs"),
+    (lambda d: object_of(d, "externalFlow", "Mesh.1").update(id=1), "ids are numbers"),
+    (lambda d: object_of(d, "internalFlow", "Wall.2").update(alias="Heater"), "leads to no object on any type"),
+]
+
+
+def prove(documents):
+    unseen = 0
+    for number, (damage, expected) in enumerate(BREAKS, 1):
+        broken = copy.deepcopy(documents)
+        damage(broken)
+        findings = check(broken)
+        seen = any(expected in finding for finding in findings)
+        unseen += not seen
+        print(f"{'seen  ' if seen else 'UNSEEN'} {number:2} {expected}")
+        if not seen:
+            print("\n".join("          " + finding for finding in findings))
+    for text in ('{"a": 1, "a": 2}', '{"a": NaN}', '{"a": 1,}'):
+        try:
+            json.loads(text, object_pairs_hook=unique_keys, parse_constant=no_constant)
+            unseen += 1
+            print(f"UNSEEN    {text}")
+        except ValueError:
+            print(f"seen      {text}")
+    return unseen
+
+
+def main(arguments):
+    if arguments not in ([], ["--prove"]):
+        print(__doc__, file=sys.stderr)
+        return 2
+    findings = []
+    documents = read_files(Path(__file__).resolve().parent, findings)
+    findings = findings or check(documents)  # what cannot be read would only be missed everywhere else
+    for finding in findings:
+        print(finding)
+    if findings:
+        return 1
+    if arguments:
+        return 1 if prove(documents) else 0
+    print(f"{len(documents)} files, no findings")
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))
