@@ -1,0 +1,70 @@
+#ifndef VYRCfdDefaultManagementAdp_H
+#define VYRCfdDefaultManagementAdp_H
+
+/**
+ * @file
+ * Default management of an object's attributes.
+ */
+
+#include <map>
+
+#include "VYRCfdObjectAccess.h"
+#include "VYRIMpaDefaultManagementProtected.h"
+
+class ORXISpecAttribute;
+
+/**
+ * Base of the extension classes that give a feature its default management.
+ *
+ * Three objects take part: the extended object, which has the attributes; its default-management sub-feature, which
+ * holds the flags (`name` + "_isset", `name` + "_isauto", boolean attributes that are added when they are first needed)
+ * and the list `configuration` of records; and the extended object's start-up, which holds the declared defaults.
+ *
+ * A default is resolved in this order: custom default, record, start-up. Custom defaults live in this instance only and
+ * are not stored with the model; a record that has been found once is kept among them.
+ */
+class VYRCfdBaseExport VYRCfdDefaultManagementAdp : public VYRIMpaDefaultManagementProtected
+{
+public:
+    VYRCfdDefaultManagementAdp();
+    ~VYRCfdDefaultManagementAdp() override;
+
+    HRESULT IsSet(const ORXUnicodeString& iAttrName, unsigned char& oIsSet) override;
+    HRESULT Unset(const ORXUnicodeString& iAttrName) override;
+    HRESULT GetDefault(const ORXUnicodeString& iAttrName, ORXICkeInst_var& oValue) override;
+    /// Does nothing, successfully, while a default is being written.
+    HRESULT SetIsSet(const ORXUnicodeString& iAttrName, unsigned char iIsSet) override;
+    /// A text that does not read as the attribute's type is kept as a default without value.
+    HRESULT SetCustomDefault(const ORXUnicodeString& iAttrName, ORXUnicodeString& iValue) override;
+    HRESULT SetCustomDefault(const ORXUnicodeString& iAttrName, ORXICkeInst_var& iValue) override;
+    /// @return S_OK also when there was none
+    HRESULT RemoveCustomDefault(const ORXUnicodeString& iAttrName) override;
+    HRESULT RemoveAllCustomDefaults() override;
+    HRESULT HasCustomDefault(const ORXUnicodeString& iAttrName, unsigned char& oHas) override;
+    /// Whether the attribute has an auto flag. Unlike `IsSet` it makes none.
+    HRESULT HasAuto(const ORXUnicodeString& iAttrName, unsigned char& oHasAuto) override;
+    /// False without a flag, and makes none.
+    HRESULT GetIsAuto(const ORXUnicodeString& iAttrName, unsigned char& oIsAuto) override;
+    /// Writes the flag; true on a flag that exists also puts the attribute back on its default. The first call, which
+    /// makes the flag, leaves the attribute alone.
+    HRESULT SetIsAuto(const ORXUnicodeString& iAttrName, unsigned char iIsAuto) override;
+
+protected:
+    /// Looks the attribute up in the records; a hit is kept as a custom default.
+    unsigned char isConfigured(const ORXUnicodeString& iAttrName, ORXICkeInst_var& oValue);
+
+    /// Stands at the default-management sub-feature; the extension class fills it.
+    VYRCfdObjectAccess m_defMgmt;
+
+private:
+    struct Companion;
+    HRESULT FindCompanion(const char* iFunction, const ORXUnicodeString& iAttrName, const char* iSuffix,
+                          Companion& oCompanion) const;
+
+    std::map<ORXUnicodeString, ORXICkeInst_var> m_customDefaults;
+    /// Up while a default or an auto flag is written, so that the notification of that write marks nothing as set. A
+    /// plain flag, not a counter.
+    ORXBoolean m_updating;
+};
+
+#endif

@@ -1,0 +1,244 @@
+#ifndef VYRCfdObjectAccess_H
+#define VYRCfdObjectAccess_H
+
+/**
+ * @file
+ * The cursor over feature objects.
+ */
+
+#include <vector>
+
+#include "ORXICkeParm.h"
+#include "ORXISpecAttrAccess.h"
+#include "ORXISpecObject.h"
+#include "ORXListValORXBaseUnknown_var.h"
+#include "ORXListValORXUnicodeString.h"
+#include "ORXUnicodeString.h"
+#include "VYRCfdBaseExport.h"
+
+/// Gives the key of one attribute, borrowed; see ORXKeySetVYRCfdBase.
+using VYRCfdKeyFunction = ORXISpecAttrKey* (*)(ORXISpecAttrAccess* iAccess);
+
+/**
+ * A small value that stands at a feature object, or at one attribute of it, and answers chains such as
+ * `access["inlet"]["pressure"].GetDouble(pressure)`.
+ *
+ * | state            | `_spAttr` | `_spKey` | `_error`  |                                                             |
+ * |------------------|-----------|----------|-----------|-------------------------------------------------------------|
+ * | object cursor    | set       | null     | empty     | stands at an object that gives attribute access             |
+ * | attribute cursor | set       | set      | empty     | stands at a scalar, at a whole list, or (`Ref`) at an object-valued attribute |
+ * | error cursor     | null      | null     | not empty | a failed link                                               |
+ * | empty cursor     | null      | null     | empty     | stands nowhere                                              |
+ *
+ * A chain never stops in the middle: a failing link gives an error cursor, and every further link hands its text on.
+ * Navigation reports nothing. The operation that returns a status reports the text to the error service and answers
+ * E_FAIL; `Is...` tests answer false, `GetName`, `GetID` and `GetType` an empty text, `GetParm` a null handle. A failing
+ * read or write reports and leaves its output argument and the cursor as they were.
+ *
+ * Indices count from 1. Index 0 is the attribute itself: the scalar, or the whole list, never the first entry.
+ *
+ * Copying costs two reference counts and a string; nothing is cached. Navigation and writes are const: they change the
+ * model, not the cursor. One cursor is used by one thread at a time, like the objects that it walks.
+ */
+class VYRCfdBaseExport VYRCfdObjectAccess
+{
+public:
+    /// An error cursor, "Null initialization b".
+    VYRCfdObjectAccess();
+    /// An object cursor; "Null initialization c" for null and for a component that gives no attribute access.
+    VYRCfdObjectAccess(const ORXBaseUnknown_var& iObject);
+    /// An error cursor with this text; an empty text gives the empty cursor.
+    VYRCfdObjectAccess(const ORXUnicodeString& iError);
+    VYRCfdObjectAccess(const VYRCfdObjectAccess& iOther);
+    virtual ~VYRCfdObjectAccess();
+
+    VYRCfdObjectAccess& operator=(const VYRCfdObjectAccess& iOther);
+    /// To an object cursor; "Null initialization a" for null. Unlike the constructor it takes a component that gives no
+    /// attribute access without an error, and stands nowhere then.
+    VYRCfdObjectAccess& operator=(const ORXBaseUnknown_var& iObject);
+
+    /// True when the cursor stands nowhere, or at an attribute that its object does not carry.
+    bool operator!() const;
+    bool IsNull() const;
+    bool HasError() const;
+    ORXUnicodeString GetError() const;
+
+    /// Whether both stand at the same place. Error texts play no part: all cursors without an object are equal.
+    bool operator==(const VYRCfdObjectAccess& iOther) const;
+    bool operator!=(const VYRCfdObjectAccess& iOther) const;
+
+    /// The object, also of an attribute cursor; null on an error cursor.
+    ORXBaseUnknown_var Self() const;
+    operator ORXBaseUnknown_var();
+    /// The same, borrowed, valid as long as the cursor stands there. No test for `IsNull`: the attribute is not looked
+    /// at.
+    operator ORXBaseUnknown*();
+    ORXISpecAttrAccess_var Access() const;
+
+    /**
+     * Moves to an attribute. An object value is followed: the result stands at the object, and is "Null initialization
+     * c" where the attribute is empty. Of a list, index 0 is the list itself and an index from 1 its entry, for lists of
+     * objects only; the host decides on an index beyond the end. "Null key", name + " not a list", name + " not an
+     * object".
+     */
+    VYRCfdObjectAccess Get(ORXISpecAttrKey* iKey, int iIndex) const;
+    VYRCfdObjectAccess Get(VYRCfdKeyFunction iKeyFunction, int iIndex) const;
+    /// The same, the attribute found by its name alone: "No attribute " + name. See `Get(name)` for the other meanings.
+    VYRCfdObjectAccess Get(const ORXUnicodeString& iName, int iIndex) const;
+
+    /**
+     * Moves by any meaning of a name. On an object cursor: an attribute; of a Choice its current value, which leads to
+     * its data object; an entry of the object's "SonsList"; otherwise "No attribute " + name. At a list of objects, in
+     * this order: display name, internal name, feature type, 1-based position; otherwise "No matching object to " +
+     * name. Linear in the list.
+     */
+    VYRCfdObjectAccess Get(const ORXUnicodeString& iName) const;
+
+    /// Moves to an entry of the object list at which the cursor stands; "Index out of bounds".
+    VYRCfdObjectAccess Get(int iIndex) const;
+
+    VYRCfdObjectAccess operator[](const ORXUnicodeString& iName) const;
+    VYRCfdObjectAccess operator[](int iIndex) const;
+    VYRCfdObjectAccess operator[](ORXISpecAttrKey* iKey) const;
+    VYRCfdObjectAccess operator[](VYRCfdKeyFunction iKeyFunction) const;
+
+    /// Stays at an attribute that is no list, even if it holds an object: "Null key", name + " is a list".
+    VYRCfdObjectAccess Ref(const ORXUnicodeString& iName) const;
+    VYRCfdObjectAccess Ref(ORXISpecAttrKey* iKey) const;
+    VYRCfdObjectAccess Ref(VYRCfdKeyFunction iKeyFunction) const;
+
+    /// Walks names parted by "/", each as `Get(name)` takes it. An empty segment ends the walk where it stands: so the
+    /// empty path, and every path with a leading "/", is this cursor.
+    VYRCfdObjectAccess GetByPath(const ORXUnicodeString& iPath) const;
+
+    /// Cuts a path at its first "/". `oTail` is left alone where nothing follows, so callers pass an empty text.
+    /// @return S_OK
+    static HRESULT SplitPath(const ORXUnicodeString& iPath, ORXUnicodeString& oHead, ORXUnicodeString& oTail);
+
+    /// From an attribute to its object, from an object to its owner.
+    VYRCfdObjectAccess GetParent() const;
+
+    /// This cursor, or the error cursor "Condition not met", also for a cursor with an error of its own. See
+    /// VYRCfdObjectCondition.
+    VYRCfdObjectAccess ApplyCondition(const ORXUnicodeString& iCondition) const;
+
+    /// Name of the attribute, or display name of the object.
+    ORXUnicodeString GetName() const;
+    /// Identifier of the object, also of an attribute cursor.
+    ORXUnicodeString GetID() const;
+    /// Feature type of the object; empty and false on an attribute cursor.
+    ORXUnicodeString GetType() const;
+    bool IsSubTypeOf(const ORXUnicodeString& iType) const;
+
+    /// The knowledge parameter of the attribute; null, with no report, where there is none.
+    ORXICkeParm_var GetParm() const;
+
+    /// A string attribute, straight from and to the attribute store.
+    HRESULT GetPlainString(ORXUnicodeString& oValue) const;
+    HRESULT SetPlainString(const ORXUnicodeString& iValue) const;
+
+    /**
+     * Scalars are read and written through the attribute's parameter, so that one read serves every type. `SetString`
+     * writes strings, and reals from text; `SetInteger` also enumerations, by number; `SetDouble` every type that is a
+     * real. An index from 1 reads or writes an entry of a list of exactly that type, straight in the attribute store.
+     * On an object cursor the reals are those of a data table column, in SI units, index 0 standing for its one value.
+     */
+    HRESULT GetString(ORXUnicodeString& oValue) const;
+    HRESULT GetString(ORXUnicodeString& oValue, int index) const;
+    HRESULT SetString(const ORXUnicodeString& iValue) const;
+    HRESULT SetString(const ORXUnicodeString& iValue, int index) const;
+    HRESULT GetInteger(int& oValue) const;
+    HRESULT GetInteger(int& oValue, int index) const;
+    HRESULT SetInteger(int iValue) const;
+    HRESULT SetInteger(int iValue, int index) const;
+    HRESULT GetDouble(double& oValue) const;
+    HRESULT GetDouble(double& oValue, int index) const;
+    HRESULT SetDouble(double iValue) const;
+    HRESULT SetDouble(double iValue, int index) const;
+    HRESULT GetBoolean(bool& oValue) const;
+    HRESULT GetBoolean(bool& oValue, int index) const;
+    HRESULT SetBoolean(bool iValue) const;
+    HRESULT SetBoolean(bool iValue, int index) const;
+
+    /// By the knowledge type of the attribute. An enumeration is also an integer. `IsDouble` on an object cursor: a
+    /// column with rows.
+    bool IsString() const;
+    bool IsInteger() const;
+    bool IsDouble() const;
+    bool IsBoolean() const;
+    bool IsEnum() const;
+
+    /// Never reported. `IsObject`: an object cursor, or an attribute that holds one object.
+    bool IsList() const;
+    bool IsObject() const;
+    bool IsObjectList() const;
+
+    HRESULT GetListSize(int& oSize) const;
+
+    /// Cursors on the entries of a list of objects, replacing what `oObjects` held. An empty entry keeps its place as an
+    /// error cursor, unless `skipNull`.
+    HRESULT List(std::vector<VYRCfdObjectAccess>& oObjects, bool skipNull = false) const;
+    /// The same as handles, behind what `oObjects` holds.
+    HRESULT List(ORXListValORXBaseUnknown_var& oObjects) const;
+
+    /// All entries of a list of values, or the one of a scalar. They are appended; only `GetDoubles` starts from empty.
+    HRESULT GetStrings(std::vector<ORXUnicodeString>& oValues) const;
+    HRESULT GetStrings(ORXListValORXUnicodeString& oValues) const;
+    HRESULT GetDoubles(std::vector<double>& oValues) const;
+    HRESULT GetIntegers(std::vector<int>& oValues) const;
+    HRESULT GetBooleans(std::vector<bool>& oValues) const;
+
+    /// Replaces a whole list of strings.
+    HRESULT SetStrings(std::vector<ORXUnicodeString> iValues) const;
+    HRESULT SetStrings(const ORXListValORXUnicodeString& iValues) const;
+
+    /**
+     * Makes a list of objects equal to the wanted sequence by moves, inserts and removals, and leaves entries in place
+     * alone. A failure stops where it is; nothing is undone. In the order of the square of the length in comparisons.
+     * @return S_FALSE when nothing had to be done
+     */
+    HRESULT SetList(const std::vector<VYRCfdObjectAccess>& iObjects) const;
+    HRESULT SetList(ORXListValORXBaseUnknown_var& iObjects) const;
+
+    /// Writes an object-valued attribute (index 0) or an entry of a list of objects; null is handed on to the host.
+    HRESULT SetObject(const ORXBaseUnknown_var& iObject, int index) const;
+    HRESULT SetObject(const VYRCfdObjectAccess& iObject, int index) const;
+
+    /// Takes the object's first entry out of a list of objects. @return S_FALSE when it has none
+    HRESULT Remove(const ORXBaseUnknown_var& iObject) const;
+    /// Empties a list of any kind.
+    HRESULT RemoveAll() const;
+    /// Takes one entry out of a list of objects.
+    HRESULT RemovePosition(int index) const;
+
+    /// Tells whether a list of objects holds entries that are empty or do not offer the interface: S_OK if so, S_FALSE
+    /// otherwise. The attribute itself is not changed.
+    HRESULT CleanList(const GUID& iInterface) const;
+
+private:
+    VYRCfdObjectAccess(const ORXISpecAttrAccess_var& iAttr, const ORXISpecAttrKey_var& iKey);
+
+    VYRCfdObjectAccess ObjectAt(ORXISpecAttrKey* iKey, int iIndex) const;
+    VYRCfdObjectAccess GetOnObject(const ORXUnicodeString& iName) const;
+    VYRCfdObjectAccess GetInList(const ORXUnicodeString& iName) const;
+    bool IsCurrentChoice(const ORXUnicodeString& iName) const;
+
+    // Checks and reads that operations share; they report under the name of the operation.
+    HRESULT CheckNoError(const char* iFunction) const;
+    HRESULT CheckObject(const char* iFunction) const;
+    HRESULT CheckAttribute(const char* iFunction) const;
+    HRESULT CheckStanding(const char* iFunction) const;
+    HRESULT CheckObjectList(const char* iFunction) const;
+    HRESULT CheckListRead(const char* iFunction, int index) const;
+    HRESULT CheckListWrite(const char* iFunction, int index) const;
+    HRESULT CheckSize(const char* iFunction, int index) const;
+    HRESULT ParameterValue(const char* iFunction, ORXIValue_var& oValue) const;
+    ORXICkeType_var AttributeType(const char* iFunction) const;
+    ORXICkeType_var ParameterType(const char* iFunction) const;
+
+    ORXISpecAttrAccess_var _spAttr;
+    ORXISpecAttrKey_var _spKey;
+    ORXUnicodeString _error;
+};
+
+#endif

@@ -1,0 +1,180 @@
+#ifndef VYRCfdTie_H
+#define VYRCfdTie_H
+
+/**
+ * @file
+ * The ties of the module: small objects that implement an interface and forward each operation to an extension
+ * instance.
+ */
+
+#include <atomic>
+#include <new>
+
+#include "ORXIInstance.h"
+#include "ORXTie.h"
+#include "VYRIMpaDefaultManagement.h"
+
+/**
+ * What a tie does beyond forwarding.
+ * @tparam Tie the concrete tie, which names its interface by the static member `InterfaceName`
+ * @tparam Kind ORXTieClass for a tie that is made at each request, ORXSharedTieClass for one that is shared
+ */
+template <class Tie, class Interface, class Extension, ENUMTypeOfClass Kind> class VYRCfdTie : public Interface
+{
+public:
+    HRESULT QueryInterface(const IID& iInterface, void** oInterface) override
+    {
+        return Tie_Query(m_record, iInterface, oInterface);
+    }
+    using Interface::QueryInterface;
+
+    unsigned int AddRef() override { return Tie_AddRef(m_record); }
+
+    unsigned int Release() override
+    {
+        int mustDelete = 0;
+        const unsigned int count = Tie_Release(&mustDelete, m_record, Kind);
+        if (mustDelete != 0)
+            delete this;
+        return count;
+    }
+
+    ~VYRCfdTie() override { Tie_Destruct(m_record, Kind); }
+
+    /// New reference; null when there is no memory for it.
+    static ORXBaseUnknown* Create(ORXBaseUnknown* iExtended, ORXBaseUnknown* iExtension)
+    {
+        if constexpr (Kind == ORXSharedTieClass)
+        {
+            ORXBaseUnknown* shared = Tie_Link(iExtended, iExtension, Interface::ClassId());
+            if (shared != nullptr)
+                return shared;
+        }
+        Tie* tie = Make();
+        if (tie == nullptr)
+            return nullptr;
+        Tie_Construct(tie->m_record, tie, MetaObject(), iExtended, Interface::ClassId(), Kind, Extension::MetaObject(),
+                      &Extension::s_sharedSlot, &Extension::Construct, iExtension);
+        return tie;
+    }
+
+protected:
+    Extension* Instance() const { return static_cast<Extension*>(m_record.instance); }
+
+private:
+    static Tie* Make()
+    {
+        try
+        {
+            return new Tie;
+        }
+        catch (const std::bad_alloc&)
+        {
+            return nullptr;
+        }
+    }
+
+    static ORXMetaClass* MetaObject()
+    {
+        ORXMetaClass* meta = s_meta.load(std::memory_order_acquire);
+        if (meta != nullptr)
+            return meta;
+        ORXMetaClass* extension = Extension::MetaObject();
+        const qlx::internal::om_guard guard;
+        meta = s_meta.load(std::memory_order_relaxed);
+        if (meta == nullptr)
+        {
+            meta = qlx::internal::Tie_InitMetaObject(Interface::ClassId(), Tie::InterfaceName, Interface::MetaObject(),
+                                                     extension, Kind);
+            s_meta.store(meta, std::memory_order_release);
+        }
+        return meta;
+    }
+
+    static inline std::atomic<ORXMetaClass*> s_meta = nullptr;
+
+    ORXTieRecord m_record;
+};
+
+/// Made at each request.
+template <class Extension>
+class TIEVYRIMpaDefaultManagement final
+    : public VYRCfdTie<TIEVYRIMpaDefaultManagement<Extension>, VYRIMpaDefaultManagement, Extension, ORXTieClass>
+{
+public:
+    static constexpr const char* InterfaceName = "VYRIMpaDefaultManagement";
+
+    HRESULT IsSet(const ORXUnicodeString& iAttrName, unsigned char& oIsSet) override
+    {
+        return this->Instance()->IsSet(iAttrName, oIsSet);
+    }
+    HRESULT Unset(const ORXUnicodeString& iAttrName) override { return this->Instance()->Unset(iAttrName); }
+    HRESULT GetDefault(const ORXUnicodeString& iAttrName, ORXICkeInst_var& oValue) override
+    {
+        return this->Instance()->GetDefault(iAttrName, oValue);
+    }
+};
+
+/// Shared by all requests on one object.
+template <class Extension>
+class TIEORXIInstance final
+    : public VYRCfdTie<TIEORXIInstance<Extension>, ORXIInstance, Extension, ORXSharedTieClass>
+{
+public:
+    static constexpr const char* InterfaceName = "ORXIInstance";
+
+    HRESULT GetLogicalName(ORXUnicodeString& oName) override { return this->Instance()->GetLogicalName(oName); }
+    HRESULT SetLogicalName(const ORXUnicodeString& iName) override { return this->Instance()->SetLogicalName(iName); }
+    ORXCke::Boolean IsPublic() override { return this->Instance()->IsPublic(); }
+    ORXICkeType_var Type() override { return this->Instance()->Type(); }
+    ORXCke::Boolean IsSupporting(const ORXICkeType_var& iType) override
+    {
+        return this->Instance()->IsSupporting(iType);
+    }
+    HRESULT ListSupportedTypes(ORXListValORXUnicodeString& oTypes) override
+    {
+        return this->Instance()->ListSupportedTypes(oTypes);
+    }
+    HRESULT AddInstanceListener(const ORXBaseUnknown_var& iListener) override
+    {
+        return this->Instance()->AddInstanceListener(iListener);
+    }
+    HRESULT RemoveInstanceListener(const ORXBaseUnknown_var& iListener) override
+    {
+        return this->Instance()->RemoveInstanceListener(iListener);
+    }
+    HRESULT AdviseAttributeChanged(const ORXUnicodeString& iName, const ORXIValue_var& iValue) override
+    {
+        return this->Instance()->AdviseAttributeChanged(iName, iValue);
+    }
+    HRESULT AdviseDynamicAttributeAdded(const ORXUnicodeString& iName) override
+    {
+        return this->Instance()->AdviseDynamicAttributeAdded(iName);
+    }
+    HRESULT AdviseDynamicAttributeRemoved(const ORXUnicodeString& iName) override
+    {
+        return this->Instance()->AdviseDynamicAttributeRemoved(iName);
+    }
+    HRESULT AdviseDynamicAttributeRenamed(const ORXUnicodeString& iOldName, const ORXUnicodeString& iNewName) override
+    {
+        return this->Instance()->AdviseDynamicAttributeRenamed(iOldName, iNewName);
+    }
+    HRESULT AdviseRemoved() override { return this->Instance()->AdviseRemoved(); }
+    HRESULT AdviseModification() override { return this->Instance()->AdviseModification(); }
+    HRESULT AdviseTypeChanged(const ORXICkeType_var& iType) override
+    {
+        return this->Instance()->AdviseTypeChanged(iType);
+    }
+    HRESULT SetValue(const ORXUnicodeString& iName, const ORXIValue_var& iValue) override
+    {
+        return this->Instance()->SetValue(iName, iValue);
+    }
+    ORXIValue_var GetValue(const ORXUnicodeString& iName) override { return this->Instance()->GetValue(iName); }
+    ORXBaseUnknown_var GetOwner() override { return this->Instance()->GetOwner(); }
+    HRESULT AdviseSpecificEvent(const ORXUnicodeString& iEvent) override
+    {
+        return this->Instance()->AdviseSpecificEvent(iEvent);
+    }
+};
+
+#endif

@@ -1,0 +1,172 @@
+#include "VYRCfdUtilityMethods.h"
+
+#include <cstdio>
+#include <locale>
+#include <sstream>
+
+#include "ORXUuid.h"
+
+namespace
+{
+/// Splits the text and hands every token to `iAppend`. The next token starts one character behind the hit, whatever the
+/// delimiter's length.
+template <class Append>
+void Split(const ORXUnicodeString& iText, const ORXUnicodeString& iDelimiter, const Append& iAppend)
+{
+    const auto appendCleaned = [&iAppend](ORXUnicodeString iToken) {
+        iToken.ReplaceAll(" ", "");
+        iAppend(iToken);
+    };
+
+    const int length = iText.GetLengthInChar();
+    int start = 0;
+    int position = iText.FindPosition(iDelimiter, start);
+    while (position >= 0 && position < length)
+    {
+        appendCleaned(iText.SubString(start, position - start));
+        start = position + 1;
+        position = iText.FindPosition(iDelimiter, start);
+    }
+    appendCleaned(iText.SubString(start, length - start));
+}
+
+/// Reads a number as far as it goes; the decimal point is "." whatever the user's locale is.
+template <class Number> HRESULT Extract(const ORXUnicodeString& iText, Number& oNumber)
+{
+    std::istringstream stream(iText.CastToCharPtr());
+    stream.imbue(std::locale::classic());
+    stream >> oNumber;
+    return stream.fail() ? E_FAIL : S_OK;
+}
+
+unsigned int BigEndianWord(const unsigned char* iBytes)
+{
+    return (static_cast<unsigned int>(iBytes[0]) << 24) | (static_cast<unsigned int>(iBytes[1]) << 16) |
+           (static_cast<unsigned int>(iBytes[2]) << 8) | static_cast<unsigned int>(iBytes[3]);
+}
+
+/// The components of a path; what stands behind the last "/" is one only if it is not empty.
+std::vector<ORXUnicodeString> Components(const ORXUnicodeString& iPath)
+{
+    std::vector<ORXUnicodeString> components;
+    int start = 0;
+    int position = iPath.FindPosition("/", start);
+    while (position >= 0)
+    {
+        components.push_back(iPath.SubString(start, position - start));
+        start = position + 1;
+        position = iPath.FindPosition("/", start);
+    }
+    const ORXUnicodeString rest = iPath.SubString(start, iPath.GetLengthInChar() - start);
+    if (!rest.IsEmpty())
+        components.push_back(rest);
+    return components;
+}
+} // namespace
+
+HRESULT VYRCfdUtilityMethods::ConvertStringToList(ORXUnicodeString text, ORXListValORXUnicodeString& list,
+                                                  ORXUnicodeString delimiter)
+{
+    Split(text, delimiter, [&list](const ORXUnicodeString& iToken) { list.Append(iToken); });
+    return S_OK;
+}
+
+HRESULT VYRCfdUtilityMethods::ConvertStringToVector(ORXUnicodeString text, std::vector<ORXUnicodeString>& list,
+                                                    ORXUnicodeString delimiter)
+{
+    Split(text, delimiter, [&list](const ORXUnicodeString& iToken) { list.push_back(iToken); });
+    return S_OK;
+}
+
+HRESULT VYRCfdUtilityMethods::ConvertToBoolean(const ORXUnicodeString& text, bool& value,
+                                               VYRCfdBooleanConvertType type)
+{
+    ORXUnicodeString lower = text;
+    lower.ToLower();
+
+    for (const char* word : {"t", "y", "true", "yes", "on", "1"})
+        if (lower == word)
+        {
+            value = true;
+            return S_OK;
+        }
+    for (const char* word : {"f", "n", "false", "no", "off", "0"})
+        if (lower == word)
+        {
+            value = false;
+            return S_OK;
+        }
+
+    if (!lower.IsEmpty() || (type != VYRCfdEmptyIsTrue && type != VYRCfdEmptyIsFalse))
+        return E_FAIL;
+    value = type == VYRCfdEmptyIsTrue;
+    return S_OK;
+}
+
+HRESULT VYRCfdUtilityMethods::ConvertToDouble(const ORXUnicodeString& text, double& value)
+{
+    return Extract(text, value);
+}
+
+HRESULT VYRCfdUtilityMethods::ConvertToInteger(const ORXUnicodeString& text, int& value)
+{
+    return Extract(text, value);
+}
+
+ORXUnicodeString VYRCfdUtilityMethods::GenerateUUID()
+{
+    unsigned char bytes[16];
+    const ORXUuid identifier;
+    identifier.get(bytes);
+
+    // The last two words stand swapped, and none is padded: identifiers that were given out before look so.
+    char text[36];
+    std::snprintf(text, sizeof(text), "%x_%x_%x_%x", BigEndianWord(bytes), BigEndianWord(bytes + 4),
+                  BigEndianWord(bytes + 12), BigEndianWord(bytes + 8));
+    return ORXUnicodeString(text);
+}
+
+HRESULT VYRCfdUtilityMethods::NormalizePath(const ORXUnicodeString& path, ORXUnicodeString& normalized)
+{
+    const std::vector<ORXUnicodeString> components = Components(path);
+    normalized = "";
+
+    std::vector<ORXUnicodeString> kept;
+    kept.reserve(components.size());
+    for (const ORXUnicodeString& component : components)
+    {
+        if (component == "." || component.IsEmpty())
+            continue;
+        if (component == "..")
+        {
+            if (kept.empty())
+                return E_FAIL;
+            kept.pop_back();
+        }
+        else
+            kept.push_back(component);
+    }
+
+    for (std::size_t at = 0; at < kept.size(); ++at)
+    {
+        if (at > 0)
+            normalized.Append("/");
+        normalized.Append(kept[at]);
+    }
+    return S_OK;
+}
+
+HRESULT VYRCfdUtilityMethods::SplitAttr(ORXUnicodeString path, ORXUnicodeString& head, ORXUnicodeString& tail)
+{
+    const int position = path.SearchSubString("/", 0, 1);
+    if (position < 0)
+    {
+        head = path;
+        return S_OK;
+    }
+    head = path.SubString(0, position);
+    const int behind = position + 1;
+    if (behind < path.GetLengthInChar())
+        tail = path.SubString(behind, path.GetLengthInChar() - behind);
+    return S_OK;
+}

@@ -1,0 +1,21 @@
+#ifndef ORXCkeGlobalFunctions_H
+#define ORXCkeGlobalFunctions_H
+
+/**
+ * @file
+ * Link-time seam.
+ */
+
+#include "ORXICkeParmFactory.h"
+#include "ORXIParmDictionary.h"
+
+class ORXHostExport ORXCkeGlobalFunctions
+{
+public:
+    /// May be null.
+    static ORXIParmDictionary_var GetParmDictionary();
+    /// The factory of free-standing parameters; may be null.
+    static ORXICkeParmFactory_var GetVolatileFactory();
+};
+
+#endif

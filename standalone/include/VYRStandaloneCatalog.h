@@ -1,0 +1,55 @@
+#ifndef VYRStandaloneCatalog_H
+#define VYRStandaloneCatalog_H
+
+/**
+ * @file
+ * Feature types: declaring and loading catalogs, and asking what was declared.
+ *
+ * Types live until the process ends. Declaring is additive: a catalog that is declared again unchanged is accepted; a
+ * type may gain attributes as long as nothing was made of it or derived from it; an attribute that stands already with
+ * another kind is refused, and so is a type that contains itself by its components. A refused catalog declares
+ * nothing. Not to be called while another thread uses types.
+ */
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ORXISpecObject.h"
+#include "VYRStandaloneErrors.h"
+
+namespace VYRStandalone
+{
+/// Declares a catalog from its JSON text. @param iLabel stands for the file in errors. @throws DocumentError
+VYRStandaloneExport void DeclareCatalog(std::string_view iJson, const std::string& iLabel);
+
+/**
+ * Declares a catalog from a file, after the catalogs that it uses: those are sought as "NAME.catalog.json" beside it,
+ * then in the folders, then among those that come with the host ("VYRCfdBase").
+ * @throws DocumentError
+ */
+VYRStandaloneExport void LoadCatalog(const std::string& iFile, const std::vector<std::string>& iFolders = {});
+
+/// Names of all declared types, in the order of their declaration.
+VYRStandaloneExport std::vector<std::string> TypeNames();
+
+/// One attribute that an object carries.
+struct AttributeInfo
+{
+    std::string name;
+    /// Codes of ORXTypeCode; `listType` is 0 for everything but a list.
+    int type = 0;
+    int listType = 0;
+    /// Texts of an enumeration, also of a list of enumerations.
+    std::vector<std::string> values;
+    /// Type that declares it; empty for an attribute that was added to the object alone.
+    std::string declaredBy;
+    bool added = false;
+};
+
+/// The attributes of an object: the declared ones from the root type down, in the order of their declaration, then the
+/// added ones in the order in which they were added.
+VYRStandaloneExport std::vector<AttributeInfo> Attributes(const ORXISpecObject_var& iObject);
+} // namespace VYRStandalone
+
+#endif

@@ -1,0 +1,35 @@
+#ifndef VYRStandaloneHost_H
+#define VYRStandaloneHost_H
+
+/**
+ * @file
+ * The public face of the stand-alone host: an in-memory host for modules that are written against `host/`.
+ *
+ * What it decides where a host is free:
+ * - Components. `GetImpl(0)` gives one root for every facet, extension and tie of an object. A cast asks the object,
+ *   then the dictionary along its chain of types, most derived first. One extension instance per object and class,
+ *   made on demand and linked before its constructor runs; it lives until the object dies. While it is under
+ *   construction, a request for its own interfaces on that object gives null. A call through a null handle throws
+ *   NullHandleError, the reaction to an unexpected null pointer throws NullPointerError.
+ * - Keys and types live until the process ends; an inherited attribute has one key on all types.
+ * - Objects. A component attribute aggregates, a reference attribute only refers. An object that gains an owner leaves
+ *   its container's list; one that loses its owner leaves the model. A component attribute that names a type comes
+ *   into being with its owner, in silence.
+ * - Start-ups. One prototype per type, inherited and overlaid down the chain of types. Writes to prototypes are silent.
+ * - Values. An unset value is not valuated and is something else than an empty text. A text that cannot be read and a
+ *   value of the wrong kind change nothing and tell nobody.
+ * - Notifications. Every successful write tells the written object's ORXIInstance once, after the store, inside the
+ *   write, also when the new value equals the old. Taking a value away where there is none tells nobody. The object is
+ *   held for the length of the call.
+ * - Errors and traces are kept per thread; everything process-wide is made on first use and never destroyed.
+ *
+ * Not here yet: units, optional attributes.
+ */
+
+#include "VYRStandaloneCatalog.h"
+#include "VYRStandaloneErrors.h"
+#include "VYRStandaloneInstruments.h"
+#include "VYRStandaloneModel.h"
+#include "VYRStandaloneServices.h"
+
+#endif
