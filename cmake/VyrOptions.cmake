@@ -1,0 +1,34 @@
+# What can be chosen at configure time, and what holds for every translation unit of the tree. The presets set these.
+
+option(VYRCFD_BUILD_TOOLS "Build the command-line tool; needs CLI11" ON)
+option(VYRCFD_BUILD_TESTS "Build the tests; needs GoogleTest and Python 3" ${PROJECT_IS_TOP_LEVEL})
+option(VYRCFD_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
+set(VYRCFD_SANITIZE "" CACHE STRING "Sanitizers for the whole tree, as -fsanitize= takes them; clang")
+set(VYRCFD_HOST VYRStandaloneHost CACHE STRING
+  "The host that VYRCfdBase is linked with: a target of this tree, or the path of a shared library")
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
+
+find_program(VYRCFD_CCACHE ccache)
+mark_as_advanced(VYRCFD_CCACHE)
+if(VYRCFD_CCACHE AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${VYRCFD_CCACHE}")
+endif()
+
+# Reports carry __FILE__, which relative to the repository reads the same on every machine. Debug information keeps
+# its paths, so that debuggers and sanitizers find the sources.
+add_compile_options("-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=")
+
+if(VYRCFD_SANITIZE)
+  # The runtime of a sanitizer must see every object, so this cannot be a property of single targets.
+  add_compile_options(-fsanitize=${VYRCFD_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_compile_options("-fsanitize-ignorelist=${PROJECT_SOURCE_DIR}/cmake/sanitizers.ignore")
+  add_link_options(-fsanitize=${VYRCFD_SANITIZE})
+endif()

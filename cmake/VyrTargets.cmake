@@ -1,0 +1,38 @@
+# What the targets of this tree have in common.
+
+# Warnings stand on a target of their own and are linked privately: who uses our headers keeps their own warnings.
+add_library(vyr_warnings INTERFACE)
+target_compile_options(vyr_warnings INTERFACE
+  -Wall
+  -Wextra
+  -Wpedantic
+  -Wshadow
+  -Wnon-virtual-dtor
+  -Woverloaded-virtual
+  $<$<BOOL:${VYRCFD_WARNINGS_AS_ERRORS}>:-Werror>)
+
+# vyr_glob(<out> <pattern>...)
+#
+# The source files that match, found again at each build. A folder that holds none is a broken tree, and is told at
+# once instead of by the linker.
+function(vyr_glob out)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${ARGN})
+  if(NOT sources)
+    message(FATAL_ERROR "No source file matches ${ARGN}")
+  endif()
+  set(${out} ${sources} PARENT_SCOPE)
+endfunction()
+
+# vyr_library_defaults(<target>)
+#
+# For the shared libraries: only what carries the export macro is visible, and nothing is left for the loader to find.
+function(vyr_library_defaults target)
+  set_target_properties(${target} PROPERTIES
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON)
+  target_link_libraries(${target} PRIVATE vyr_warnings)
+  # Under clang a sanitizer's runtime is linked into the executable only, so a library must leave its symbols open.
+  if(NOT VYRCFD_SANITIZE)
+    target_link_options(${target} PRIVATE LINKER:--no-undefined)
+  endif()
+endfunction()
