@@ -1,0 +1,78 @@
+# Shared by ./run and ./test, which read it in: what must be installed, and building a preset.
+# Expects $root, the folder of the repository.
+
+# Everything goes to standard error: the standard output of ./run is the tool's.
+say() { printf '%s\n' "$*" >&2; }
+
+# has_header NAME: the compiler finds <NAME>.
+has_header() { command -v g++ >/dev/null && printf '#include <%s>\n' "$1" | g++ -E -x c++ - >/dev/null 2>&1; }
+
+# has_library FILE: the linker finds it; the compiler prints the path then, else the bare name.
+has_library() { [ "$(g++ -print-file-name="$1")" != "$1" ]; }
+
+# Asks for what a package brings and not for the package, so that a newer one, or one installed by hand, will do.
+is_there() {
+    case $1 in
+        ninja-build) command -v ninja >/dev/null ;;
+        rapidjson-dev) has_header rapidjson/document.h ;;
+        libcli11-dev) has_header CLI/CLI.hpp ;;
+        libgtest-dev) has_header gtest/gtest.h && has_library libgtest.a ;;
+        libclang-rt-14-dev) command -v clang++ >/dev/null && [ -f "$(clang++ -print-runtime-dir)/libclang_rt.asan-$(uname -m).a" ] ;;
+        binutils) command -v nm >/dev/null ;;
+        *) command -v "$1" >/dev/null ;;
+    esac
+}
+
+missing_of() {
+    local package
+    for package in "$@"; do
+        is_there "$package" || printf '%s ' "$package"
+    done
+}
+
+# set_up PACKAGE...: installs those of the packages that are missing, or says which these are.
+set_up() {
+    local missing
+    missing=$(missing_of "$@")
+    [ -n "$missing" ] || return 0
+    if [ "$(id -u)" -ne 0 ] || ! command -v apt-get >/dev/null; then
+        say "Missing packages (names as in Debian 12): ${missing% }"
+        say "Install them, or run this as root on Debian 12, where it does so itself."
+        return 1
+    fi
+    say "Installing: ${missing% }"
+    {
+        apt-get update -q
+        # shellcheck disable=SC2086 # one word a package
+        DEBIAN_FRONTEND=noninteractive apt-get install -q -y --no-install-recommends $missing
+    } >&2
+    missing=$(missing_of "$@")
+    if [ -n "$missing" ]; then
+        say "Still missing after installation: ${missing% }"
+        return 1
+    fi
+}
+
+RUN_PACKAGES=(g++ cmake ninja-build ccache rapidjson-dev libcli11-dev)
+TEST_PACKAGES=("${RUN_PACKAGES[@]}" libgtest-dev python3 binutils)
+SANITIZER_PACKAGES=(clang libclang-rt-14-dev)
+
+# build PRESET [--target TARGET...] [-D...]: configures and builds it below build/.
+build() {
+    local preset=$1
+    shift
+    local settings=() targets=()
+    local argument
+    for argument in "$@"; do
+        case $argument in
+            -D*) settings+=("$argument") ;;
+            *) targets+=("$argument") ;;
+        esac
+    done
+    # Presets are read from the working folder, so this runs in the repository, in a process of its own.
+    (
+        cd "$root"
+        cmake --preset "$preset" "${settings[@]}"
+        cmake --build --preset "$preset" --parallel "$(nproc)" "${targets[@]}"
+    ) >&2
+}
