@@ -42,6 +42,17 @@ void Declare(std::string_view iCatalog)
     VYRStandalone::DeclareCatalog(iCatalog, "test");
 }
 
+void MakeFail(const char* iOperation, const char* iSubject, HRESULT iStatus, int iCall, int iTimes)
+{
+    VYRStandalone::Fault fault;
+    fault.operation = iOperation;
+    fault.subject = iSubject;
+    fault.status = iStatus;
+    fault.call = iCall;
+    fault.times = iTimes;
+    VYRStandalone::PlantFault(fault);
+}
+
 VYRCfdObjectAccess Cursor(const ORXISpecObject_var& iObject)
 {
     return VYRCfdObjectAccess(ORXBaseUnknown_var(iObject));

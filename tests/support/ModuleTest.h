@@ -57,6 +57,9 @@ Records Reported();
 /// declare the same text in every test that needs it.
 void Declare(std::string_view iCatalog);
 
+/// Makes calls of a host operation fail, from the `iCall`-th on `iTimes` of them, 0 for all; see VYRStandalone::Fault.
+void MakeFail(const char* iOperation, const char* iSubject, HRESULT iStatus = E_FAIL, int iCall = 1, int iTimes = 0);
+
 VYRCfdObjectAccess Cursor(const ORXISpecObject_var& iObject);
 ORXISpecAttrAccess_var AccessOf(const ORXISpecObject_var& iObject);
 
