@@ -1,0 +1,61 @@
+#include "WholeFile.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace
+{
+class OpenFile
+{
+public:
+    explicit OpenFile(const std::string& iPath) : m_descriptor(open(iPath.c_str(), O_RDONLY | O_CLOEXEC)) {}
+    ~OpenFile()
+    {
+        if (m_descriptor >= 0)
+            close(m_descriptor);
+    }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    int Descriptor() const noexcept { return m_descriptor; }
+
+private:
+    int m_descriptor;
+};
+
+std::string LastError()
+{
+    return std::generic_category().message(errno);
+}
+} // namespace
+
+std::string ReadWholeFile(const std::string& iPath, std::string& oText)
+{
+    const OpenFile file(iPath);
+    if (file.Descriptor() < 0)
+        return "cannot be opened: " + LastError();
+    struct stat status = {};
+    if (fstat(file.Descriptor(), &status) != 0)
+        return "cannot be read: " + LastError();
+    if (S_ISDIR(status.st_mode))
+        return "is a folder, not a file";
+
+    std::string text;
+    char buffer[65536];
+    for (;;)
+    {
+        const ssize_t count = read(file.Descriptor(), buffer, sizeof(buffer));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return "cannot be read: " + LastError();
+        if (count == 0)
+            break;
+        text.append(buffer, static_cast<std::size_t>(count));
+    }
+    oText = std::move(text);
+    return {};
+}
