@@ -1,10 +1,13 @@
 #include "JIStream.h"
 
+#include "FileName.h"
+#include "Instruments.h"
 #include "StrictJson.h"
 #include "WholeFile.h"
 
 namespace
 {
+using VYRStandalone::Instruments;
 using JsonValue = rapidjson::Value;
 
 /// The first member of that name, null when there is none.
@@ -38,6 +41,8 @@ bool JIStream::ParseFile(const char* iPath, bool iReplace)
 {
     if (iReplace)
         *this = JIStream();
+    if (Instruments::Active() && iPath != nullptr && Instruments::Fails("ParseFile", FileName(iPath), nullptr))
+        return false;
     std::string text;
     if (iPath == nullptr || !ReadWholeFile(iPath, text).empty())
         return false;

@@ -7,11 +7,15 @@
 #include <string>
 #include <string_view>
 
+#include "FileName.h"
+#include "Instruments.h"
 #include "PerThread.h"
 #include "VYRStandaloneServices.h"
 
 namespace
 {
+using VYRStandalone::Instruments;
+
 constexpr char PathSeparator = ':';
 
 /// What was set here. A text stays where it is until its variable is set anew.
@@ -49,6 +53,8 @@ const char* ORXGetOfficialVariable(const char* iName)
 {
     if (iName == nullptr)
         return nullptr;
+    if (Instruments::Active() && Instruments::Fails("GetOfficialVariable", std::string_view(iName), nullptr))
+        return nullptr;
     OfficialVariables& variables = Variables();
     const std::lock_guard lock(variables.mutex);
     const auto found = variables.values.find(std::string_view(iName));
@@ -58,6 +64,8 @@ const char* ORXGetOfficialVariable(const char* iName)
 const char* ORXFindPath(const char* iRelativePath, const char* iPathList)
 {
     if (iRelativePath == nullptr || iPathList == nullptr)
+        return nullptr;
+    if (Instruments::Active() && Instruments::Fails("FindPath", FileName(iRelativePath), nullptr))
         return nullptr;
     std::string_view left = iPathList;
     while (!left.empty())

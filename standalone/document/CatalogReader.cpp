@@ -1,0 +1,236 @@
+#include "CatalogReader.h"
+
+#include <algorithm>
+#include <set>
+
+#include "DocumentNode.h"
+#include "KindNames.h"
+#include "ORXTypeCode.h"
+#include "TypeRegistry.h"
+#include "VYRStandaloneErrors.h"
+#include "Wording.h"
+
+namespace VYRStandalone
+{
+namespace
+{
+/// Reads one type; values go behind one another with their places.
+class TypeReader
+{
+public:
+    TypeReader(TypeDeclaration& oType, std::vector<std::string>& oValuePaths) : m_type(oType), m_valuePaths(oValuePaths)
+    {
+    }
+
+    void Read(const DocumentNode& iType);
+
+private:
+    void ReadName(const DocumentNode& iName);
+    void ReadAttribute(const DocumentNode& iAttribute);
+    void ReadKind(const DocumentNode& iAttribute, AttributeDeclaration& oAttribute);
+    void ReadTexts(const DocumentNode& iAttribute, AttributeDeclaration& oAttribute);
+    void ReadDefault(const DocumentNode& iDefault, const AttributeDeclaration& iAttribute);
+    void ReadStartup(const DocumentNode& iMembers, const std::vector<std::string>& iPath);
+    void AddValue(const DocumentNode& iValue, const std::vector<std::string>& iPath);
+
+    TypeDeclaration& m_type;
+    std::vector<std::string>& m_valuePaths;
+};
+
+bool EndsWith(std::string_view iText, std::string_view iEnd)
+{
+    return iText.size() >= iEnd.size() && iText.substr(iText.size() - iEnd.size()) == iEnd;
+}
+
+/// What is planned for documents and not yet there must not look like a misspelling.
+void RefuseForNow(const DocumentNode& iNode, std::initializer_list<std::string_view> iKeys)
+{
+    for (const std::string_view key : iKeys)
+        if (const std::optional<DocumentNode> found = iNode.Find(key))
+            found->Fail("not supported yet");
+}
+
+int ReadKindName(const DocumentNode& iKind, bool iWithList)
+{
+    const std::string name = iKind.Text();
+    const std::optional<int> code = TypeCodeOfKind(name);
+    if (!code || (*code == tk_list && !iWithList))
+        iKind.Fail("unknown kind " + Quoted(name) + InsteadOf(name, KindNames(iWithList)));
+    return *code;
+}
+
+bool IsObjectCode(int iCode)
+{
+    return iCode == tk_component || iCode == tk_specobject;
+}
+
+/// A path has to be able to name an attribute, a condition to compare it, and its flags to have names of their own.
+void CheckAttributeName(const DocumentNode& iName)
+{
+    const std::string name = iName.NonEmptyText();
+    if (name.find_first_of("/=!<>") != std::string::npos)
+        iName.Fail("the name of an attribute holds no \"/\", \"=\", \"!\", \"<\" or \">\"");
+    if (EndsWith(name, "_isset") || EndsWith(name, "_isauto"))
+        iName.Fail("the name of an attribute does not end in \"_isset\" or \"_isauto\": these are names of flags");
+}
+
+void TypeReader::Read(const DocumentNode& iType)
+{
+    iType.ExpectKeys({"name", "base", "attributes", "startup", "configurations", "manager"});
+    RefuseForNow(iType, {"manager"});
+    ReadName(iType.Require("name"));
+    if (const auto base = iType.Find("base"))
+        m_type.base = base->NonEmptyText();
+    // For the tool, which starts from these when it checks configurations.
+    if (const auto configurations = iType.Find("configurations"))
+        configurations->Texts();
+    if (const auto attributes = iType.Find("attributes"))
+        for (const DocumentNode& attribute : attributes->Elements())
+            ReadAttribute(attribute);
+    if (const auto startup = iType.Find("startup"))
+        ReadStartup(*startup, {});
+}
+
+void TypeReader::ReadName(const DocumentNode& iName)
+{
+    m_type.name = iName.NonEmptyText();
+    if (m_type.name.find_first_of(" ,") != std::string::npos)
+        iName.Fail("the name of a type holds no blank and no comma");
+}
+
+void TypeReader::ReadAttribute(const DocumentNode& iAttribute)
+{
+    iAttribute.ExpectKeys({"name", "kind", "of", "values", "type", "default", "unit", "optional"});
+    RefuseForNow(iAttribute, {"unit", "optional"});
+    AttributeDeclaration attribute;
+    const DocumentNode name = iAttribute.Require("name");
+    CheckAttributeName(name);
+    attribute.name = name.Text();
+    for (const AttributeDeclaration& other : m_type.attributes)
+        if (other.name == attribute.name)
+            name.Fail("the type has an attribute " + Quoted(attribute.name) + " already");
+    ReadKind(iAttribute, attribute);
+    ReadTexts(iAttribute, attribute);
+    if (const auto type = iAttribute.Find("type"))
+    {
+        if (attribute.type != tk_component)
+            type->Fail("belongs to kind \"component\" only");
+        attribute.componentType = type->NonEmptyText();
+    }
+    m_type.attributes.push_back(attribute);
+    if (const auto value = iAttribute.Find("default"))
+        ReadDefault(*value, attribute);
+}
+
+void TypeReader::ReadKind(const DocumentNode& iAttribute, AttributeDeclaration& oAttribute)
+{
+    oAttribute.type = ReadKindName(iAttribute.Require("kind"), true);
+    if (oAttribute.type == tk_list)
+        oAttribute.listType = ReadKindName(iAttribute.Require("of"), false);
+    else if (const auto of = iAttribute.Find("of"))
+        of->Fail("belongs to kind \"list\" only");
+}
+
+void TypeReader::ReadTexts(const DocumentNode& iAttribute, AttributeDeclaration& oAttribute)
+{
+    const bool isEnumeration = oAttribute.type == tk_enum || oAttribute.listType == tk_enum;
+    if (!isEnumeration)
+    {
+        if (const auto values = iAttribute.Find("values"))
+            values->Fail("belongs to kind \"enumeration\" only");
+        return;
+    }
+    const DocumentNode values = iAttribute.Require("values");
+    std::set<std::string> seen;
+    for (const DocumentNode& value : values.Elements())
+    {
+        const std::string text = value.NonEmptyText();
+        if (!seen.insert(text).second)
+            value.Fail(Quoted(text) + " stands twice");
+        oAttribute.texts.push_back(text);
+    }
+    if (oAttribute.texts.empty())
+        values.Fail("an enumeration has at least one text");
+}
+
+void TypeReader::ReadDefault(const DocumentNode& iDefault, const AttributeDeclaration& iAttribute)
+{
+    if (IsObjectCode(iAttribute.type) || IsObjectCode(iAttribute.listType))
+        iDefault.Fail("an attribute of objects has no default");
+    if (iAttribute.type == tk_list && !iDefault.IsArray())
+        iDefault.Fail("the default of a list is an array");
+    if (iAttribute.type != tk_list && iDefault.IsArray())
+        iDefault.Fail("only the default of a list is an array");
+    AddValue(iDefault, {iAttribute.name});
+}
+
+void TypeReader::ReadStartup(const DocumentNode& iMembers, const std::vector<std::string>& iPath)
+{
+    iMembers.ExpectObject();
+    for (const DocumentNode& member : iMembers.Members())
+    {
+        std::vector<std::string> path = iPath;
+        path.emplace_back(member.Key());
+        if (member.IsObject())
+            ReadStartup(member, path);
+        else
+            AddValue(member, path);
+    }
+}
+
+void TypeReader::AddValue(const DocumentNode& iValue, const std::vector<std::string>& iPath)
+{
+    PrototypeValue value;
+    value.path = iPath;
+    value.isList = iValue.IsArray();
+    if (value.isList)
+        for (const DocumentNode& element : iValue.Elements())
+            value.entries.push_back(element.Single());
+    else
+        value.entries.push_back(iValue.Single());
+    m_type.values.push_back(std::move(value));
+    m_valuePaths.push_back(iValue.Path());
+}
+} // namespace
+
+CatalogDocument ReadCatalog(std::string_view iJson, const std::string& iFile)
+{
+    rapidjson::Document json;
+    DocumentNode::Parse(iJson, iFile, json);
+    const DocumentNode root(iFile, json);
+    root.ExpectKeys({"catalog", "uses", "types"});
+
+    CatalogDocument catalog;
+    catalog.file = iFile;
+    catalog.declaration.name = root.Require("catalog").NonEmptyText();
+    if (const auto uses = root.Find("uses"))
+        catalog.uses = uses->Texts();
+    const DocumentNode types = root.Require("types");
+    std::set<std::string> names;
+    for (const DocumentNode& type : types.Elements())
+    {
+        catalog.valuePaths.emplace_back();
+        TypeReader(catalog.declaration.types.emplace_back(), catalog.valuePaths.back()).Read(type);
+        if (!names.insert(catalog.declaration.types.back().name).second)
+            type.FailAt("name", "the catalog has a type " + Quoted(catalog.declaration.types.back().name) + " already");
+    }
+    return catalog;
+}
+
+void CatalogDocument::Declare() const
+{
+    try
+    {
+        TypeRegistry::Instance().Declare(declaration);
+    }
+    catch (const DeclarationError& error)
+    {
+        std::string path = "/types/" + std::to_string(error.type);
+        if (error.value != DeclarationError::None)
+            path = valuePaths.at(error.type).at(error.value);
+        else if (error.attribute != DeclarationError::None)
+            path += "/attributes/" + std::to_string(error.attribute);
+        throw DocumentError(file, path, error.what());
+    }
+}
+} // namespace VYRStandalone

@@ -1,0 +1,31 @@
+#ifndef CatalogReader_H
+#define CatalogReader_H
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "TypeDeclaration.h"
+
+namespace VYRStandalone
+{
+/// A catalog that has been read and not yet declared.
+struct CatalogDocument
+{
+    std::string file;
+    /// Names of catalogs, in their order.
+    std::vector<std::string> uses;
+    CatalogDeclaration declaration;
+    /// By type and value of the declaration: where the value stands in the document.
+    std::vector<std::vector<std::string>> valuePaths;
+
+    /// @throws DocumentError when the catalog does not fit what is declared already; then nothing of it is
+    void Declare() const;
+};
+
+/// Reads the shape of a catalog; whether its types exist and its values fit is found when it is declared.
+/// @throws DocumentError
+CatalogDocument ReadCatalog(std::string_view iJson, const std::string& iFile);
+} // namespace VYRStandalone
+
+#endif

@@ -1,0 +1,162 @@
+#include "FileReplacement.h"
+
+#include <atomic>
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <filesystem>
+#include <optional>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace
+{
+constexpr mode_t NewFileMode = 0666; // as the process's mask leaves it
+constexpr mode_t PermissionBits = 07777;
+
+std::string Failure(int iError)
+{
+    return "cannot be written: " + std::generic_category().message(iError);
+}
+
+/// A file that is being written. Until it is renamed it is removed when it goes out of sight.
+class WrittenFile
+{
+public:
+    WrittenFile(std::string iPath, int iFlags, bool iIsTemporary)
+        : m_path(std::move(iPath)), m_descriptor(open(m_path.c_str(), iFlags | O_WRONLY | O_CLOEXEC, NewFileMode)),
+          m_isTemporary(iIsTemporary)
+    {
+    }
+
+    ~WrittenFile()
+    {
+        if (m_descriptor < 0)
+            return;
+        close(m_descriptor);
+        if (m_isTemporary)
+            unlink(m_path.c_str());
+    }
+
+    WrittenFile(const WrittenFile&) = delete;
+    WrittenFile& operator=(const WrittenFile&) = delete;
+
+    bool IsOpen() const noexcept { return m_descriptor >= 0; }
+
+    /// The operations answer 0 or the system's error.
+    int Write(const std::string& iText) const
+    {
+        std::size_t done = 0;
+        while (done < iText.size())
+        {
+            const ssize_t count = write(m_descriptor, iText.data() + done, iText.size() - done);
+            if (count < 0 && errno != EINTR)
+                return errno;
+            done += count > 0 ? static_cast<std::size_t>(count) : 0;
+        }
+        return 0;
+    }
+
+    int SetMode(mode_t iMode) const { return fchmod(m_descriptor, iMode) == 0 ? 0 : errno; }
+    int Synchronise() const { return fsync(m_descriptor) == 0 ? 0 : errno; }
+
+    int RenameTo(const std::string& iPath)
+    {
+        if (std::rename(m_path.c_str(), iPath.c_str()) != 0)
+            return errno;
+        m_isTemporary = false;
+        return 0;
+    }
+
+private:
+    std::string m_path;
+    int m_descriptor;
+    bool m_isTemporary;
+};
+
+/// Where links lead to, also when nothing stands there yet. Nothing when they lead in a circle.
+std::optional<std::filesystem::path> FollowLinks(std::filesystem::path iPath)
+{
+    constexpr int MostLinks = 40;
+    for (int i = 0; i < MostLinks; ++i)
+    {
+        std::error_code error;
+        const std::filesystem::path target = std::filesystem::read_symlink(iPath, error);
+        if (error)
+            return iPath;
+        iPath = iPath.parent_path() / target; // an absolute target stands for itself
+    }
+    return std::nullopt;
+}
+
+/// A name beside the file that no other save uses.
+std::string TemporaryPath(const std::filesystem::path& iFile)
+{
+    static std::atomic<unsigned> count{0};
+    const std::string name = ".vyrcfd-" + std::to_string(getpid()) + "-" + std::to_string(count++) + ".tmp";
+    return (iFile.parent_path() / name).string();
+}
+
+void SynchroniseFolder(const std::filesystem::path& iFile)
+{
+    const std::filesystem::path folder = iFile.has_parent_path() ? iFile.parent_path() : ".";
+    const int descriptor = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    // The file is whole either way; only after a crash could the old one be there again.
+    fsync(descriptor);
+    close(descriptor);
+}
+
+std::string WriteInPlace(const std::string& iPath, const std::string& iText)
+{
+    const WrittenFile file(iPath, 0, false);
+    const int error = file.IsOpen() ? file.Write(iText) : errno;
+    return error == 0 ? std::string() : Failure(error);
+}
+
+std::string WriteAndRename(const std::filesystem::path& iTarget, const std::string& iText, std::optional<mode_t> iMode)
+{
+    constexpr int MostTries = 100;
+    std::optional<WrittenFile> file;
+    for (int i = 0; i < MostTries; ++i)
+    {
+        file.emplace(TemporaryPath(iTarget), O_CREAT | O_EXCL, true);
+        // A name may be left over from a process that was stopped.
+        if (file->IsOpen() || errno != EEXIST)
+            break;
+    }
+    if (!file->IsOpen())
+        return Failure(errno);
+    int error = file->Write(iText);
+    if (error == 0 && iMode)
+        error = file->SetMode(*iMode);
+    if (error == 0)
+        error = file->Synchronise();
+    if (error == 0)
+        error = file->RenameTo(iTarget.string());
+    if (error != 0)
+        return Failure(error);
+    SynchroniseFolder(iTarget);
+    return {};
+}
+} // namespace
+
+std::string ReplaceFile(const std::string& iPath, const std::string& iText)
+{
+    struct stat status = {};
+    const bool exists = stat(iPath.c_str(), &status) == 0;
+    if (exists && S_ISDIR(status.st_mode))
+        return "is a folder, not a file";
+    if (exists && !S_ISREG(status.st_mode))
+        return WriteInPlace(iPath, iText);
+    // Renaming would pass by the protection of the file.
+    if (exists && access(iPath.c_str(), W_OK) != 0)
+        return Failure(errno);
+    const std::optional<std::filesystem::path> target = FollowLinks(iPath);
+    if (!target)
+        return Failure(ELOOP);
+    const auto mode = exists ? std::optional<mode_t>(status.st_mode & PermissionBits) : std::nullopt;
+    return WriteAndRename(*target, iText, mode);
+}

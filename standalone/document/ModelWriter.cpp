@@ -1,0 +1,421 @@
+#include "ModelWriter.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <unordered_map>
+#include <unordered_set>
+
+#include <rapidjson/memorystream.h>
+#include <rapidjson/prettywriter.h>
+
+#include "Container.h"
+#include "FeatureObject.h"
+#include "KindNames.h"
+#include "ObjectWalk.h"
+#include "VYRStandaloneErrors.h"
+#include "Wording.h"
+
+namespace VYRStandalone
+{
+namespace
+{
+constexpr const char* BuiltInCatalog = "VYRCfdBase";
+constexpr unsigned BlanksPerStep = 2;
+
+/// Strings of the host keep bytes of every kind; a document holds UTF-8 only.
+bool IsUtf8(std::string_view iText)
+{
+    struct Nowhere
+    {
+        void Put(char) {}
+    };
+    Nowhere nowhere;
+    rapidjson::MemoryStream bytes(iText.data(), iText.size());
+    while (bytes.Tell() < iText.size())
+        if (!rapidjson::UTF8<>::Validate(bytes, nowhere))
+            return false;
+    return true;
+}
+
+/// What references need: the objects of the model, and numbers for those that something refers to.
+class Identifiers
+{
+public:
+    explicit Identifiers(const std::vector<FeatureObject*>& iObjects);
+
+    /// 0 for an object that nothing refers to, or that is not in the model.
+    int Of(const FeatureObject& iObject) const
+    {
+        const auto found = m_ids.find(&iObject);
+        return found != m_ids.end() ? found->second : 0;
+    }
+
+private:
+    using Targets = std::unordered_set<const FeatureObject*>;
+
+    static void AddTargets(const FeatureObject& iObject, Targets& ioTargets);
+
+    std::unordered_map<const FeatureObject*, int> m_ids;
+};
+
+Identifiers::Identifiers(const std::vector<FeatureObject*>& iObjects)
+{
+    Targets targets;
+    for (const FeatureObject* object : iObjects)
+        AddTargets(*object, targets);
+    // Counted in the order of the document, so that they are the same in each save.
+    for (const FeatureObject* object : iObjects)
+        if (targets.count(object) != 0)
+            m_ids.emplace(object, static_cast<int>(m_ids.size()) + 1);
+}
+
+void Identifiers::AddTargets(const FeatureObject& iObject, Targets& ioTargets)
+{
+    for (const FeatureKey* key : iObject.Keys())
+    {
+        if (key->Slot() == SlotKind::Object && !key->Owns())
+            ioTargets.insert(iObject.Object(*key));
+        if (!key->IsListOfObjects())
+            continue;
+        // A component that stands in its list again is referred to from there.
+        Targets seen;
+        for (const FeatureObject* entry : std::get<std::vector<FeatureObject*>>(iObject.Entries(*key)))
+            if (!key->Owns() || !seen.insert(entry).second)
+                ioTargets.insert(entry);
+    }
+}
+
+/// Writes the text of one document.
+class ModelWriter
+{
+public:
+    ModelWriter(const std::string& iFile, const std::vector<FeatureObject*>& iAll)
+        : m_file(iFile), m_identifiers(iAll), m_writer(m_buffer)
+    {
+        m_writer.SetIndent(' ', BlanksPerStep);
+    }
+
+    std::string Write(const Container& iContainer, const std::vector<std::string>& iCatalogs);
+
+private:
+    /// One step of the place that is written, for errors.
+    class Step
+    {
+    public:
+        Step(ModelWriter& ioWriter, std::string iStep) : m_steps(ioWriter.m_steps)
+        {
+            m_steps.push_back(std::move(iStep));
+        }
+        ~Step() { m_steps.pop_back(); }
+        Step(const Step&) = delete;
+        Step& operator=(const Step&) = delete;
+
+    private:
+        std::vector<std::string>& m_steps;
+    };
+
+    [[noreturn]] void Fail(const std::string& iMessage) const;
+    void WriteKey(std::string_view iKey);
+    void WriteText(std::string_view iText);
+    void WriteTextUnder(const char* iKey, std::string_view iText);
+    void WriteReal(double iValue);
+    /// Lists of plain values stand on one line.
+    void StartShortList();
+    void EndShortList();
+    void WriteReals(const std::vector<double>& iValues);
+    void WriteScalar(const Scalar& iValue, const KnowledgeType& iType);
+    void WriteEntries(const ListEntries& iEntries, const KnowledgeType& iType);
+
+    void WriteObject(FeatureObject& iObject, std::size_t iDepth);
+    void WriteNames(const FeatureObject& iObject);
+    void WriteValues(const FeatureObject& iObject, std::size_t iDepth);
+    void WriteAdded(const FeatureObject& iObject, std::size_t iDepth);
+    void WriteAttribute(const FeatureObject& iObject, const FeatureKey& iKey, std::size_t iDepth);
+    void WriteObjectList(const FeatureObject& iObject, const FeatureKey& iKey, std::size_t iDepth);
+    void WriteReference(const FeatureObject& iTarget);
+
+    const std::string& m_file;
+    Identifiers m_identifiers;
+    rapidjson::StringBuffer m_buffer;
+    rapidjson::PrettyWriter<rapidjson::StringBuffer> m_writer;
+    std::vector<std::string> m_steps;
+};
+
+std::string ModelWriter::Write(const Container& iContainer, const std::vector<std::string>& iCatalogs)
+{
+    m_writer.StartObject();
+    WriteKey("model");
+    m_writer.Int(1);
+    WriteKey("catalogs");
+    StartShortList();
+    for (const std::string& catalog : iCatalogs)
+        WriteText(catalog);
+    EndShortList();
+    WriteKey("objects");
+    m_writer.StartArray();
+    const Step objects(*this, "objects");
+    for (std::size_t i = 0; i < iContainer.Objects().size(); ++i)
+    {
+        const Step place(*this, std::to_string(i));
+        WriteObject(*iContainer.Objects()[i], 0);
+    }
+    m_writer.EndArray();
+    m_writer.EndObject();
+    return std::string(m_buffer.GetString(), m_buffer.GetSize()) + "\n";
+}
+
+void ModelWriter::Fail(const std::string& iMessage) const
+{
+    std::string path;
+    for (const std::string& step : m_steps)
+        path += "/" + step;
+    throw DocumentError(m_file, path, iMessage);
+}
+
+void ModelWriter::WriteKey(std::string_view iKey)
+{
+    if (!IsUtf8(iKey))
+        Fail("the name of an attribute is no UTF-8 and cannot be saved");
+    m_writer.Key(iKey.data(), static_cast<rapidjson::SizeType>(iKey.size()));
+}
+
+void ModelWriter::WriteText(std::string_view iText)
+{
+    if (!IsUtf8(iText))
+        Fail("a text that is no UTF-8 cannot be saved");
+    m_writer.String(iText.data(), static_cast<rapidjson::SizeType>(iText.size()));
+}
+
+void ModelWriter::WriteTextUnder(const char* iKey, std::string_view iText)
+{
+    WriteKey(iKey);
+    const Step place(*this, iKey);
+    WriteText(iText);
+}
+
+void ModelWriter::WriteReal(double iValue)
+{
+    if (!std::isfinite(iValue))
+        Fail("a real that is infinite or no number cannot be saved");
+    // The shortest text that reads back the same, and looks like a real.
+    char text[64];
+    char* end = std::to_chars(text, text + sizeof(text), iValue).ptr;
+    if (std::find_if(text, end, [](char iLetter) { return iLetter == '.' || iLetter == 'e'; }) == end)
+    {
+        *end++ = '.';
+        *end++ = '0';
+    }
+    m_writer.RawValue(text, static_cast<std::size_t>(end - text), rapidjson::kNumberType);
+}
+
+void ModelWriter::StartShortList()
+{
+    m_writer.SetFormatOptions(rapidjson::kFormatSingleLineArray);
+    m_writer.StartArray();
+}
+
+void ModelWriter::EndShortList()
+{
+    m_writer.EndArray();
+    m_writer.SetFormatOptions(rapidjson::kFormatDefault);
+}
+
+void ModelWriter::WriteReals(const std::vector<double>& iValues)
+{
+    StartShortList();
+    for (const double value : iValues)
+        WriteReal(value);
+    EndShortList();
+}
+
+void ModelWriter::WriteScalar(const Scalar& iValue, const KnowledgeType& iType)
+{
+    if (std::holds_alternative<std::monostate>(iValue))
+        m_writer.Null();
+    else if (const double* real = std::get_if<double>(&iValue))
+        WriteReal(*real);
+    else if (const bool* boolean = std::get_if<bool>(&iValue))
+        m_writer.Bool(*boolean);
+    else if (iType.Kind() == ValueKind::Enumeration)
+        WriteText(iType.ToText(iValue).View());
+    else if (const int* integer = std::get_if<int>(&iValue))
+        m_writer.Int(*integer);
+    else
+        WriteText(std::get<ORXUnicodeString>(iValue).View());
+}
+
+void ModelWriter::WriteEntries(const ListEntries& iEntries, const KnowledgeType& iType)
+{
+    if (const auto* reals = std::get_if<std::vector<double>>(&iEntries))
+    {
+        WriteReals(*reals);
+        return;
+    }
+    StartShortList();
+    if (const auto* numbers = std::get_if<std::vector<int>>(&iEntries))
+    {
+        const bool isBoolean = iType.Kind() == ValueKind::Boolean;
+        for (const int number : *numbers)
+            WriteScalar(isBoolean ? Scalar(number != 0) : Scalar(number), iType);
+    }
+    else
+        for (const ORXUnicodeString& text : std::get<std::vector<ORXUnicodeString>>(iEntries))
+            WriteText(text.View());
+    EndShortList();
+}
+
+void ModelWriter::WriteObject(FeatureObject& iObject, std::size_t iDepth)
+{
+    if (iDepth > DeepestNesting)
+        Fail("components stand inside each other more than " + std::to_string(DeepestNesting) + " deep");
+    m_writer.StartObject();
+    if (const std::vector<double>* rows = iObject.ColumnRows())
+    {
+        WriteKey("column");
+        const Step place(*this, "column");
+        WriteReals(*rows);
+        WriteNames(iObject);
+    }
+    else
+    {
+        WriteTextUnder("type", iObject.Type().Name());
+        WriteTextUnder("name", iObject.Name().View());
+        WriteNames(iObject);
+        WriteValues(iObject, iDepth);
+    }
+    WriteAdded(iObject, iDepth);
+    m_writer.EndObject();
+}
+
+void ModelWriter::WriteNames(const FeatureObject& iObject)
+{
+    if (const ORXUnicodeString* alias = iObject.Alias())
+        WriteTextUnder("alias", alias->View());
+    if (const ORXUnicodeString* identifier = iObject.Identifier())
+        WriteTextUnder("identifier", identifier->View());
+    if (const int id = m_identifiers.Of(iObject); id != 0)
+    {
+        WriteKey("id");
+        m_writer.Int(id);
+    }
+}
+
+void ModelWriter::WriteValues(const FeatureObject& iObject, std::size_t iDepth)
+{
+    WriteKey("values");
+    const Step values(*this, "values");
+    m_writer.StartObject();
+    for (const FeatureKey* key : iObject.Type().Keys())
+    {
+        const Step place(*this, std::string(key->Name().View()));
+        WriteKey(key->Name().View());
+        WriteAttribute(iObject, *key, iDepth);
+    }
+    m_writer.EndObject();
+}
+
+void ModelWriter::WriteAdded(const FeatureObject& iObject, std::size_t iDepth)
+{
+    if (iObject.Added().empty())
+        return;
+    WriteKey("added");
+    const Step added(*this, "added");
+    m_writer.StartObject();
+    for (const AddedAttribute* attribute : iObject.Added())
+    {
+        const FeatureKey& key = attribute->Key();
+        const Step place(*this, std::string(key.Name().View()));
+        WriteKey(key.Name().View());
+        m_writer.StartObject();
+        WriteTextUnder("kind", KindOfTypeCode(key.TypeCode()));
+        if (key.TypeCode() == tk_enum)
+        {
+            WriteKey("values");
+            WriteEntries(key.Knowledge()->Texts(), *KnowledgeType::String());
+        }
+        if (attribute->Flag() != 0)
+        {
+            WriteKey("flag");
+            m_writer.Int(attribute->Flag());
+        }
+        WriteKey("value");
+        WriteAttribute(iObject, key, iDepth);
+        m_writer.EndObject();
+    }
+    m_writer.EndObject();
+}
+
+void ModelWriter::WriteAttribute(const FeatureObject& iObject, const FeatureKey& iKey, std::size_t iDepth)
+{
+    switch (iKey.Slot())
+    {
+    case SlotKind::Value:
+        WriteScalar(iObject.Value(iKey), *iKey.Knowledge());
+        break;
+    case SlotKind::Object:
+        if (FeatureObject* object = iObject.Object(iKey); object == nullptr)
+            m_writer.Null();
+        else if (iKey.Owns())
+            WriteObject(*object, iDepth + 1);
+        else
+            WriteReference(*object);
+        break;
+    case SlotKind::List:
+        if (iKey.IsListOfObjects())
+            WriteObjectList(iObject, iKey, iDepth);
+        else
+            WriteEntries(iObject.Entries(iKey), *iKey.Knowledge());
+        break;
+    }
+}
+
+void ModelWriter::WriteObjectList(const FeatureObject& iObject, const FeatureKey& iKey, std::size_t iDepth)
+{
+    const auto& entries = std::get<std::vector<FeatureObject*>>(iObject.Entries(iKey));
+    std::unordered_set<const FeatureObject*> written;
+    m_writer.StartArray();
+    for (std::size_t i = 0; i < entries.size(); ++i)
+    {
+        const Step place(*this, std::to_string(i));
+        if (entries[i] == nullptr)
+            m_writer.Null();
+        else if (iKey.Owns() && written.insert(entries[i]).second)
+            WriteObject(*entries[i], iDepth + 1);
+        else
+            WriteReference(*entries[i]);
+    }
+    m_writer.EndArray();
+}
+
+void ModelWriter::WriteReference(const FeatureObject& iTarget)
+{
+    const int id = m_identifiers.Of(iTarget);
+    if (id == 0)
+        Fail("refers to " + Quoted(iTarget.Path()) + ", which is not in the model");
+    m_writer.StartObject();
+    WriteKey("ref");
+    m_writer.Int(id);
+    m_writer.EndObject();
+}
+
+/// Those that are named, then those that types of the objects come from and that have to be found again.
+std::vector<std::string> CatalogsOf(const std::vector<FeatureObject*>& iObjects, std::vector<std::string> iNamed)
+{
+    for (const FeatureObject* object : iObjects)
+    {
+        const std::string& catalog = object->Type().Catalog();
+        const bool isKnown = std::find(iNamed.begin(), iNamed.end(), catalog) != iNamed.end();
+        if (!catalog.empty() && catalog != BuiltInCatalog && !isKnown)
+            iNamed.push_back(catalog);
+    }
+    return iNamed;
+}
+} // namespace
+
+std::string WriteModel(const Container& iContainer, const std::vector<std::string>& iCatalogs, const std::string& iFile)
+{
+    const std::vector<FeatureObject*> all = AllObjects(iContainer);
+    return ModelWriter(iFile, all).Write(iContainer, CatalogsOf(all, iCatalogs));
+}
+} // namespace VYRStandalone
