@@ -1,0 +1,94 @@
+#include "ExtensionTable.h"
+
+#include <algorithm>
+
+#include "Census.h"
+#include "ORXComponentLink.h"
+
+namespace VYRStandalone
+{
+ORXBaseUnknown* ExtensionTable::FindOrMake(ORXBaseUnknown& iRoot, ORXMetaClass& iClass,
+                                           ORXInstanceConstructor iConstructor)
+{
+    for (const Instance& known : m_instances)
+        if (known.extensionClass == &iClass)
+            return known.instance;
+
+    m_instances.push_back({&iClass, nullptr});
+    ORXBaseUnknown* instance = nullptr;
+    try
+    {
+        const ORXComponentLink::Pending pending(iRoot);
+        instance = iConstructor();
+    }
+    catch (...)
+    {
+        Forget(iClass);
+        throw;
+    }
+    if (instance == nullptr)
+    {
+        Forget(iClass);
+        return nullptr;
+    }
+    // An instance that came from an allocator of its own has missed the link.
+    if (!ORXComponentLink::IsLinked(*instance))
+        ORXComponentLink::Link(*instance, iRoot);
+    Census::Born(Census::Extension);
+    // Looked up again: the constructor may have made other instances.
+    for (Instance& known : m_instances)
+        if (known.extensionClass == &iClass)
+            known.instance = instance;
+    return instance;
+}
+
+ORXBaseUnknown* ExtensionTable::Find(const ORXMetaClass& iClass) const noexcept
+{
+    for (const Instance& known : m_instances)
+        if (known.extensionClass == &iClass)
+            return known.instance;
+    return nullptr;
+}
+
+bool ExtensionTable::IsUnderConstruction(const ORXMetaClass& iClass) const noexcept
+{
+    for (const Instance& known : m_instances)
+        if (known.extensionClass == &iClass)
+            return known.instance == nullptr;
+    return false;
+}
+
+void ExtensionTable::AddLink(const IID& iInterface, ORXBaseUnknown& iFacet)
+{
+    m_links.push_back({iInterface, &iFacet});
+}
+
+void ExtensionTable::RemoveLinksTo(const ORXBaseUnknown& iFacet) noexcept
+{
+    m_links.erase(std::remove_if(m_links.begin(), m_links.end(),
+                                 [&](const Link& iLink) { return iLink.facet == &iFacet; }),
+                  m_links.end());
+}
+
+void ExtensionTable::Clear()
+{
+    m_links.clear();
+    while (!m_instances.empty())
+    {
+        // Out of the table first: a destructor may look at the object.
+        ORXBaseUnknown* const instance = m_instances.back().instance;
+        m_instances.pop_back();
+        if (instance == nullptr)
+            continue;
+        Census::Died(Census::Extension);
+        delete instance;
+    }
+}
+
+void ExtensionTable::Forget(const ORXMetaClass& iClass) noexcept
+{
+    m_instances.erase(std::remove_if(m_instances.begin(), m_instances.end(),
+                                     [&](const Instance& iKnown) { return iKnown.extensionClass == &iClass; }),
+                      m_instances.end());
+}
+} // namespace VYRStandalone

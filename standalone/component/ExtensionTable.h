@@ -1,0 +1,64 @@
+#ifndef ExtensionTable_H
+#define ExtensionTable_H
+
+#include <vector>
+
+#include "ORXFillDictionary.h"
+#include "ORXMetaClass.h"
+
+namespace VYRStandalone
+{
+/**
+ * What extends one object: the instances of extension classes, which it owns, and the interfaces that can be handed
+ * out again: direct ones, and shared ties, which are known weakly.
+ */
+class ExtensionTable
+{
+public:
+    /**
+     * The instance of a class; it is made through the constructor when there is none, and linked to the root before
+     * its constructor runs. Null while that constructor runs.
+     */
+    ORXBaseUnknown* FindOrMake(ORXBaseUnknown& iRoot, ORXMetaClass& iClass, ORXInstanceConstructor iConstructor);
+
+    /// The instance of a class that is complete; null when there is none.
+    ORXBaseUnknown* Find(const ORXMetaClass& iClass) const noexcept;
+
+    /// True while the instance of the class is under construction.
+    bool IsUnderConstruction(const ORXMetaClass& iClass) const noexcept;
+
+    /// An interface that can be handed out again; null when there is none. No reference is added.
+    ORXBaseUnknown* FindLink(const IID& iInterface) const noexcept
+    {
+        for (const Link& link : m_links)
+            if (link.interfaceId == iInterface)
+                return link.facet;
+        return nullptr;
+    }
+    void AddLink(const IID& iInterface, ORXBaseUnknown& iFacet);
+    void RemoveLinksTo(const ORXBaseUnknown& iFacet) noexcept;
+
+    /// Deletes the instances, the youngest first.
+    void Clear();
+
+private:
+    struct Instance
+    {
+        const ORXMetaClass* extensionClass;
+        /// Null while it is under construction.
+        ORXBaseUnknown* instance;
+    };
+    struct Link
+    {
+        IID interfaceId;
+        ORXBaseUnknown* facet;
+    };
+
+    void Forget(const ORXMetaClass& iClass) noexcept;
+
+    std::vector<Instance> m_instances;
+    std::vector<Link> m_links;
+};
+} // namespace VYRStandalone
+
+#endif

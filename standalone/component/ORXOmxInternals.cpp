@@ -1,0 +1,8 @@
+#include "ORXOmxInternals.h"
+
+#include "VYRStandaloneErrors.h"
+
+void ORXOmx::Internals::NullPointerAssertion()
+{
+    throw VYRStandalone::NullPointerError();
+}

@@ -1,0 +1,90 @@
+#include "ORXTie.h"
+
+#include "Census.h"
+#include "FeatureObject.h"
+#include "ORXComponentLink.h"
+#include "ORXOmxInternals.h"
+
+using VYRStandalone::Census;
+using VYRStandalone::FeatureObject;
+
+ORXBaseUnknown* ToCreateBOA(ORXBaseUnknown* iExtended, ORXBaseUnknown* iExtension, ORXMetaClass* iClass,
+                            const IID& iInterface, ORXInstanceConstructor iConstructor)
+{
+    FeatureObject* const object = FeatureObject::Of(iExtended);
+    if (object == nullptr || iClass == nullptr || iConstructor == nullptr)
+        return nullptr;
+    ORXBaseUnknown* const instance =
+        iExtension != nullptr ? iExtension : object->Extensions().FindOrMake(*object->Root(), *iClass, iConstructor);
+    if (instance == nullptr)
+        return nullptr;
+    if (object->Extensions().FindLink(iInterface) == nullptr)
+        object->Extensions().AddLink(iInterface, *instance);
+    object->AddReference();
+    return instance;
+}
+
+ORXBaseUnknown* Tie_Link(ORXBaseUnknown* iExtended, ORXBaseUnknown*, const IID& iInterface)
+{
+    FeatureObject* const object = FeatureObject::Of(iExtended);
+    ORXBaseUnknown* const tie = object != nullptr ? object->Extensions().FindLink(iInterface) : nullptr;
+    if (tie != nullptr)
+        tie->AddRef();
+    return tie;
+}
+
+void Tie_Construct(ORXTieRecord& ioTie, ORXBaseUnknown* iTie, ORXMetaClass* iTieMeta, ORXBaseUnknown* iExtended,
+                   const IID& iInterface, ENUMTypeOfClass iKind, ORXMetaClass* iClass, void**,
+                   ORXInstanceConstructor iConstructor, ORXBaseUnknown* iExtension)
+{
+    FeatureObject* const object = FeatureObject::Of(iExtended);
+    if (object == nullptr || iTie == nullptr || iTieMeta == nullptr || iClass == nullptr)
+        ORXOmx::Internals::NullPointerAssertion();
+    ORXBaseUnknown& root = *object->Root();
+    // First, since a constructor may throw: then nothing of the tie has been linked.
+    ioTie.instance =
+        iExtension != nullptr ? iExtension : object->Extensions().FindOrMake(root, *iClass, iConstructor);
+    object->AddReference();
+    Census::Born(Census::Tie);
+    ORXComponentLink::Link(*iTie, root);
+    ioTie.tie = iTie;
+    ioTie.extended = &root;
+    ioTie.meta = iTieMeta;
+    ioTie.count = 1;
+    if (iKind == ORXSharedTieClass)
+        object->Extensions().AddLink(iInterface, *iTie);
+}
+
+HRESULT Tie_Query(ORXTieRecord& ioTie, const IID& iInterface, void** oInterface)
+{
+    if (!(iInterface == ioTie.meta->InterfaceId()))
+        return ioTie.extended->QueryInterface(iInterface, oInterface);
+    *oInterface = ioTie.tie;
+    ++ioTie.count;
+    return S_OK;
+}
+
+unsigned int Tie_AddRef(ORXTieRecord& ioTie)
+{
+    return ++ioTie.count;
+}
+
+unsigned int Tie_Release(int* oMustDelete, ORXTieRecord& ioTie, ENUMTypeOfClass)
+{
+    const unsigned int left = --ioTie.count;
+    *oMustDelete = left == 0 ? 1 : 0;
+    return left;
+}
+
+void Tie_Destruct(ORXTieRecord& ioTie, ENUMTypeOfClass)
+{
+    FeatureObject* const object = FeatureObject::Of(ioTie.extended);
+    // A tie that was never constructed has nothing to give back.
+    if (object == nullptr)
+        return;
+    Census::Died(Census::Tie);
+    object->Extensions().RemoveLinksTo(*ioTie.tie);
+    ioTie.extended = nullptr;
+    ioTie.instance = nullptr;
+    object->DropReference();
+}

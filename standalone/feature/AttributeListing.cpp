@@ -1,0 +1,46 @@
+/**
+ * @file
+ * What the public face tells of types and attributes.
+ */
+
+#include "FeatureObject.h"
+#include "TypeRegistry.h"
+#include "VYRStandaloneCatalog.h"
+
+namespace VYRStandalone
+{
+namespace
+{
+AttributeInfo Describe(const FeatureKey& iKey)
+{
+    AttributeInfo info;
+    info.name = std::string(iKey.Name().View());
+    info.type = iKey.TypeCode();
+    info.listType = iKey.ListTypeCode();
+    if (iKey.Knowledge() != nullptr)
+        for (const ORXUnicodeString& text : iKey.Knowledge()->Texts())
+            info.values.emplace_back(text.View());
+    info.added = iKey.IsAdded();
+    if (!info.added)
+        info.declaredBy = iKey.Declaring()->Name();
+    return info;
+}
+} // namespace
+
+std::vector<std::string> TypeNames()
+{
+    std::vector<std::string> names;
+    for (const FeatureType* const type : TypeRegistry::Instance().Types())
+        names.push_back(type->Name());
+    return names;
+}
+
+std::vector<AttributeInfo> Attributes(const ORXISpecObject_var& iObject)
+{
+    std::vector<AttributeInfo> infos;
+    if (const FeatureObject* const object = FeatureObject::Of(iObject.Pointer()))
+        for (const FeatureKey* const key : object->Keys())
+            infos.push_back(Describe(*key));
+    return infos;
+}
+} // namespace VYRStandalone

@@ -1,0 +1,570 @@
+#include "FeatureObject.h"
+
+#include <algorithm>
+#include <typeinfo>
+
+#include "Census.h"
+#include "Container.h"
+#include "Dictionary.h"
+#include "Instruments.h"
+#include "InterfaceNames.h"
+#include "ORXIInstance.h"
+#include "ObjectNames.h"
+#include "RecordLines.h"
+#include "SlotMaking.h"
+#include "TableColumn.h"
+#include "TypeRegistry.h"
+
+namespace VYRStandalone
+{
+FeatureObject::FeatureObject(FeatureType& iType, const ORXUnicodeString& iName, FeatureObject* iStartup,
+                             bool iIsPrototype)
+    : m_access(*this), m_slotCount(static_cast<unsigned int>(iType.Keys().size())), m_isPrototype(iIsPrototype),
+      m_type(&iType), m_block(SlotBlock::Make(iType.SlotBytes())), m_startup(iStartup), m_name(iName)
+{
+    if (!m_isPrototype)
+        Census::Born(Census::FeatureObject);
+    MakeSlots();
+}
+
+FeatureObject::~FeatureObject()
+{
+    m_isDying = true;
+    // While the attributes are still there, since destructors of extensions may look at them.
+    m_extensions.Clear();
+    DropSlots();
+    m_block->Drop();
+    if (!m_isPrototype)
+        Census::Died(Census::FeatureObject);
+}
+
+FeatureObject* FeatureObject::Make(FeatureType& iType, const ORXUnicodeString& iName)
+{
+    return MakeAfter(*iType.Prototype(), iName);
+}
+
+FeatureObject* FeatureObject::MakeAfter(FeatureObject& iStartup, const ORXUnicodeString& iName)
+{
+    iStartup.Type().Freeze();
+    FeatureObject* const object = new FeatureObject(iStartup.Type(), iName, &iStartup, false);
+    object->CopyFrom(iStartup);
+    return object;
+}
+
+FeatureObject* FeatureObject::MakeColumn()
+{
+    FeatureType& type = TypeRegistry::Instance().ColumnType();
+    FeatureObject* const object = Make(type, type.Name().c_str());
+    object->m_column = std::make_unique<TableColumn>(*object);
+    return object;
+}
+
+FeatureObject* FeatureObject::MakePrototype(FeatureType& iType, const FeatureObject* iFormer)
+{
+    // Immortal, and so past the allocation that the census counts.
+    FeatureObject* const prototype = ::new FeatureObject(iType, iType.Name().c_str(), nullptr, true);
+    const FeatureObject* const former =
+        iFormer != nullptr || iType.Base() == nullptr ? iFormer : iType.Base()->Prototype();
+    if (former != nullptr)
+        prototype->CopyFrom(*former);
+    for (auto key = iType.Keys().begin() + (former != nullptr ? former->m_slotCount : 0); key != iType.Keys().end();
+         ++key)
+        if (FeatureType* const component = (*key)->ComponentType())
+            prototype->MakeComponent(**key, *component->Prototype());
+    return prototype;
+}
+
+FeatureObject* FeatureObject::Of(const ORXBaseUnknown* iComponent)
+{
+    ORXBaseUnknown* const root = iComponent != nullptr ? iComponent->GetImpl(0) : nullptr;
+    if (root == nullptr || typeid(*root) != typeid(FeatureObject))
+        return nullptr;
+    return static_cast<FeatureObject*>(root);
+}
+
+Container* FeatureObject::Home() const noexcept
+{
+    const FeatureObject* object = this;
+    while (object->m_owner != nullptr)
+        object = object->m_owner;
+    return object->m_container;
+}
+
+std::string FeatureObject::Path() const
+{
+    if (m_owner != nullptr)
+        return m_owner->Path() + '/' + std::string(m_ownerKey->Name().View());
+    return m_isPrototype ? '[' + m_type->Name() + ']' : std::string(m_name.View());
+}
+
+const ORXUnicodeString* FeatureObject::Alias() const noexcept
+{
+    return m_names != nullptr && !m_names->alias.text.IsEmpty() ? &m_names->alias.text : nullptr;
+}
+
+const ORXUnicodeString* FeatureObject::Identifier() const noexcept
+{
+    return m_names != nullptr && !m_names->identifier.text.IsEmpty() ? &m_names->identifier.text : nullptr;
+}
+
+void FeatureObject::SetAlias(const ORXUnicodeString& iAlias)
+{
+    Names().alias.text = iAlias;
+}
+
+void FeatureObject::SetIdentifier(const ORXUnicodeString& iIdentifier)
+{
+    Names().identifier.text = iIdentifier;
+}
+
+ObjectNames& FeatureObject::Names()
+{
+    if (m_names == nullptr)
+        m_names = std::make_unique<ObjectNames>(*this);
+    return *m_names;
+}
+
+FeatureKey* FeatureObject::FindKey(std::string_view iName) const noexcept
+{
+    FeatureKey* const declared = m_type->FindKey(iName);
+    return declared != nullptr || m_added == nullptr ? declared : m_added->names.Find(iName);
+}
+
+std::vector<FeatureKey*> FeatureObject::Keys() const
+{
+    std::vector<FeatureKey*> keys(m_type->Keys().begin(), SlotsEnd());
+    for (const AddedAttribute* const added : Added())
+        keys.push_back(&added->Key());
+    return keys;
+}
+
+FeatureKey* FeatureObject::Carried(ORXISpecAttrKey* iKey) const noexcept
+{
+    FeatureKey* const key = FeatureKey::Of(iKey);
+    if (key == nullptr)
+        return nullptr;
+    if (!key->IsAdded())
+        return m_type->Carries(*key) ? key : nullptr;
+    if (key->Home() != nullptr && &key->Home()->Object() == this)
+        return key;
+    // A key of another object's attribute serves here when name and kind agree.
+    FeatureKey* const own = m_added != nullptr ? m_added->names.Find(key->Name().View()) : nullptr;
+    return own != nullptr && FeatureKey::SameKind(own->Kind(), key->Kind()) ? own : nullptr;
+}
+
+const std::vector<AddedAttribute*>& FeatureObject::Added() const noexcept
+{
+    static const std::vector<AddedAttribute*>* const none = new std::vector<AddedAttribute*>;
+    return m_added != nullptr ? m_added->inOrder : *none;
+}
+
+AddedAttribute* FeatureObject::AddAttributeSilently(const ORXUnicodeString& iName, int iTypeCode, int iFlag,
+                                                    const std::vector<std::string>& iTexts)
+{
+    KnowledgeType* knowledge = KnowledgeType::OfTypeCode(iTypeCode);
+    const bool isObject = iTypeCode == tk_specobject || iTypeCode == tk_component;
+    if ((knowledge == nullptr && !isObject) || m_isPrototype || iName.IsEmpty())
+        return nullptr;
+    if (const FeatureKey* const known = FindKey(iName.View()))
+    {
+        const bool isSame = known->IsAdded() && known->TypeCode() == iTypeCode;
+        return isSame ? known->Home() : nullptr;
+    }
+    if (!iTexts.empty())
+        knowledge = KnowledgeType::MakeEnumeration(std::string(iName.View()), iTexts);
+    if (m_added == nullptr)
+        m_added = std::make_unique<AddedAttributes>();
+    // Past the allocation that the census counts: it is part of the object.
+    AddedAttribute* const added = ::new AddedAttribute(*this, {iName, iTypeCode, 0, knowledge}, iFlag);
+    m_added->inOrder.push_back(added);
+    m_added->names.Insert(&added->Key());
+    return added;
+}
+
+void FeatureObject::StoreEntries(const FeatureKey& iKey, ListEntries iEntries)
+{
+    List(iKey).entries = std::move(iEntries);
+}
+
+void FeatureObject::StoreObjects(const FeatureKey& iKey, const std::vector<FeatureObject*>& iObjects)
+{
+    // All new ones are held before any of the old ones goes: an object may be among both.
+    for (FeatureObject* const object : iObjects)
+        if (object != nullptr)
+        {
+            object->AddReference();
+            if (iKey.Owns())
+                Gained(*object, iKey);
+        }
+    std::vector<FeatureObject*> former(iObjects);
+    former.swap(std::get<std::vector<FeatureObject*>>(List(iKey).entries));
+    for (FeatureObject* const object : former)
+        if (object != nullptr)
+        {
+            if (iKey.Owns())
+                Lost(*object);
+            object->DropReference();
+        }
+}
+
+FeatureObject* FeatureObject::Object(const FeatureKey& iKey) const noexcept
+{
+    return ObjectAt(iKey).object;
+}
+
+void FeatureObject::StoreObject(const FeatureKey& iKey, FeatureObject* iObject)
+{
+    if (iObject != nullptr)
+    {
+        iObject->AddReference();
+        if (iKey.Owns())
+            Gained(*iObject, iKey);
+    }
+    FeatureObject* const former = std::exchange(ObjectAt(iKey).object, iObject);
+    if (former == nullptr)
+        return;
+    if (iKey.Owns())
+        Lost(*former);
+    former->DropReference();
+}
+
+std::vector<double>* FeatureObject::ColumnRows() noexcept
+{
+    return m_column != nullptr ? &m_column->Rows() : nullptr;
+}
+
+unsigned int FeatureObject::DropReference()
+{
+    if (m_isPrototype)
+        return 1;
+    const unsigned int left = --m_references;
+    if (left == 0)
+    {
+        // Destructors may hand the object out for a moment; that must not delete it again.
+        m_references = 1;
+        delete this;
+    }
+    return left;
+}
+
+bool FeatureObject::IsOrOwns(const FeatureObject& iOther) const noexcept
+{
+    for (const FeatureObject* object = &iOther; object != nullptr; object = object->m_owner)
+        if (object == this)
+            return true;
+    return false;
+}
+
+void FeatureObject::Gained(FeatureObject& ioChild, const FeatureKey& iKey)
+{
+    if (ioChild.m_owner != nullptr && (ioChild.m_owner != this || ioChild.m_ownerKey != &iKey))
+        ioChild.LeaveOwner();
+    if (ioChild.m_container != nullptr)
+        ioChild.m_container->Remove(ioChild);
+    ioChild.m_owner = this;
+    ioChild.m_ownerKey = &iKey;
+    ++ioChild.m_holdings;
+}
+
+void FeatureObject::Lost(FeatureObject& ioChild) noexcept
+{
+    if (--ioChild.m_holdings != 0)
+        return;
+    ioChild.m_owner = nullptr;
+    ioChild.m_ownerKey = nullptr;
+}
+
+/// The caller holds this object.
+void FeatureObject::LeaveOwner()
+{
+    FeatureObject& owner = *m_owner;
+    const FeatureKey& key = *m_ownerKey;
+    if (key.Slot() == SlotKind::Object)
+    {
+        owner.StoreObject(key, nullptr);
+        return;
+    }
+    std::vector<FeatureObject*> others = std::get<std::vector<FeatureObject*>>(owner.Entries(key));
+    others.erase(std::remove(others.begin(), others.end(), this), others.end());
+    owner.StoreObjects(key, others);
+}
+
+void FeatureObject::TakeReferences(std::vector<FeatureObject*>& ioTaken)
+{
+    for (const FeatureKey* const key : Keys())
+    {
+        std::vector<FeatureObject*> entries;
+        if (key->Slot() == SlotKind::Object)
+            entries.push_back(ObjectAt(*key).object);
+        else if (key->IsListOfObjects())
+            entries = std::get<std::vector<FeatureObject*>>(List(*key).entries);
+        entries.erase(std::remove(entries.begin(), entries.end(), nullptr), entries.end());
+        if (key->Owns())
+        {
+            for (FeatureObject* const component : entries)
+                component->TakeReferences(ioTaken);
+            continue;
+        }
+        ioTaken.insert(ioTaken.end(), entries.begin(), entries.end());
+        if (key->Slot() == SlotKind::Object)
+            ObjectAt(*key).object = nullptr;
+        else if (key->IsListOfObjects())
+            std::get<std::vector<FeatureObject*>>(List(*key).entries).clear();
+    }
+}
+
+void FeatureObject::DropExtensions()
+{
+    m_extensions.Clear();
+    for (const FeatureKey* const key : Keys())
+    {
+        if (!key->Owns())
+            continue;
+        if (key->Slot() == SlotKind::Object)
+        {
+            if (FeatureObject* const component = ObjectAt(*key).object)
+                component->DropExtensions();
+            continue;
+        }
+        for (FeatureObject* const component : std::get<std::vector<FeatureObject*>>(List(*key).entries))
+            if (component != nullptr)
+                component->DropExtensions();
+    }
+}
+
+void FeatureObject::Tell(const FeatureKey& iKey, ORXIValue* iValue)
+{
+    if (m_isPrototype || m_isDying)
+        return;
+    Dictionary::EnsureFresh();
+    const ExtensionEntry* const entry = m_type->InstanceExtension();
+    if (entry == nullptr)
+        return;
+    // The listener may let the last other reference go, and may write the value again.
+    const ORXISpecObject_var object = ORXISpecObject_var::Share(this);
+    const ORXIValue_var value = ORXIValue_var::Share(iValue);
+    const ORXIInstance_var instance =
+        ORXIInstance_var::Adopt(static_cast<ORXIInstance*>(ExtensionFacet(IID_ORXIInstance, entry)));
+    if (!instance)
+        return;
+    const bool isRecording = Instruments::IsRecording();
+    if (isRecording)
+        Instruments::Record(RecordLines::Advise(*this, iKey));
+    instance->AdviseAttributeChanged(iKey.Name(), value);
+    if (isRecording)
+        Instruments::Record(RecordLines::Call("done", *this, iKey.Name().View(), 0));
+}
+
+HRESULT FeatureObject::QueryInterface(const IID& iInterface, void** oInterface)
+{
+    HRESULT planted = S_OK;
+    if (Instruments::Active() &&
+        Instruments::Fails("QueryInterface", std::string_view(InterfaceNames::Of(iInterface)), this, planted))
+    {
+        *oInterface = nullptr;
+        return planted;
+    }
+    if (ORXBaseUnknown* const facet = OwnFacet(iInterface))
+    {
+        AddReference();
+        *oInterface = facet;
+        return S_OK;
+    }
+    Dictionary::EnsureFresh();
+    *oInterface = ExtensionFacet(iInterface, m_type->FindExtension(iInterface));
+    return *oInterface != nullptr ? S_OK : E_NOINTERFACE;
+}
+
+ORXBaseUnknown* FeatureObject::OwnFacet(const IID& iInterface) noexcept
+{
+    // The first field decides, since no two interfaces of the host share it; the rest is only looked at then.
+    switch (iInterface.Data1)
+    {
+    case IID_ORXBaseUnknown.Data1:
+        return iInterface == IID_ORXBaseUnknown ? this : nullptr;
+    case IID_ORXISpecObject.Data1:
+        return iInterface == IID_ORXISpecObject ? this : nullptr;
+    case IID_ORXISpecAttrAccess.Data1:
+        return iInterface == IID_ORXISpecAttrAccess ? &m_access : nullptr;
+    case IID_ORXIAlias.Data1:
+        return iInterface == IID_ORXIAlias && Alias() != nullptr ? &m_names->alias : nullptr;
+    case IID_VYRIFldIdentifier.Data1:
+        return iInterface == IID_VYRIFldIdentifier && Identifier() != nullptr ? &m_names->identifier : nullptr;
+    case IID_ORXISimBCDataTableColumn.Data1:
+        return iInterface == IID_ORXISimBCDataTableColumn ? m_column.get() : nullptr;
+    default:
+        return nullptr;
+    }
+}
+
+ORXBaseUnknown* FeatureObject::ExtensionFacet(const IID& iInterface, const ExtensionEntry* iEntry)
+{
+    if (ORXBaseUnknown* const known = m_extensions.FindLink(iInterface))
+    {
+        known->AddRef();
+        return known;
+    }
+    // A start-up is shared between threads and lives for ever: nothing is attached to it.
+    if (iEntry == nullptr || m_isPrototype || m_isDying || m_extensions.IsUnderConstruction(*iEntry->extensionClass))
+        return nullptr;
+    return iEntry->creator(Root(), m_extensions.Find(*iEntry->extensionClass));
+}
+
+unsigned int FeatureObject::AddRef()
+{
+    AddReference();
+    return m_references;
+}
+
+unsigned int FeatureObject::Release()
+{
+    return DropReference();
+}
+
+ORXBaseUnknown* FeatureObject::GetImpl(int iKind) const
+{
+    return iKind == 0 ? Root() : nullptr;
+}
+
+int FeatureObject::IsEqual(const ORXBaseUnknown* iOther) const
+{
+    return iOther != nullptr && iOther->GetImpl(0) == Root() ? 1 : 0;
+}
+
+ORXUnicodeString FeatureObject::GetName()
+{
+    return m_name;
+}
+
+ORXUnicodeString FeatureObject::GetType()
+{
+    return ORXUnicodeString(m_type->Name().c_str(), m_type->Name().size());
+}
+
+ORXBoolean FeatureObject::IsSubTypeOf(const ORXUnicodeString& iType)
+{
+    return m_type->DerivesFrom(iType.View()) ? ORXTrue : ORXFalse;
+}
+
+ORXISpecObject* FeatureObject::GetStartup()
+{
+    if (Instruments::Active() && Instruments::Fails("GetStartup", std::string_view(m_type->Name()), this))
+        return nullptr;
+    if (m_startup != nullptr)
+        m_startup->AddReference();
+    return m_startup;
+}
+
+ORXISpecObject* FeatureObject::GetOwner()
+{
+    if (Instruments::Active() && Instruments::Fails("GetOwner", std::string_view(m_type->Name()), this))
+        return nullptr;
+    if (m_owner != nullptr)
+        m_owner->AddReference();
+    return m_owner;
+}
+
+ORXBaseUnknown_var FeatureObject::GetContainer()
+{
+    if (Instruments::Active() && Instruments::Fails("GetContainer", std::string_view(m_type->Name()), this))
+        return {};
+    return ORXBaseUnknown_var::Share(Home());
+}
+
+ORXISpecAttribute* FeatureObject::AddAttribute(const ORXUnicodeString& iName, int iTypeCode, int iFlag)
+{
+    if (Instruments::Active())
+    {
+        if (Instruments::IsRecording())
+            Instruments::Record(RecordLines::Call("add", *this, iName.View(), 0));
+        if (Instruments::Fails("AddAttribute", iName.View(), this))
+            return nullptr;
+    }
+    AddedAttribute* const added = AddAttributeSilently(iName, iTypeCode, iFlag);
+    if (added != nullptr)
+        AddReference();
+    return added;
+}
+
+std::vector<FeatureKey*>::const_iterator FeatureObject::SlotsEnd() const noexcept
+{
+    return m_type->Keys().begin() + m_slotCount;
+}
+
+void FeatureObject::MakeSlots()
+{
+    for (auto key = m_type->Keys().begin(); key != SlotsEnd(); ++key)
+        SlotMaking::Make(m_block->At((*key)->Offset()), *this, **key, *m_block);
+}
+
+void FeatureObject::DropSlots() noexcept
+{
+    for (auto key = m_type->Keys().begin(); key != SlotsEnd(); ++key)
+        DropSlot(**key);
+    if (m_added == nullptr)
+        return;
+    for (AddedAttribute* const added : m_added->inOrder)
+    {
+        DropSlot(added->Key());
+        ::delete added;
+    }
+}
+
+void FeatureObject::DropSlot(const FeatureKey& iKey) noexcept
+{
+    switch (iKey.Slot())
+    {
+    case SlotKind::Value:
+        Parm(iKey).Destroy();
+        break;
+    case SlotKind::Object:
+        if (FeatureObject* const object = m_isPrototype ? ObjectAt(iKey).object : nullptr)
+            ::delete object;
+        else
+            StoreObject(iKey, nullptr);
+        break;
+    case SlotKind::List:
+        if (iKey.IsListOfObjects())
+            StoreObjects(iKey, {});
+        List(iKey).~ListSlot();
+        break;
+    }
+}
+
+void FeatureObject::CopyFrom(const FeatureObject& iOther)
+{
+    for (auto key = iOther.m_type->Keys().begin(); key != iOther.SlotsEnd(); ++key)
+        switch ((*key)->Slot())
+        {
+        case SlotKind::Value:
+            // Unset is what a new slot is already.
+            if (!std::holds_alternative<std::monostate>(iOther.Value(**key)))
+                StoreValue(**key, iOther.Value(**key));
+            break;
+        case SlotKind::List:
+            if (!(*key)->IsListOfObjects())
+                StoreEntries(**key, iOther.Entries(**key));
+            break;
+        case SlotKind::Object:
+            if (FeatureObject* const component = iOther.Object(**key))
+                MakeComponent(**key, *component);
+            break;
+        }
+}
+
+void FeatureObject::MakeComponent(const FeatureKey& iKey, FeatureObject& iAfter)
+{
+    FeatureObject* component = nullptr;
+    if (m_isPrototype)
+    {
+        iAfter.Type().Freeze();
+        component = ::new FeatureObject(iAfter.Type(), iKey.Name(), nullptr, true);
+        component->CopyFrom(iAfter);
+    }
+    else
+        component = MakeAfter(iAfter, iKey.Name());
+    // The slot takes the reference over.
+    ObjectAt(iKey).object = component;
+    Gained(*component, iKey);
+}
+} // namespace VYRStandalone

@@ -1,0 +1,156 @@
+#include "ORXKweInstanceAdapter.h"
+
+#include "FeatureObject.h"
+
+using namespace VYRStandalone;
+
+namespace
+{
+/// The parameter of an attribute of an extension's object; null when there is none of that name.
+ORXICkeParm_var ParmOf(const ORXBaseUnknown& iExtension, const ORXUnicodeString& iName)
+{
+    const ORXISpecAttrAccess_var access = ORXISpecAttrAccess_var::Cast(iExtension.GetImpl(0));
+    if (!access)
+        return {};
+    const ORXISpecAttrKey_var key = ORXISpecAttrKey_var::Adopt(access->GetAttrKey(iName.CastToCharPtr()));
+    return ORXCke_GetParm(access, key, 1);
+}
+
+/// Tells all listeners, from a snapshot, since a listener may unsubscribe while it is told.
+template <class Advise> HRESULT Tell(std::vector<ORXIInstance_var> iListeners, const Advise& iAdvise)
+{
+    for (const ORXIInstance_var& listener : iListeners)
+        iAdvise(*listener.Pointer());
+    return S_OK;
+}
+} // namespace
+
+ORXKweInstanceAdapter::ORXKweInstanceAdapter() = default;
+
+ORXKweInstanceAdapter::~ORXKweInstanceAdapter() = default;
+
+HRESULT ORXKweInstanceAdapter::AdviseAttributeChanged(const ORXUnicodeString& iName, const ORXIValue_var& iValue)
+{
+    return Tell(m_listeners, [&](ORXIInstance& ioListener) { ioListener.AdviseAttributeChanged(iName, iValue); });
+}
+
+ORXBaseUnknown_var ORXKweInstanceAdapter::GetOwner()
+{
+    const ORXISpecObject_var object = ORXISpecObject_var::Cast(GetImpl(0));
+    return !object ? ORXBaseUnknown_var() : ORXBaseUnknown_var::Adopt(object->GetOwner());
+}
+
+HRESULT ORXKweInstanceAdapter::GetLogicalName(ORXUnicodeString& oName)
+{
+    oName = m_logicalName;
+    if (!oName.IsEmpty())
+        return S_OK;
+    const ORXISpecObject_var object = ORXISpecObject_var::Cast(GetImpl(0));
+    if (!object)
+        return E_FAIL;
+    oName = object->GetName();
+    return S_OK;
+}
+
+HRESULT ORXKweInstanceAdapter::SetLogicalName(const ORXUnicodeString& iName)
+{
+    m_logicalName = iName;
+    return S_OK;
+}
+
+ORXCke::Boolean ORXKweInstanceAdapter::IsPublic()
+{
+    return ORXCke::True;
+}
+
+ORXICkeType_var ORXKweInstanceAdapter::Type()
+{
+    return {};
+}
+
+ORXCke::Boolean ORXKweInstanceAdapter::IsSupporting(const ORXICkeType_var&)
+{
+    return ORXCke::False;
+}
+
+HRESULT ORXKweInstanceAdapter::ListSupportedTypes(ORXListValORXUnicodeString& oTypes)
+{
+    const FeatureObject* const object = FeatureObject::Of(this);
+    if (object == nullptr)
+        return E_FAIL;
+    for (const FeatureType* const type : object->Type().Chain())
+        oTypes.Append(type->Name().c_str());
+    return S_OK;
+}
+
+HRESULT ORXKweInstanceAdapter::AddInstanceListener(const ORXBaseUnknown_var& iListener)
+{
+    const ORXIInstance_var listener = iListener;
+    if (!listener)
+        return E_FAIL;
+    m_listeners.push_back(listener);
+    return S_OK;
+}
+
+HRESULT ORXKweInstanceAdapter::RemoveInstanceListener(const ORXBaseUnknown_var& iListener)
+{
+    for (auto listener = m_listeners.begin(); listener != m_listeners.end(); ++listener)
+        if (iListener != NULL_var && *listener == iListener)
+        {
+            m_listeners.erase(listener);
+            return S_OK;
+        }
+    return S_FALSE;
+}
+
+HRESULT ORXKweInstanceAdapter::AdviseDynamicAttributeAdded(const ORXUnicodeString& iName)
+{
+    return Tell(m_listeners, [&](ORXIInstance& ioListener) { ioListener.AdviseDynamicAttributeAdded(iName); });
+}
+
+HRESULT ORXKweInstanceAdapter::AdviseDynamicAttributeRemoved(const ORXUnicodeString& iName)
+{
+    return Tell(m_listeners, [&](ORXIInstance& ioListener) { ioListener.AdviseDynamicAttributeRemoved(iName); });
+}
+
+HRESULT ORXKweInstanceAdapter::AdviseDynamicAttributeRenamed(const ORXUnicodeString& iOldName,
+                                                             const ORXUnicodeString& iNewName)
+{
+    return Tell(m_listeners,
+                [&](ORXIInstance& ioListener) { ioListener.AdviseDynamicAttributeRenamed(iOldName, iNewName); });
+}
+
+HRESULT ORXKweInstanceAdapter::AdviseRemoved()
+{
+    return Tell(m_listeners, [](ORXIInstance& ioListener) { ioListener.AdviseRemoved(); });
+}
+
+HRESULT ORXKweInstanceAdapter::AdviseModification()
+{
+    return Tell(m_listeners, [](ORXIInstance& ioListener) { ioListener.AdviseModification(); });
+}
+
+HRESULT ORXKweInstanceAdapter::AdviseTypeChanged(const ORXICkeType_var& iType)
+{
+    return Tell(m_listeners, [&](ORXIInstance& ioListener) { ioListener.AdviseTypeChanged(iType); });
+}
+
+HRESULT ORXKweInstanceAdapter::SetValue(const ORXUnicodeString& iName, const ORXIValue_var& iValue)
+{
+    const ORXICkeParm_var parm = ParmOf(*this, iName);
+    if (!parm)
+        return E_FAIL;
+    parm->ValuateFromValue(iValue);
+    return S_OK;
+}
+
+ORXIValue_var ORXKweInstanceAdapter::GetValue(const ORXUnicodeString& iName)
+{
+    const ORXICkeParm_var parm = ParmOf(*this, iName);
+    return !parm ? ORXIValue_var() : parm->GetValue();
+}
+
+HRESULT ORXKweInstanceAdapter::AdviseSpecificEvent(const ORXUnicodeString& iEvent)
+{
+    return Tell(m_listeners, [&](ORXIInstance& ioListener) { ioListener.AdviseSpecificEvent(iEvent); });
+}

@@ -1,0 +1,38 @@
+#include "VolatileFactory.h"
+
+#include "Instruments.h"
+#include "VolatileParm.h"
+
+namespace VYRStandalone
+{
+VolatileFactory& VolatileFactory::Instance()
+{
+    static VolatileFactory* const factory = ::new VolatileFactory;
+    return *factory;
+}
+
+HRESULT VolatileFactory::QueryInterface(const IID& iInterface, void** oInterface)
+{
+    const bool isOffered = iInterface == IID_ORXICkeParmFactory || iInterface == IID_ORXBaseUnknown;
+    *oInterface = isOffered ? this : nullptr;
+    return isOffered ? S_OK : E_NOINTERFACE;
+}
+
+unsigned int VolatileFactory::AddRef()
+{
+    return 1;
+}
+
+unsigned int VolatileFactory::Release()
+{
+    return 1;
+}
+
+ORXICkeParm_var VolatileFactory::CreateParm(const ORXICkeType_var& iType, const ORXUnicodeString& iName)
+{
+    if (Instruments::Active() && Instruments::Fails("CreateParm", iName.View(), nullptr))
+        return {};
+    const KnowledgeType* const type = KnowledgeType::Of(iType.Pointer());
+    return type != nullptr ? ORXICkeParm_var::Adopt(new VolatileParm(*type, iName)) : ORXICkeParm_var();
+}
+} // namespace VYRStandalone
