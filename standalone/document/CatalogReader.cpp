@@ -4,8 +4,10 @@
 #include <set>
 
 #include "DocumentNode.h"
+#include "FeatureType.h"
 #include "KindNames.h"
 #include "ORXTypeCode.h"
+#include "ObjectWalk.h"
 #include "TypeRegistry.h"
 #include "VYRStandaloneErrors.h"
 #include "Wording.h"
@@ -30,6 +32,7 @@ private:
     void ReadKind(const DocumentNode& iAttribute, AttributeDeclaration& oAttribute);
     void ReadTexts(const DocumentNode& iAttribute, AttributeDeclaration& oAttribute);
     void ReadDefault(const DocumentNode& iDefault, const AttributeDeclaration& iAttribute);
+    static void CheckDefault(const DocumentNode& iValue, const AttributeDeclaration& iAttribute, int iCode);
     void ReadStartup(const DocumentNode& iMembers, const std::vector<std::string>& iPath);
     void AddValue(const DocumentNode& iValue, const std::vector<std::string>& iPath);
 
@@ -161,11 +164,30 @@ void TypeReader::ReadDefault(const DocumentNode& iDefault, const AttributeDeclar
         iDefault.Fail("the default of a list is an array");
     if (iAttribute.type != tk_list && iDefault.IsArray())
         iDefault.Fail("only the default of a list is an array");
+    if (iAttribute.type != tk_list)
+        CheckDefault(iDefault, iAttribute, iAttribute.type);
+    else
+        for (const DocumentNode& element : iDefault.Elements())
+            CheckDefault(element, iAttribute, iAttribute.listType);
     AddValue(iDefault, {iAttribute.name});
+}
+
+/// What can be said better here than when the value is declared.
+void TypeReader::CheckDefault(const DocumentNode& iValue, const AttributeDeclaration& iAttribute, int iCode)
+{
+    const DeclaredScalar value = iValue.Single();
+    if (iCode == tk_integer && iValue.IsWhole() && !std::holds_alternative<int>(value))
+        iValue.Fail("out of the range of an integer, which has 32 bits");
+    const auto* text = std::get_if<std::string>(&value);
+    if (iCode == tk_enum && text != nullptr &&
+        std::find(iAttribute.texts.begin(), iAttribute.texts.end(), *text) == iAttribute.texts.end())
+        iValue.Fail("no text of the enumeration: " + Quoted(*text) + InsteadOf(*text, iAttribute.texts));
 }
 
 void TypeReader::ReadStartup(const DocumentNode& iMembers, const std::vector<std::string>& iPath)
 {
+    if (iPath.size() > DeepestNesting)
+        iMembers.Fail("components stand inside each other more than " + std::to_string(DeepestNesting) + " deep");
     iMembers.ExpectObject();
     for (const DocumentNode& member : iMembers.Members())
     {
@@ -217,8 +239,30 @@ CatalogDocument ReadCatalog(std::string_view iJson, const std::string& iFile)
     return catalog;
 }
 
+void CatalogDocument::CheckTypeNames() const
+{
+    std::vector<std::string> known;
+    for (const FeatureType* type : TypeRegistry::Instance().Types())
+        known.push_back(type->Name());
+    for (const TypeDeclaration& type : declaration.types)
+        known.push_back(type.name);
+    const auto check = [&](const std::string& iName, const std::string& iPath) {
+        if (!iName.empty() && std::find(known.begin(), known.end(), iName) == known.end())
+            throw DocumentError(file, iPath, "unknown type " + Quoted(iName) + InsteadOf(iName, known));
+    };
+    for (std::size_t i = 0; i < declaration.types.size(); ++i)
+    {
+        const TypeDeclaration& type = declaration.types[i];
+        const std::string path = "/types/" + std::to_string(i);
+        check(type.base, path + "/base");
+        for (std::size_t j = 0; j < type.attributes.size(); ++j)
+            check(type.attributes[j].componentType, path + "/attributes/" + std::to_string(j) + "/type");
+    }
+}
+
 void CatalogDocument::Declare() const
 {
+    CheckTypeNames();
     try
     {
         TypeRegistry::Instance().Declare(declaration);

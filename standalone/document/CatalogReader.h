@@ -10,8 +10,9 @@
 namespace VYRStandalone
 {
 /// A catalog that has been read and not yet declared.
-struct CatalogDocument
+class CatalogDocument
 {
+public:
     std::string file;
     /// Names of catalogs, in their order.
     std::vector<std::string> uses;
@@ -21,6 +22,10 @@ struct CatalogDocument
 
     /// @throws DocumentError when the catalog does not fit what is declared already; then nothing of it is
     void Declare() const;
+
+private:
+    /// That bases and components are of types that exist; the message says which may have been meant.
+    void CheckTypeNames() const;
 };
 
 /// Reads the shape of a catalog; whether its types exist and its values fit is found when it is declared.

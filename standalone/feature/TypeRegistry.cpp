@@ -109,11 +109,15 @@ void TypeRegistry::Declare(const CatalogDeclaration& iCatalog)
             type.Inherit();
         AddMissingAttributes(*this, type, iCatalog.types[index]);
     }
+    // A start-up takes over what those of its base and of its components hold: their values have to stand before it.
     for (const std::size_t index : plan.PartsFirst())
-        Find(iCatalog.types[index].name)->CompletePrototype();
-    for (const TypeDeclaration& declaration : iCatalog.types)
+    {
+        const TypeDeclaration& declaration = iCatalog.types[index];
+        FeatureType& type = *Find(declaration.name);
+        type.CompletePrototype();
         for (const PrototypeValue& value : declaration.values)
-            ApplyValue(*Find(declaration.name)->Prototype(), value);
+            ApplyValue(*type.Prototype(), value);
+    }
     m_catalogs.insert(iCatalog.name);
     Dictionary::MarkStale();
 }
