@@ -12,6 +12,7 @@
 
 #include "ORXEnvironment.h"
 #include "TemporaryFolder.h"
+#include "VYRStandaloneInstruments.h"
 #include "VYRStandaloneServices.h"
 
 namespace
@@ -64,6 +65,23 @@ TEST_F(Environment, OfficialVariable_StaysValidWhileOthersAreSet)
     EXPECT_STREQ(value, "kept");
     for (int i = 0; i < 1000; ++i)
         VYRStandalone::ResetOfficialVariable("VYRCFD_TEST_OTHER_" + std::to_string(i));
+}
+
+/// The next call of an operation about a subject gives nothing.
+void PlantOne(const char* iOperation, const char* iSubject)
+{
+    VYRStandalone::Fault fault;
+    fault.operation = iOperation;
+    fault.subject = iSubject;
+    VYRStandalone::PlantFault(fault);
+}
+
+TEST_F(Environment, OfficialVariable_IsMissingByAPlantedFault)
+{
+    VYRStandalone::SetOfficialVariable(Variable, "set");
+    PlantOne("GetOfficialVariable", Variable);
+    EXPECT_EQ(ORXGetOfficialVariable(Variable), nullptr);
+    EXPECT_STREQ(ORXGetOfficialVariable(Variable), "set");
 }
 
 class FindPath : public testing::Test
@@ -124,6 +142,14 @@ TEST_F(FindPath, AnEmptyEntryIsNotTheWorkingFolder)
     const std::string found = Found("only1.json", ":" + m_folder.Path("second"));
     std::filesystem::current_path(before);
     EXPECT_EQ(found, "-");
+}
+
+TEST_F(FindPath, FindsNothingByAPlantedFault)
+{
+    PlantOne("FindPath", "only2.json");
+    EXPECT_EQ(Found("both.json", List()), "first/both.json");
+    EXPECT_EQ(Found("deep/only2.json", List()), "-");
+    EXPECT_EQ(Found("deep/only2.json", List()), "second/deep/only2.json");
 }
 
 TEST_F(FindPath, ResultBelongsToTheThread)

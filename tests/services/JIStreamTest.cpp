@@ -10,6 +10,7 @@
 
 #include "JIStream.h"
 #include "TemporaryFolder.h"
+#include "VYRStandaloneInstruments.h"
 
 namespace
 {
@@ -87,6 +88,20 @@ TEST(JIStream, ParseFile_OfWhatIsNoReadableFile_IsFalse)
     EXPECT_FALSE(stream.ParseFile("", true));
     EXPECT_FALSE(stream.ParseFile(folder.Path("missing.json").c_str(), true));
     EXPECT_FALSE(stream.ParseFile(folder.Path().c_str(), true)) << "a folder";
+}
+
+TEST(JIStream, ParseFile_FailsByAPlantedFault)
+{
+    const TemporaryFolder folder;
+    const std::string file = folder.Write("some/planted.json", "{}");
+    VYRStandalone::Fault fault;
+    fault.operation = "ParseFile";
+    fault.subject = "planted.json";
+    VYRStandalone::PlantFault(fault);
+    JIStream stream;
+    EXPECT_FALSE(stream.ParseFile(file.c_str(), true));
+    EXPECT_EQ(VYRStandalone::FaultsHit(), 1);
+    EXPECT_TRUE(stream.ParseFile(file.c_str(), true));
 }
 
 TEST(JIStream, ParseFile_ReadsTheWholeFile)
