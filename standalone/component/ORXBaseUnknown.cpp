@@ -23,12 +23,12 @@ void* ORXBaseUnknown::operator new(std::size_t iSize)
     return memory;
 }
 
-void ORXBaseUnknown::operator delete(void* iMemory, std::size_t iSize) noexcept
+void ORXBaseUnknown::operator delete(void* iMemory, std::size_t) noexcept
 {
     if (iMemory == nullptr)
         return;
     Census::Freed();
-    ::operator delete(iMemory, iSize);
+    ::operator delete(iMemory);
 }
 
 HRESULT ORXBaseUnknown::QueryInterface(const IID& iInterface, void** oInterface)
