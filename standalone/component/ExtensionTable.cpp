@@ -65,9 +65,9 @@ void ExtensionTable::AddLink(const IID& iInterface, ORXBaseUnknown& iFacet)
 
 void ExtensionTable::RemoveLinksTo(const ORXBaseUnknown& iFacet) noexcept
 {
-    m_links.erase(std::remove_if(m_links.begin(), m_links.end(),
-                                 [&](const Link& iLink) { return iLink.facet == &iFacet; }),
-                  m_links.end());
+    m_links.erase(
+        std::remove_if(m_links.begin(), m_links.end(), [&](const Link& iLink) { return iLink.facet == &iFacet; }),
+        m_links.end());
 }
 
 void ExtensionTable::Clear()

@@ -25,8 +25,8 @@ ORXMetaClass* ORXIParmPublisher::MetaObject()
 
 ORXMetaClass* VYRIMpaDefaultManagement::MetaObject()
 {
-    static ORXMetaClass* const meta = new ORXMetaClass("VYRIMpaDefaultManagement", ORXInterfaceClass,
-                                                       IID_VYRIMpaDefaultManagement, nullptr, nullptr);
+    static ORXMetaClass* const meta =
+        new ORXMetaClass("VYRIMpaDefaultManagement", ORXInterfaceClass, IID_VYRIMpaDefaultManagement, nullptr, nullptr);
     return meta;
 }
 

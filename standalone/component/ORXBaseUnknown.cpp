@@ -23,6 +23,21 @@ void* ORXBaseUnknown::operator new(std::size_t iSize)
     return memory;
 }
 
+void* ORXBaseUnknown::operator new(std::size_t iSize, const std::nothrow_t& iNothrow) noexcept
+{
+    void* const memory = ::operator new(iSize, iNothrow);
+    if (memory == nullptr)
+        return nullptr;
+    Census::Allocated();
+    ORXComponentLink::NoteAllocation(memory, iSize);
+    return memory;
+}
+
+void ORXBaseUnknown::operator delete(void* iMemory, const std::nothrow_t&) noexcept
+{
+    operator delete (iMemory, std::size_t{});
+}
+
 void ORXBaseUnknown::operator delete(void* iMemory, std::size_t) noexcept
 {
     if (iMemory == nullptr)

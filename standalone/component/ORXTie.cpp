@@ -42,8 +42,7 @@ void Tie_Construct(ORXTieRecord& ioTie, ORXBaseUnknown* iTie, ORXMetaClass* iTie
         ORXOmx::Internals::NullPointerAssertion();
     ORXBaseUnknown& root = *object->Root();
     // First, since a constructor may throw: then nothing of the tie has been linked.
-    ioTie.instance =
-        iExtension != nullptr ? iExtension : object->Extensions().FindOrMake(root, *iClass, iConstructor);
+    ioTie.instance = iExtension != nullptr ? iExtension : object->Extensions().FindOrMake(root, *iClass, iConstructor);
     object->AddReference();
     Census::Born(Census::Tie);
     ORXComponentLink::Link(*iTie, root);

@@ -113,8 +113,7 @@ ORXBoolean AttributeAccess::HasAttribute(ORXISpecAttrKey* iKey)
 HRESULT AttributeAccess::SetDouble(ORXISpecAttrKey* iKey, double iValue, int iIndex)
 {
     HRESULT planted = S_OK;
-    if (Instruments::Active() &&
-        IsStopped("SetDouble", iKey, m_object, planted, [&](const std::string& iName) {
+    if (Instruments::Active() && IsStopped("SetDouble", iKey, m_object, planted, [&](const std::string& iName) {
             return RecordLines::Write(m_object, iName, iIndex, RecordLines::Text(iValue));
         }))
         return planted;
@@ -127,8 +126,7 @@ HRESULT AttributeAccess::SetInteger(ORXISpecAttrKey* iKey, int iValue, int iInde
     const FeatureKey* const key = m_object.Carried(iKey);
     const KnowledgeType& type = IsNumbered(key) ? *key->Knowledge() : *KnowledgeType::Integer();
     HRESULT planted = S_OK;
-    if (Instruments::Active() &&
-        IsStopped("SetInteger", iKey, m_object, planted, [&](const std::string& iName) {
+    if (Instruments::Active() && IsStopped("SetInteger", iKey, m_object, planted, [&](const std::string& iName) {
             return RecordLines::Write(m_object, iName, iIndex, RecordLines::Text(type, iValue));
         }))
         return planted;
@@ -143,8 +141,7 @@ HRESULT AttributeAccess::SetBoolean(ORXISpecAttrKey* iKey, ORXBoolean iValue, in
 {
     const bool value = iValue != ORXFalse;
     HRESULT planted = S_OK;
-    if (Instruments::Active() &&
-        IsStopped("SetBoolean", iKey, m_object, planted, [&](const std::string& iName) {
+    if (Instruments::Active() && IsStopped("SetBoolean", iKey, m_object, planted, [&](const std::string& iName) {
             return RecordLines::Write(m_object, iName, iIndex, RecordLines::Text(value));
         }))
         return planted;
@@ -155,8 +152,7 @@ HRESULT AttributeAccess::SetBoolean(ORXISpecAttrKey* iKey, ORXBoolean iValue, in
 HRESULT AttributeAccess::SetString(ORXISpecAttrKey* iKey, const ORXUnicodeString& iValue, int iIndex)
 {
     HRESULT planted = S_OK;
-    if (Instruments::Active() &&
-        IsStopped("SetString", iKey, m_object, planted, [&](const std::string& iName) {
+    if (Instruments::Active() && IsStopped("SetString", iKey, m_object, planted, [&](const std::string& iName) {
             return RecordLines::Write(m_object, iName, iIndex, std::string(iValue.View()));
         }))
         return planted;
@@ -224,8 +220,7 @@ ORXUnicodeString AttributeAccess::GetString(ORXISpecAttrKey* iKey, int iIndex)
 HRESULT AttributeAccess::SetStringList(ORXISpecAttrKey* iKey, const ORXListValORXUnicodeString& iValues)
 {
     HRESULT planted = S_OK;
-    if (Instruments::Active() &&
-        IsStopped("SetStringList", iKey, m_object, planted, [&](const std::string& iName) {
+    if (Instruments::Active() && IsStopped("SetStringList", iKey, m_object, planted, [&](const std::string& iName) {
             return RecordLines::Write(m_object, iName, 0, TextList(iValues));
         }))
         return planted;
@@ -356,8 +351,7 @@ HRESULT AttributeAccess::InsertAtPosition(ORXISpecAttrKey* iKey, const ORXISpecO
         }))
         return planted;
     const FeatureKey* const key = ObjectKey(iKey, iObject.Pointer());
-    if (key == nullptr || key->Slot() != SlotKind::List ||
-        !IsWithin(iIndex, SizeOf(m_object.Entries(*key)) + 1))
+    if (key == nullptr || key->Slot() != SlotKind::List || !IsWithin(iIndex, SizeOf(m_object.Entries(*key)) + 1))
         return E_FAIL;
     FeatureObject* const object = FeatureObject::Of(iObject.Pointer());
     Take(*key, object);
@@ -380,10 +374,13 @@ HRESULT AttributeAccess::MoveInPosition(ORXISpecAttrKey* iKey, const ORXISpecObj
     Objects& objects = std::get<Objects>(m_object.List(*key).entries);
     FeatureObject* const object = FeatureObject::Of(iObject.Pointer());
     const Objects::iterator target = objects.begin() + (iIndex - 1);
-    Objects::iterator found = std::find(target, objects.end(), object);
+    // What stands at the position already is passed over, as far as it goes.
+    const Objects::iterator behind =
+        std::find_if(target, objects.end(), [object](const FeatureObject* iEntry) { return iEntry != object; });
+    Objects::iterator found = std::find(behind, objects.end(), object);
     if (found != objects.end())
         std::rotate(target, found, found + 1);
-    else
+    else if (behind == target)
     {
         found = std::find(objects.begin(), target, object);
         if (found == target)

@@ -107,8 +107,7 @@ void CatalogPlan::OrderByBases()
     {
         // The chain up to the first type that is placed, or is none of the catalog's.
         std::vector<std::size_t> chain;
-        for (auto next = indices.find(m_catalog.types[index].name);
-             next != indices.end() && !isPlaced[next->second];
+        for (auto next = indices.find(m_catalog.types[index].name); next != indices.end() && !isPlaced[next->second];
              next = indices.find(m_catalog.types[next->second].base))
         {
             if (std::find(chain.begin(), chain.end(), next->second) != chain.end())
@@ -140,8 +139,7 @@ void CatalogPlan::AddAttributes(std::size_t iType)
         {
             if (!(known == planned))
                 throw DeclarationError(iType, index, none,
-                                       "attribute " + Quoted(attribute.name) +
-                                           " has been declared with another kind");
+                                       "attribute " + Quoted(attribute.name) + " has been declared with another kind");
             continue;
         }
         Type& owner = m_types.at(type.name);
@@ -156,9 +154,7 @@ void CatalogPlan::AddAttributes(std::size_t iType)
 void CatalogPlan::CheckAttribute(std::size_t iType, std::size_t iAttribute) const
 {
     const AttributeDeclaration& attribute = m_catalog.types[iType].attributes[iAttribute];
-    const auto refuse = [&](const std::string& iMessage) {
-        throw DeclarationError(iType, iAttribute, none, iMessage);
-    };
+    const auto refuse = [&](const std::string& iMessage) { throw DeclarationError(iType, iAttribute, none, iMessage); };
     if (!IsAttributeName(attribute.name))
         refuse("no name for an attribute: " + Quoted(attribute.name));
     const bool isList = attribute.type == tk_list;

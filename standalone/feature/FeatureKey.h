@@ -1,8 +1,8 @@
 #ifndef FeatureKey_H
 #define FeatureKey_H
 
-#include "ORXISpecAttrKey.h"
 #include "KnowledgeType.h"
+#include "ORXISpecAttrKey.h"
 
 namespace VYRStandalone
 {

@@ -40,7 +40,8 @@ private:
             return ObjectText(iEntry);
         else if constexpr (std::is_same_v<Entry, int>)
             // Lists keep booleans as integers.
-            return m_type->Kind() == ValueKind::Boolean ? RecordLines::Text(iEntry != 0) : RecordLines::Text(*m_type, iEntry);
+            return m_type->Kind() == ValueKind::Boolean ? RecordLines::Text(iEntry != 0)
+                                                        : RecordLines::Text(*m_type, iEntry);
         else
             return std::string(m_type->ToText(Scalar(iEntry)).View());
     }

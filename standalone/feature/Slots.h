@@ -17,8 +17,8 @@ class FeatureObject;
 
 /// Entries of a list: reals; integers, booleans or numbers of enumeration texts; texts; objects, null for an empty
 /// entry. The alternative is fixed by the attribute's entry type.
-using ListEntries = std::variant<std::vector<double>, std::vector<int>, std::vector<ORXUnicodeString>,
-                                 std::vector<FeatureObject*>>;
+using ListEntries =
+    std::variant<std::vector<double>, std::vector<int>, std::vector<ORXUnicodeString>, std::vector<FeatureObject*>>;
 
 /// The object is held by a reference, also when it is only referred to.
 struct ObjectSlot

@@ -20,8 +20,8 @@ void AddMissingAttributes(const TypeRegistry& iRegistry, FeatureType& ioType, co
             code == tk_enum ? KnowledgeType::MakeEnumeration(ioType.Name() + '.' + attribute.name, attribute.texts)
                             : KnowledgeType::OfTypeCode(code);
         ioType.AddKey({ORXUnicodeString(attribute.name.c_str(), attribute.name.size()), attribute.type,
-                     attribute.listType, knowledge},
-                    iRegistry.Find(attribute.componentType));
+                       attribute.listType, knowledge},
+                      iRegistry.Find(attribute.componentType));
     }
 }
 

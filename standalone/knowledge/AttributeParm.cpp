@@ -12,8 +12,7 @@
 namespace VYRStandalone
 {
 AttributeParm::AttributeParm(FeatureObject& iObject, const FeatureKey& iKey, SlotBlock& iBlock)
-    : m_object(iObject), m_key(iKey), m_current(nullptr),
-      m_cell(*iKey.Knowledge(), &iBlock, iObject.IsPrototype())
+    : m_object(iObject), m_key(iKey), m_current(nullptr), m_cell(*iKey.Knowledge(), &iBlock, iObject.IsPrototype())
 {
     m_current = &m_cell;
 }
