@@ -102,26 +102,31 @@ private:
     bool Move(int iPart, int iFrom, int iTo)
     {
         m_isChanged = true;
-        calls.push_back("move Owner." + m_case.list + "[" + std::to_string(iTo) + "] = " + NameOf(iPart));
+        calls.push_back(Line("move", iTo) + " = " + NameOf(iPart));
         if (Fails("MoveInPosition"))
             return Report("_spAttr->MoveInPosition(_spKey, (*pVals)[j], i)");
         m_mirror.erase(m_mirror.begin() + Offset(iFrom));
         m_mirror.insert(m_mirror.begin() + Offset(iTo), iPart);
 
-        // The host is told an object and no position to take it from: of several it takes the first from there on.
-        const auto target = attribute.begin() + Offset(iTo);
-        auto at = std::find(target, attribute.end(), iPart);
-        if (at == attribute.end())
-            at = std::find(attribute.begin(), attribute.end(), iPart);
-        attribute.erase(at);
-        attribute.insert(attribute.begin() + Offset(iTo), iPart);
+        MoveInAttribute(iPart, iTo);
         return true;
+    }
+
+    /// The host is told an object and no position to take it from. It passes over the row of it that stands at the
+    /// position already and takes the next; without one the order stays.
+    void MoveInAttribute(int iPart, int iTo)
+    {
+        const auto target = attribute.begin() + Offset(iTo);
+        const auto behindRow = std::find_if(target, attribute.end(), [iPart](int iEntry) { return iEntry != iPart; });
+        const auto next = std::find(behindRow, attribute.end(), iPart);
+        if (next != attribute.end())
+            std::rotate(target, next, next + 1);
     }
 
     bool Insert(int iPart, int iAt)
     {
         m_isChanged = true;
-        calls.push_back("insert Owner." + m_case.list + "[" + std::to_string(iAt) + "] = " + NameOf(iPart));
+        calls.push_back(Line("insert", iAt) + " = " + NameOf(iPart));
         if (Fails("InsertAtPosition"))
             return Report("_spAttr->InsertAtPosition(_spKey, spSpec, i)");
         m_mirror.insert(m_mirror.begin() + Offset(iAt), iPart);
@@ -132,9 +137,19 @@ private:
     void Remove(int iAt)
     {
         m_isChanged = true;
-        calls.push_back("remove Owner." + m_case.list + "[" + std::to_string(iAt) + "]");
+        calls.push_back(Line("remove", iAt));
         if (!Fails("RemovePosition"))
             attribute.erase(attribute.begin() + Offset(iAt));
+    }
+
+    std::string Line(const char* iVerb, int iPosition) const
+    {
+        return std::string(iVerb)
+            .append(" Owner.")
+            .append(m_case.list)
+            .append("[")
+            .append(std::to_string(iPosition))
+            .append("]");
     }
 
     bool Fails(const char* iOperation)
@@ -226,6 +241,13 @@ private:
     std::mt19937_64 m_random;
 };
 
+bool HasRepetition(Sequence iSequence)
+{
+    std::erase(iSequence, Empty);
+    std::sort(iSequence.begin(), iSequence.end());
+    return std::adjacent_find(iSequence.begin(), iSequence.end()) != iSequence.end();
+}
+
 /// How often each kind of case came up. A generator that no longer makes one of them would prove nothing.
 struct Tally
 {
@@ -237,8 +259,7 @@ struct Tally
     int failedInserts = 0;
     int errorCursors = 0;
     int listedNothing = 0;
-    /// The host moved another of several occurrences than the scan had in mind.
-    int otherOccurrence = 0;
+    int repetitions = 0;
 
     void Add(const Case& iCase, const ReferenceScan& iScan)
     {
@@ -251,7 +272,7 @@ struct Tally
         inserted += has("insert");
         removed += has("remove");
         listedNothing += iCase.fault.operation == "ListObjects" && iCase.fault.call == 1;
-        otherOccurrence += iScan.status >= 0 && iCase.fault.operation.empty() && iScan.attribute != iCase.wanted;
+        repetitions += iScan.status >= 0 && HasRepetition(iCase.stored);
         for (const Record& report : iScan.reports)
         {
             errorCursors += report.kind == VYRStandalone::Report::Kind::Assertion;
@@ -260,13 +281,6 @@ struct Tally
         }
     }
 };
-
-bool HasRepetition(Sequence iSequence)
-{
-    std::erase(iSequence, Empty);
-    std::sort(iSequence.begin(), iSequence.end());
-    return std::adjacent_find(iSequence.begin(), iSequence.end()) != iSequence.end();
-}
 
 class SetListScanTest : public ListFixture
 {
@@ -374,7 +388,7 @@ TEST_F(SetListScanTest, HostCalls_AreThoseOfThePlainScan_InOrder)
             ADD_FAILURE() << "case " << number << " of VYRCFD_SETLIST_SEED=" << seed << "\n" << difference;
         }
         // The purpose of the scan, which the reference has to meet as well.
-        if (expected.status >= 0 && made.fault.operation.empty() && !HasRepetition(made.stored))
+        if (expected.status >= 0 && made.fault.operation.empty())
         {
             ASSERT_EQ(expected.attribute, made.wanted) << "case " << number << " of VYRCFD_SETLIST_SEED=" << seed;
         }
@@ -388,6 +402,6 @@ TEST_F(SetListScanTest, HostCalls_AreThoseOfThePlainScan_InOrder)
     EXPECT_GT(tally.failedInserts, Cases / 200);
     EXPECT_GT(tally.errorCursors, Cases / 100);
     EXPECT_GT(tally.listedNothing, Cases / 200);
-    EXPECT_GT(tally.otherOccurrence, 0);
+    EXPECT_GT(tally.repetitions, Cases / 5);
 }
 } // namespace
