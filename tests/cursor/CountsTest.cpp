@@ -32,6 +32,8 @@ protected:
         m_son = Create("CursorZone", "Son.1");
         Append(m_assembly, "SonsList", m_son);
         const ORXISpecAttribute_var added = ORXISpecAttribute_var::Adopt(m_part->AddAttribute("added", tk_boolean, 0));
+        m_addedKey = KeyOf(m_part, "added");
+        ASSERT_FALSE(!m_addedKey);
     }
 
     std::vector<unsigned int> All() const
@@ -39,6 +41,8 @@ protected:
         std::vector<unsigned int> counts;
         for (const ORXISpecObject_var& object : {m_part, m_inlet, m_wall, m_material, m_choice, m_assembly, m_son})
             counts.push_back(ReferenceCount(object));
+        // Keys of declared attributes are not counted.
+        counts.push_back(ReferenceCount(m_addedKey));
         counts.push_back(static_cast<unsigned int>(VYRStandalone::LiveComponents()));
         return counts;
     }
@@ -60,6 +64,7 @@ protected:
     ORXISpecObject_var m_choice;
     ORXISpecObject_var m_assembly;
     ORXISpecObject_var m_son;
+    ORXISpecAttrKey_var m_addedKey;
 };
 
 TEST_F(Counts, ACursor_HoldsItsObjectOnce)
@@ -124,14 +129,16 @@ TEST_F(Counts, Handles_AreNewReferencesAndTheBorrowedPointerIsNone)
 TEST_F(Counts, AThousandNavigations_LeaveEveryCountAsItWas)
 {
     const ORXISpecAttrKey_var zones = KeyOf(m_part, "zones");
-    const ORXISpecAttrKey_var added = KeyOf(m_part, "added");
     const std::pair<const char*, std::function<void()>> navigations[] = {
         {"attribute by name", [&] { Part()["title"]; }},
         {"object by name", [&] { Part()["material"]["density"].GetParent().GetParent(); }},
         {"reference by name", [&] { Part()["peer"]["peer"]["title"]; }},
         {"by key", [&] { Part().Get(zones.Pointer(), 1); }},
-        {"by the key of an added attribute", [&] { Part()[added.Pointer()]; }},
+        {"by the key of an added attribute", [&] { Part()[m_addedKey.Pointer()]; }},
         {"added attribute by name", [&] { Part()["added"]; }},
+        {"added attribute by name and index", [&] { Part().Get("added", 0); }},
+        {"added attribute by name, Ref", [&] { Part().Ref("added"); }},
+        {"added attribute by path", [&] { Part().GetByPath("peer/added"); }},
         {"beyond the end", [&] { Part().Get(zones.Pointer(), 9); }},
         {"by name and index", [&] { Part().Get("zones", 2); }},
         {"display name", [&] { Part()["zones"]["Inlet"]; }},
@@ -235,6 +242,7 @@ TEST_F(Counts, AnObjectThatOnlyACursorHolds_LivesOn)
 {
     VYRCfdObjectAccess cursor = Part()["title"];
     m_part = NULL_var;
+    m_addedKey = NULL_var;
     m_model.Close();
     ORXUnicodeString text;
     EXPECT_EQ(cursor.GetPlainString(text), S_OK);
