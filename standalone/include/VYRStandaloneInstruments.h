@@ -88,7 +88,8 @@ VYRStandaloneExport int LiveComponents();
 /// What is alive, one text a class with its number, such as "FeatureObject 2"; empty when nothing is.
 VYRStandaloneExport std::vector<std::string> LiveComponentNames();
 
-/// References on a component: on an object also those that its facets, values and parameters hold. 0 for null.
+/// References on a component: on an object also those that its facets and parameters hold; values count for themselves,
+/// and outlive their object. 0 for null.
 VYRStandaloneExport unsigned int ReferenceCount(ORXBaseUnknown* iComponent);
 } // namespace VYRStandalone
 
