@@ -1,0 +1,262 @@
+/**
+ * @file
+ * What the tool says of input that it cannot use: one line, the exit status, and every file as it was.
+ */
+
+#include <functional>
+
+#include "ToolTest.h"
+
+namespace
+{
+using Break = std::function<void(const TemporaryFolder&)>;
+using Arguments = std::vector<std::string>;
+
+const std::string Model = "samples/models/externalFlow.model.json";
+const std::string Catalog = "samples/catalogs/FlowCommon.catalog.json";
+const std::string Configuration = "samples/reffiles/VYRCfdApp/solverConfig_Flow.json";
+
+const Arguments ShowModel{"show", Model};
+const Arguments List{"list"};
+const Arguments Apply{"apply", Model, "Solver.1", "externalFlow"};
+const Arguments ApplyAndSave{"apply", Model, "Solver.1", "externalFlow", "-o", Model};
+
+Break Nothing()
+{
+    return [](const TemporaryFolder&) {};
+}
+
+Break Written(const std::string& iFile, const std::string& iText)
+{
+    return [=](const TemporaryFolder& iFolder) { iFolder.Write(iFile, iText); };
+}
+
+Break Removed(const std::string& iFile)
+{
+    return [=](const TemporaryFolder& iFolder) { std::filesystem::remove(iFolder.Path(iFile)); };
+}
+
+Break Truncated(const std::string& iFile, std::size_t iBytes)
+{
+    return [=](const TemporaryFolder& iFolder) { iFolder.Write(iFile, iFolder.Read(iFile).substr(0, iBytes)); };
+}
+
+Break Replaced(const std::string& iFile, const std::string& iOld, const std::string& iNew)
+{
+    return [=](const TemporaryFolder& iFolder) {
+        std::string text = iFolder.Read(iFile);
+        const std::size_t at = text.find(iOld);
+        ASSERT_NE(at, std::string::npos) << iOld;
+        iFolder.Write(iFile, text.replace(at, iOld.size(), iNew));
+    };
+}
+
+/// A regular file that can be opened and not read, also by the superuser: no process has memory at address 0.
+Break Unreadable(const std::string& iFile)
+{
+    return [=](const TemporaryFolder& iFolder) {
+        std::filesystem::remove(iFolder.Path(iFile));
+        std::filesystem::create_symlink("/proc/self/mem", iFolder.Path(iFile));
+    };
+}
+
+struct BadInput
+{
+    const char* name;
+    Break breakIt;
+    Arguments arguments;
+    int status;
+    /// Of standard error, whole.
+    std::string errors;
+};
+
+class BadInputs : public ToolTest, public testing::WithParamInterface<BadInput>
+{
+};
+
+TEST_P(BadInputs, AreToldInOneLine_AndNothingIsTouched)
+{
+    const BadInput& input = GetParam();
+    AddSmallModel();
+    input.breakIt(m_folder);
+    const auto before = Files();
+    const ToolRun run = Run(input.arguments);
+    EXPECT_EQ(Outcome(run), Outcome(input.status, input.errors));
+    EXPECT_EQ(run.output, "");
+    EXPECT_EQ(Files(), before);
+}
+
+std::string NameOf(const testing::TestParamInfo<BadInput>& iInfo)
+{
+    return iInfo.param.name;
+}
+
+const BadInput Models[] = {
+    {"Missing",
+     Nothing(),
+     {"show", "nothing.model.json"},
+     1,
+     "nothing.model.json: cannot be opened: No such file or directory\n"},
+    {"Folder", Nothing(), {"show", "samples"}, 1, "samples: is a folder, not a file\n"},
+    {"Unreadable", Unreadable(Model), ShowModel, 1, Model + ": cannot be read: Input/output error\n"},
+    {"Empty", Written(Model, ""), ShowModel, 1, Model + ":1:1: The document is empty.\n"},
+    {"Truncated", Truncated(Model, 200), ShowModel, 1, Model + ":10:5: Missing a name for object member.\n"},
+    {"NoUtf8", Replaced(Model, "Wing solver", "Wing \xFF solver"), Apply, 1,
+     Model + ":8:22: Invalid encoding in string.\n"},
+    {"ArrayInPlaceOfObject", Written(Model, "[]"), ShowModel, 1, Model + ": must be an object, not an array\n"},
+    {"ObjectsOfWrongShape", Written(Model, R"({"model": 1, "catalogs": [], "objects": {}})"), ShowModel, 1,
+     Model + ": /objects: must be an array, not an object\n"},
+    {"UnknownType", Replaced(Model, "ExternalFlowSolver", "ExternalFlowSolvers"), ShowModel, 1,
+     Model + ": /objects/0/type: unknown type \"ExternalFlowSolvers\"; did you mean \"ExternalFlowSolver\"?\n"},
+    {"UnknownAttribute", Replaced(Model, "\"iterations\"", "\"iteration\""), ShowModel, 1,
+     Model + ": /objects/0/values/iteration: type \"ExternalFlowSolver\" has no attribute \"iteration\"; did you mean "
+             "\"iterations\"?\n"},
+    {"ValueOfWrongKind", Replaced(Model, "4000", "4000.5"), ShowModel, 1,
+     Model + ": /objects/0/values/iterations: an integer is wanted\n"},
+    {"ReferenceToNothing", Replaced(Model, "{ \"ref\": 2 }", "{ \"ref\": 77 }"), ShowModel, 1,
+     Model + ": /objects/0/values/mesh/ref: no object has the id 77\n"},
+    {"CatalogNotFound", Replaced(Model, "\"ExternalFlow\"", "\"Nowhere\""), ShowModel, 1,
+     Model + ": /catalogs/0: unknown catalog \"Nowhere\": no file \"Nowhere.catalog.json\" in \"samples/models\", "
+             "\"samples/catalogs\", and none of that name is declared\n"},
+};
+INSTANTIATE_TEST_SUITE_P(Models, BadInputs, testing::ValuesIn(Models), NameOf);
+
+const BadInput Catalogs[] = {
+    {"Missing",
+     Nothing(),
+     {"show", Model, "--catalog", "nothing.catalog.json"},
+     1,
+     "nothing.catalog.json: cannot be opened: No such file or directory\n"},
+    {"Unreadable", Unreadable(Catalog), ShowModel, 1, Catalog + ": cannot be read: Input/output error\n"},
+    {"Truncated", Truncated(Catalog, 300), ShowModel, 1,
+     Catalog + ":10:65: Missing a closing quotation mark in string.\n"},
+    {"NoUtf8", Replaced(Catalog, "SutherlandLaw", "Sutherland\xC3\x28"), ShowModel, 1,
+     Catalog + ":6:26: Invalid encoding in string.\n"},
+    {"WrongShape", Replaced(Catalog, "\"kind\": \"real\"", "\"kind\": 7"), ShowModel, 1,
+     Catalog + ": /types/0/attributes/0/kind: must be a text, not an integer\n"},
+    {"UnknownKind", Replaced(Catalog, "\"kind\": \"real\"", "\"kind\": \"rael\""), ShowModel, 1,
+     Catalog + ": /types/0/attributes/0/kind: unknown kind \"rael\"; did you mean \"real\"?\n"},
+};
+INSTANTIATE_TEST_SUITE_P(Catalogs, BadInputs, testing::ValuesIn(Catalogs), NameOf);
+
+const BadInput ConfigurationFiles[] = {
+    {"Missing", Removed(Configuration), Apply, 1,
+     "reffiles/VYRCfdApp/solverConfig_Flow.json: no such file in the installation samples\n"},
+    {"MissingInList", Removed(Configuration), List, 1,
+     "reffiles/VYRCfdApp/solverConfig_Flow.json: no such file in the installation samples\n"},
+    {"Unreadable", Unreadable(Configuration), Apply, 1, Configuration + ": cannot be read: Input/output error\n"},
+    {"Truncated", Truncated(Configuration, 100), ApplyAndSave, 1,
+     Configuration + ":6:22: Missing a closing quotation mark in string.\n"},
+    {"TruncatedInList", Truncated(Configuration, 100), List, 1,
+     Configuration + ":6:22: Missing a closing quotation mark in string.\n"},
+    {"NoUtf8", Replaced(Configuration, "freestreamAir", "freestream\xE4ir"), ApplyAndSave, 1,
+     Configuration + ":4:26: Invalid encoding in string.\n"},
+    {"ByteOrderMark", Written(Configuration, "\xEF\xBB\xBF{}"), Apply, 1,
+     Configuration + ":1:1: A byte order mark has no place in JSON.\n"},
+    {"NoObject", Written(Configuration, "[]"), Apply, 1, Configuration + ": must be an object, not an array\n"},
+    {"ConfigurationsNoArray", Written(Configuration, R"({"configurations": {}})"), List, 1,
+     Configuration + ": /configurations: must be an array, not an object\n"},
+    {"ConfigurationNoObject", Written(Configuration, R"({"configurations": ["a"]})"), List, 1,
+     Configuration + ": /configurations/0: must be an object, not a text\n"},
+    {"NoName", Written(Configuration, R"({"configurations": [{"name": "a"}, {"config": []}]})"), List, 1,
+     Configuration + ": /configurations/1/name: is missing\n"},
+    {"NameNoText", Written(Configuration, R"({"configurations": [{"name": 1}]})"), List, 1,
+     Configuration + ": /configurations/0/name: must be a text, not a number\n"},
+    {"ConfigNoArray", Written(Configuration, R"({"configurations": [{"name": "a", "config": "b"}]})"), List, 1,
+     Configuration + ": /configurations/0/config: must be an array, not a text\n"},
+    {"ItemNoObject", Written(Configuration, R"({"configurations": [{"name": "a", "config": [null]}]})"), List, 1,
+     Configuration + ": /configurations/0/config/0: must be an object, not null\n"},
+    {"NumberInPlaceOfText",
+     Written(Configuration, R"({"configurations": [{"name": "a", "config": [{}, {"path": "p", "default": 0.7}]}]})"),
+     Apply, 1, Configuration + ": /configurations/0/config/1/default: must be a text, not a number\n"},
+    {"TextInPlaceOfBoolean",
+     Written(Configuration, R"({"configurations": [{"name": "a", "config": [{"list": "true"}]}]})"), Apply, 1,
+     Configuration + ": /configurations/0/config/0/list: must be true or false, not a text\n"},
+};
+INSTANTIATE_TEST_SUITE_P(ConfigurationFiles, BadInputs, testing::ValuesIn(ConfigurationFiles), NameOf);
+
+const BadInput Names[] = {
+    {"ObjectLikeAnother",
+     Nothing(),
+     {"apply", Model, "Solver1", "externalFlow", "-o", Model},
+     1,
+     Model + ": no top-level object \"Solver1\"; did you mean \"Solver.1\"?\n"},
+    {"ObjectLikeNone", Nothing(), {"show", Model, "Nobody"}, 1, Model + ": no top-level object \"Nobody\"\n"},
+    {"NoObjectName", Nothing(), {"apply", Model, "", "externalFlow"}, 1, Model + ": no top-level object \"\"\n"},
+    {"ObjectNoUtf8", Nothing(), {"show", Model, "\xFF\n"}, 1, Model + ": no top-level object \"\\xFF\\n\"\n"},
+    {"PathLeadsNowhere",
+     Nothing(),
+     {"show", Model, "Solver.1/fluids"},
+     1,
+     Model + ": \"Solver.1/fluids\" leads nowhere: No attribute fluids\n"},
+    {"EntryLeadsNowhere",
+     Nothing(),
+     {"show", Model, "Mesh.1/zones/Zone.9"},
+     1,
+     Model + ": \"Mesh.1/zones/Zone.9\" leads nowhere: No matching object to Zone.9\n"},
+    {"EmptyEntryOnTheWay",
+     Nothing(),
+     {"show", "small.model.json", "Case.1/probes/Outlet"},
+     1,
+     "small.model.json: \"Case.1/probes/Outlet\" leads nowhere: a list on the way has an empty entry, and cannot be "
+     "searched\n"},
+    {"AttributeInPlaceOfObject",
+     Nothing(),
+     {"apply", Model, "Solver.1/iterations", "externalFlow"},
+     1,
+     Model + ": \"Solver.1/iterations\" is an attribute, no object\n"},
+    {"ConfigurationLikeAnother",
+     Nothing(),
+     {"apply", Model, "Solver.1", "externlFlow", "-o", Model},
+     1,
+     "vyrcfd: no configuration \"externlFlow\"; did you mean \"externalFlow\"?\n"
+     "failed call: GetConfigurationObject(iConfigName, configObjectJSON) in VYRCfdConfigurator::ApplyConfiguration, "
+     "status 0x80004005\n"},
+    {"NoDefaultManagement",
+     Nothing(),
+     {"apply", "small.model.json", "Mesh", "externalFlow", "-o", "small.model.json"},
+     1,
+     "small.model.json: \"Mesh\" has no default management, and cannot be configured\n"
+     "assertion: spDefMgmt != NULL_var in VYRCfdConfigurator::ApplyConfiguration, status 0x80004005\n"},
+    {"ItemFails",
+     Nothing(),
+     {"apply", Model, "Mesh.1", "externalFlow", "-o", Model},
+     1,
+     Model + ": \"externalFlow\" failed on \"Mesh.1\"\n"
+             "assertion: spParm in VYRCfdDefaultManagementAdp::SetCustomDefault, status 0x80004005\n"
+             "failed call: spDefMgmt->SetCustomDefault(path, defaultValue) in VYRCfdConfigurator::ApplyConfiguration, "
+             "status 0x80004005\n"},
+};
+INSTANTIATE_TEST_SUITE_P(Names, BadInputs, testing::ValuesIn(Names), NameOf);
+
+const BadInput Outputs[] = {
+    {"NoSuchFolder",
+     Nothing(),
+     {"apply", Model, "Solver.1", "externalFlow", "-o", "nowhere/out.model.json"},
+     1,
+     "nowhere/out.model.json: cannot be written: No such file or directory\n"},
+    {"Folder",
+     Nothing(),
+     {"apply", Model, "Solver.1", "externalFlow", "-o", "samples"},
+     1,
+     "samples: is a folder, not a file\n"},
+    // Not even the superuser makes files there.
+    {"FolderThatTakesNone",
+     Nothing(),
+     {"apply", Model, "Solver.1", "externalFlow", "-o", "/proc/out.model.json"},
+     1,
+     "/proc/out.model.json: cannot be written: No such file or directory\n"},
+    {"FullDevice",
+     Nothing(),
+     {"apply", Model, "Solver.1", "externalFlow", "-o", "/dev/full"},
+     1,
+     "/dev/full: cannot be written: No space left on device\n"},
+};
+INSTANTIATE_TEST_SUITE_P(Outputs, BadInputs, testing::ValuesIn(Outputs), NameOf);
+
+TEST_F(ToolTest, Installation_ThatIsNoFolder_IsToldInOneLine)
+{
+    const ToolRun run = RunTool({"list", "--installation", "nowhere"}, {m_folder.Path()});
+    EXPECT_EQ(Outcome(run), Outcome(1, "nowhere: is no folder, so there is no installation\n"));
+}
+} // namespace

@@ -1,0 +1,45 @@
+/**
+ * @file
+ * Whole answers, compared with those in data/, which were read and found right. renew.sh shows what has changed.
+ */
+
+#include <cstdlib>
+#include <fstream>
+
+#include "SmallTest.h"
+
+namespace
+{
+struct Golden
+{
+    /// Of its file, with an underscore for the dot.
+    const char* name;
+    const char* file;
+    std::vector<std::string> arguments;
+};
+
+class Goldens : public SmallTest, public testing::WithParamInterface<Golden>
+{
+};
+
+TEST_P(Goldens, StandAsTheyWereRead)
+{
+    const ToolRun run = Run(GetParam().arguments);
+    EXPECT_EQ(run.status, 0) << run.errors;
+    if (const char* folder = std::getenv("VYR_RENEWED_GOLDENS"); folder != nullptr)
+    {
+        std::ofstream(std::string(folder) + "/" + GetParam().file, std::ios::binary) << run.output;
+        GTEST_SKIP() << "renewed, not compared";
+    }
+    EXPECT_EQ(run.output, ReadData(GetParam().file));
+}
+
+const Golden Cases[] = {
+    {"show_txt", "show.txt", {"show", "small.model.json"}},
+    {"show_json", "show.json", {"show", "small.model.json", "Case.1", "--json"}},
+    {"apply_txt", "apply.txt", {"apply", "small.model.json", "Cavity", "cavity"}},
+    {"apply_json", "apply.json", {"apply", "small.model.json", "Case.1", "cavity", "--json"}},
+};
+INSTANTIATE_TEST_SUITE_P(Answers, Goldens, testing::ValuesIn(Cases),
+                         [](const auto& iInfo) { return iInfo.param.name; });
+} // namespace

@@ -1,0 +1,43 @@
+#ifndef ToolRun_H
+#define ToolRun_H
+
+/**
+ * @file
+ * Running the tool as a user does: a process of its own, with its own working folder.
+ */
+
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+struct ToolRun
+{
+    /// Exit status; 128 and the signal for a process that a signal has ended.
+    int status = 0;
+    std::string output;
+    std::string errors;
+};
+
+struct ToolSettings
+{
+    ToolSettings(std::string iFolder = {}) : folder(std::move(iFolder)) {}
+
+    /// Working folder.
+    std::string folder;
+    /// Variables beside the few that are handed on.
+    std::map<std::string, std::string> environment;
+    /// In place of being caught, standard output goes to this file.
+    std::string outputFile;
+    /// Standard output is a pipe that nobody reads.
+    bool brokenPipe = false;
+    /// Standard output is a terminal, which is read.
+    bool terminal = false;
+    /// No file may become longer; 0 for any length.
+    unsigned long longestFile = 0;
+};
+
+/// Runs vyrcfd. Of the environment it sees what settings say and nothing that would steer it.
+ToolRun RunTool(const std::vector<std::string>& iArguments, const ToolSettings& iSettings);
+
+#endif

@@ -1,0 +1,197 @@
+#include "ApplyText.h"
+
+#include "JsonWriter.h"
+#include "Output.h"
+#include "Wording.h"
+
+namespace Tool
+{
+namespace
+{
+constexpr char Indent[] = "    ";
+
+std::string Joined(const std::vector<std::string>& iParts)
+{
+    std::string text;
+    for (const std::string& part : iParts)
+        text += (text.empty() ? "" : ", ") + part;
+    return text;
+}
+
+std::string FlagChange(const char* iName, bool iBefore, bool iAfter)
+{
+    if (iBefore == iAfter)
+        return {};
+    return std::string(iAfter ? "now " : "no longer ") + iName;
+}
+
+std::vector<std::string> FlagChanges(const AttributeSnapshot& iBefore, const AttributeSnapshot& iAfter)
+{
+    std::vector<std::string> parts{
+        FlagChange("set", iBefore.set.value_or(false), iAfter.set.value_or(false)),
+        FlagChange("auto", iBefore.automatic.value_or(false), iAfter.automatic.value_or(false))};
+    // No flag and a false one are two things.
+    if (!iBefore.automatic && iAfter.automatic == false)
+        parts.emplace_back("auto off");
+    std::erase(parts, std::string());
+    return parts;
+}
+
+std::string AttributeText(const AttributeChange& iChange, const Colours& iColours)
+{
+    if (iChange.before == nullptr)
+        return OneLine(iChange.after->info.name) + ": " + iColours.Added("added, " + iChange.after->value.Shown());
+    if (iChange.after == nullptr)
+        return OneLine(iChange.before->info.name) + ": " + iColours.Removed("taken away");
+    std::vector<std::string> parts;
+    if (!(iChange.before->value == iChange.after->value))
+        parts.push_back(iColours.Removed(iChange.before->value.Shown()) + " -> " +
+                        iColours.Added(iChange.after->value.Shown()));
+    for (const std::string& flag : FlagChanges(*iChange.before, *iChange.after))
+        parts.push_back(flag);
+    return OneLine(iChange.after->info.name) + ": " + Joined(parts);
+}
+
+std::string ObjectText(const ObjectChange& iChange, const Colours& iColours)
+{
+    const ObjectSnapshot& object = *iChange.object;
+    std::string text = iColours.Heading(OneLine(object.path)) + "  " + OneLine(object.type);
+    if (iChange.isNew)
+        text += iColours.Added("  new");
+    if (iChange.isGone)
+        text += iColours.Removed("  gone");
+    text += "\n";
+    for (const AttributeChange& attribute : iChange.attributes)
+        text += Indent + AttributeText(attribute, iColours) + "\n";
+    for (const RecordSnapshot* record : iChange.goneRecords)
+        text += Indent + iColours.Removed("- record " + record->Shown()) + "\n";
+    for (const RecordSnapshot* record : iChange.newRecords)
+        text += Indent + iColours.Added("+ record " + record->Shown()) + "\n";
+    if (iChange.remadeRecords != 0)
+        text += Indent + Counted(iChange.remadeRecords, "record") + " made anew as before\n";
+    return text;
+}
+
+std::string SummaryText(const Application& iApplication, const Difference& iDifference)
+{
+    std::size_t fresh = 0;
+    for (const ObjectChange& change : iDifference.objects)
+        fresh += change.isNew ? 1 : 0;
+    std::string text = Quoted(iApplication.configuration) + " on " + OneLine(iApplication.object) + ": " +
+                       Counted(iDifference.ChangedAttributes(), "attribute") + " changed, " +
+                       Counted(iDifference.NewRecords(), "record") + " made";
+    if (fresh != 0)
+        text += ", " + Counted(fresh, "object") + " made";
+    if (iDifference.unreferencedRecords > 0)
+        text += ", " + Counted(static_cast<std::size_t>(iDifference.unreferencedRecords), "record") +
+                " left that nothing refers to";
+    return text + ".\n";
+}
+
+void WriteSide(JsonWriter& oWriter, const char* iKey, const AttributeSnapshot* iAttribute)
+{
+    WriteKey(oWriter, iKey);
+    if (iAttribute == nullptr)
+    {
+        oWriter.Null();
+        return;
+    }
+    const auto flag = [&](const char* iName, const std::optional<bool>& iFlag) {
+        WriteKey(oWriter, iName);
+        if (iFlag)
+            oWriter.Bool(*iFlag);
+        else
+            oWriter.Null();
+    };
+    oWriter.StartObject();
+    WriteKey(oWriter, "value");
+    iAttribute->value.Write(oWriter);
+    flag("set", iAttribute->set);
+    flag("auto", iAttribute->automatic);
+    oWriter.EndObject();
+}
+
+void WriteRecords(JsonWriter& oWriter, const char* iKey, const std::vector<const RecordSnapshot*>& iRecords)
+{
+    WriteKey(oWriter, iKey);
+    oWriter.StartArray();
+    for (const RecordSnapshot* record : iRecords)
+    {
+        oWriter.StartObject();
+        for (const AttributeSnapshot& attribute : record->attributes)
+        {
+            WriteKey(oWriter, attribute.info.name);
+            attribute.value.Write(oWriter);
+        }
+        oWriter.EndObject();
+    }
+    oWriter.EndArray();
+}
+
+void WriteObject(JsonWriter& oWriter, const ObjectChange& iChange)
+{
+    oWriter.StartObject();
+    WriteMember(oWriter, "path", iChange.object->path);
+    WriteMember(oWriter, "type", iChange.object->type);
+    WriteMember(oWriter, "change", iChange.isNew ? "new" : iChange.isGone ? "gone" : "changed");
+    WriteKey(oWriter, "attributes");
+    oWriter.StartObject();
+    for (const AttributeChange& attribute : iChange.attributes)
+    {
+        const AttributeSnapshot& side = attribute.after != nullptr ? *attribute.after : *attribute.before;
+        WriteKey(oWriter, side.info.name);
+        oWriter.StartObject();
+        WriteMember(oWriter, "kind", side.KindName());
+        WriteSide(oWriter, "before", attribute.before);
+        WriteSide(oWriter, "after", attribute.after);
+        oWriter.EndObject();
+    }
+    oWriter.EndObject();
+    WriteRecords(oWriter, "newRecords", iChange.newRecords);
+    WriteRecords(oWriter, "goneRecords", iChange.goneRecords);
+    WriteKey(oWriter, "remadeRecords");
+    oWriter.Uint64(iChange.remadeRecords);
+    oWriter.EndObject();
+}
+} // namespace
+
+std::string ApplyText(const Application& iApplication, const Difference& iDifference)
+{
+    if (!iApplication.isDone)
+        return "Nothing done: " + Quoted(iApplication.configuration) + " has no items.\n";
+    const Colours colours;
+    std::string text;
+    for (const ObjectChange& change : iDifference.objects)
+        text += ObjectText(change, colours);
+    return text + SummaryText(iApplication, iDifference);
+}
+
+std::string ApplyJson(const Application& iApplication, const Difference& iDifference)
+{
+    return JsonText([&](JsonWriter& oWriter) {
+        oWriter.StartObject();
+        WriteMember(oWriter, "configuration", iApplication.configuration);
+        WriteMember(oWriter, "object", iApplication.object);
+        WriteKey(oWriter, "done");
+        oWriter.Bool(iApplication.isDone);
+        WriteKey(oWriter, "objects");
+        oWriter.StartArray();
+        for (const ObjectChange& change : iDifference.objects)
+            WriteObject(oWriter, change);
+        oWriter.EndArray();
+        WriteKey(oWriter, "unreferencedRecords");
+        oWriter.Int(iDifference.unreferencedRecords);
+        WriteKey(oWriter, "notes");
+        oWriter.StartArray();
+        for (const std::string& note : iApplication.notes)
+            WriteText(oWriter, note);
+        oWriter.EndArray();
+        WriteKey(oWriter, "savedTo");
+        if (iApplication.savedTo.empty())
+            oWriter.Null();
+        else
+            WriteText(oWriter, OneLine(iApplication.savedTo));
+        oWriter.EndObject();
+    });
+}
+} // namespace Tool

@@ -1,0 +1,32 @@
+#ifndef ApplyText_H
+#define ApplyText_H
+
+/**
+ * @file
+ * What a configuration has changed, for a reader and for a machine.
+ */
+
+#include <string>
+
+#include "Difference.h"
+
+namespace Tool
+{
+/// What was applied to what.
+struct Application
+{
+    std::string configuration;
+    std::string object;
+    /// False for a configuration without items.
+    bool isDone = true;
+    /// Empty when nothing was saved.
+    std::string savedTo;
+    /// What the error service holds, one line each.
+    std::vector<std::string> notes;
+};
+
+std::string ApplyText(const Application& iApplication, const Difference& iDifference);
+std::string ApplyJson(const Application& iApplication, const Difference& iDifference);
+} // namespace Tool
+
+#endif

@@ -1,0 +1,29 @@
+#ifndef Command_H
+#define Command_H
+
+/**
+ * @file
+ * The commands. Each declares itself to the command line, and leaves its work to be done when it was chosen.
+ */
+
+#include <functional>
+
+#include <CLI/CLI.hpp>
+
+#include "Installation.h"
+
+namespace Tool
+{
+/// @throws Failure, VYRStandalone::DocumentError
+using Job = std::function<void()>;
+
+/// The options that every command takes, before its name or behind it.
+void AddCommonOptions(CLI::App& ioApp, CommonOptions& ioOptions);
+
+// The options must outlive the job.
+void AddApplyCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
+void AddShowCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
+void AddListCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
+} // namespace Tool
+
+#endif

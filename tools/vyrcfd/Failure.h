@@ -1,0 +1,21 @@
+#ifndef Failure_H
+#define Failure_H
+
+/**
+ * @file
+ * How a command gives up.
+ */
+
+#include <stdexcept>
+
+namespace Tool
+{
+/// The job failed. `what()` is what standard error gets: one line, and a line for each report of the error service.
+class Failure : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+} // namespace Tool
+
+#endif

@@ -1,0 +1,48 @@
+#ifndef Installation_H
+#define Installation_H
+
+/**
+ * @file
+ * The installation that a run works on.
+ */
+
+#include <string>
+#include <vector>
+
+#include "VYRStandaloneModel.h"
+
+namespace Tool
+{
+/// What every command takes.
+struct CommonOptions
+{
+    /// Empty where the option was not given.
+    std::string installation;
+    std::vector<std::string> catalogs;
+    bool json = false;
+};
+
+/**
+ * One folder, or several with the platform's path separator between, like the variable: the option, else the variable
+ * ORXInstallPath, else the sample installation. The module is told.
+ */
+class Installation
+{
+public:
+    /// @throws Failure for a folder that is not there
+    explicit Installation(const CommonOptions& iOptions);
+
+    const std::string& Path() const noexcept { return m_path; }
+
+    /// The catalogs of the options are declared, and those that the model names are sought beside it and in the
+    /// installation. @throws VYRStandalone::DocumentError
+    VYRStandalone::Model LoadModel(const std::string& iFile) const;
+
+private:
+    std::string m_path;
+    std::vector<std::string> m_catalogs;
+    std::vector<std::string> m_catalogFolders;
+};
+} // namespace Tool
+
+#endif

@@ -1,0 +1,67 @@
+#include "ObjectPath.h"
+
+#include "Failure.h"
+#include "ListNames.h"
+#include "VYRCfdObjectAccess.h"
+#include "Wording.h"
+
+namespace Tool
+{
+const char ObjectPathHelp[] =
+    "A path begins with a top-level object, named by its display name, its name, its type or its position; of several\n"
+    "that answer the first is taken. What stands behind the first \"/\" is followed from there, as configurations\n"
+    "follow theirs: names of attributes, and in a list of objects any of the meanings above. A top-level object whose\n"
+    "name holds a \"/\" cannot be reached by that name, but by its type or position.";
+
+namespace
+{
+std::vector<std::string> KnownNames(const VYRStandalone::Model& iModel)
+{
+    std::vector<std::string> names;
+    for (const ORXISpecObject_var& object : iModel.Objects())
+        for (const std::string& name : {TextOf(object->GetName()), AliasOf(object)})
+            if (!name.empty())
+                names.push_back(name);
+    return names;
+}
+
+[[noreturn]] void FailNowhere(const std::string& iFile, const std::string& iPath, const std::string& iWhy)
+{
+    throw Failure(OneLine(iFile) + ": " + Quoted(iPath) + " leads nowhere: " + OneLine(iWhy));
+}
+
+VYRCfdObjectAccess Walk(const ORXISpecObject_var& iObject, const ORXUnicodeString& iRest, const std::string& iFile,
+                        const std::string& iPath)
+{
+    try
+    {
+        return VYRCfdObjectAccess(ORXBaseUnknown_var(iObject)).GetByPath(iRest);
+    }
+    catch (const VYRStandalone::NullPointerError&)
+    {
+        // The cursor takes a list of objects to be full, and the host does not go on.
+        FailNowhere(iFile, iPath, "a list on the way has an empty entry, and cannot be searched");
+    }
+}
+} // namespace
+
+Target FollowPath(const VYRStandalone::Model& iModel, const std::string& iFile, const std::string& iPath)
+{
+    ORXUnicodeString head;
+    ORXUnicodeString rest;
+    VYRCfdObjectAccess::SplitPath(ORXUnicodeString(iPath.data(), iPath.size()), head, rest);
+    const ORXISpecObject_var spObject = head.IsEmpty() ? ORXISpecObject_var() : iModel.Find(head);
+    if (!spObject)
+        throw Failure(OneLine(iFile) + ": no top-level object " + Quoted(head.View()) +
+                      DidYouMean(head.View(), KnownNames(iModel)));
+
+    const VYRCfdObjectAccess access = Walk(spObject, rest, iFile, iPath);
+    if (access.HasError())
+        FailNowhere(iFile, iPath, TextOf(access.GetError()));
+    const ORXISpecObject_var spTarget = access.Self();
+    if (access.IsNull() || !spTarget)
+        FailNowhere(iFile, iPath, "there is no object");
+    // Only an object has a type; at an attribute the name is the attribute's.
+    return {spTarget, access.GetType().IsEmpty() ? TextOf(access.GetName()) : std::string()};
+}
+} // namespace Tool

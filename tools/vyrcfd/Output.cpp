@@ -1,0 +1,36 @@
+#include "Output.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <system_error>
+#include <unistd.h>
+
+#include "Failure.h"
+
+namespace Tool
+{
+void Print(const std::string& iText)
+{
+    errno = 0;
+    if (std::fwrite(iText.data(), 1, iText.size(), stdout) != iText.size() || std::fflush(stdout) != 0)
+        throw Failure("vyrcfd: standard output: cannot be written: " + std::generic_category().message(errno));
+}
+
+void PrintError(const std::string& iLine)
+{
+    // Nobody is left to tell when this fails.
+    std::fputs((iLine + "\n").c_str(), stderr);
+}
+
+Colours::Colours()
+{
+    const char* refused = std::getenv("NO_COLOR");
+    m_on = (refused == nullptr || *refused == '\0') && isatty(STDOUT_FILENO) == 1;
+}
+
+std::string Colours::Wrapped(const char* iCode, const std::string& iText) const
+{
+    return m_on ? std::string("\x1B[") + iCode + "m" + iText + "\x1B[0m" : iText;
+}
+} // namespace Tool

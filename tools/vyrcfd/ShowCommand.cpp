@@ -1,0 +1,119 @@
+#include <memory>
+
+#include "AttributeReader.h"
+#include "Command.h"
+#include "Defaults.h"
+#include "JsonWriter.h"
+#include "ObjectPath.h"
+#include "Output.h"
+#include "ShowText.h"
+#include "Snapshot.h"
+
+namespace Tool
+{
+namespace
+{
+void WriteFlag(JsonWriter& oWriter, const char* iKey, const std::optional<bool>& iFlag)
+{
+    WriteKey(oWriter, iKey);
+    if (iFlag)
+        oWriter.Bool(*iFlag);
+    else
+        oWriter.Null();
+}
+
+void WriteAttribute(JsonWriter& oWriter, const ORXISpecObject_var& iObject, const AttributeSnapshot& iAttribute)
+{
+    const AttributeDefault byDefault = DefaultOf(iObject, iAttribute);
+    WriteKey(oWriter, iAttribute.info.name);
+    oWriter.StartObject();
+    WriteMember(oWriter, "kind", iAttribute.KindName());
+    WriteKey(oWriter, "value");
+    iAttribute.value.Write(oWriter);
+    WriteFlag(oWriter, "set", iAttribute.set);
+    WriteFlag(oWriter, "auto", iAttribute.automatic);
+    WriteKey(oWriter, "default");
+    byDefault.value.Write(oWriter);
+    WriteMember(oWriter, "source", SourceText(iAttribute, byDefault));
+    oWriter.EndObject();
+}
+
+void WriteObject(JsonWriter& oWriter, const ORXISpecObject_var& iObject, const std::string& iPath,
+                 const std::string& iType, const std::vector<AttributeSnapshot>& iAttributes)
+{
+    oWriter.StartObject();
+    WriteMember(oWriter, "path", iPath);
+    WriteMember(oWriter, "type", iType);
+    WriteKey(oWriter, "attributes");
+    oWriter.StartObject();
+    for (const AttributeSnapshot& attribute : iAttributes)
+        WriteAttribute(oWriter, iObject, attribute);
+    oWriter.EndObject();
+    oWriter.EndObject();
+}
+
+/// Records stand behind their object, as objects at their place in its default management.
+std::string ShowJson(const Snapshot& iSnapshot)
+{
+    return JsonText([&](JsonWriter& oWriter) {
+        oWriter.StartObject();
+        WriteKey(oWriter, "objects");
+        oWriter.StartArray();
+        for (const ObjectSnapshot& object : iSnapshot)
+        {
+            WriteObject(oWriter, object.object, object.path, object.type, object.attributes);
+            if (!object.otherFlags.empty())
+                WriteObject(oWriter, {}, object.path + "/defaultManagement", "VYRCfdDefaultManagement",
+                            object.otherFlags);
+            for (const RecordSnapshot& record : object.records)
+                if (!record.attributes.empty())
+                    WriteObject(oWriter, record.object, record.path, record.type, record.attributes);
+        }
+        oWriter.EndArray();
+        oWriter.EndObject();
+    });
+}
+
+struct ShowArguments
+{
+    std::string model;
+    std::string path;
+};
+
+/// What asking for defaults does to the model is lost with it: it is never saved.
+void Show(const CommonOptions& iOptions, const ShowArguments& iArguments)
+{
+    const VYRStandalone::Model model = Installation(iOptions).LoadModel(iArguments.model);
+    Snapshot snapshot;
+    if (iArguments.path.empty())
+        snapshot = TakeSnapshot(model);
+    else
+    {
+        const Target target = FollowPath(model, iArguments.model, iArguments.path);
+        snapshot = TakeSnapshot(model, target.object, iArguments.path, target.attribute);
+    }
+    Print(iOptions.json ? ShowJson(snapshot) : ShowText(snapshot));
+}
+} // namespace
+
+void AddShowCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
+{
+    CLI::App* command = ioApp.add_subcommand(
+        "show", "Shows objects of a model as a tree: values, kinds, set and auto flags, defaults, records");
+    const auto arguments = std::make_shared<ShowArguments>();
+    command->add_option("MODEL", arguments->model, "Model file (*.model.json)")->required();
+    command->add_option("PATH", arguments->path, "Object or attribute; all objects where it is left out");
+    AddCommonOptions(*command, ioOptions);
+    command->footer(std::string(ObjectPathHelp) +
+                    "\n\nNothing is changed. An attribute without value is (unset), which is something else than \"\"; "
+                    "an object attribute\nor list entry without object is (empty). A default stands with what it comes "
+                    "from: a custom default, a record\nthat a configuration has left, or the start-up of the feature "
+                    "type.\n"
+                    "With --json: {\"objects\": [{\"path\", \"type\", \"attributes\": {NAME: {\"kind\", \"value\", "
+                    "\"set\", \"auto\",\n\"default\", \"source\"}}}]}, owners first; null for no value, no flag, no "
+                    "default. \"source\" says where the value\ncomes from: \"set\", \"custom default\", \"record\", "
+                    "\"start-up\", or \"none\" when none of these gives it.");
+    command->callback(
+        [&ioOptions, &oJob, arguments] { oJob = [&ioOptions, arguments] { Show(ioOptions, *arguments); }; });
+}
+} // namespace Tool

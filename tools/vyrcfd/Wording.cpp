@@ -1,0 +1,138 @@
+#include "Wording.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <numeric>
+
+namespace Tool
+{
+namespace
+{
+unsigned char ByteAt(std::string_view iText, std::size_t iAt)
+{
+    return static_cast<unsigned char>(iText[iAt]);
+}
+
+bool Continues(std::string_view iText, std::size_t iAt)
+{
+    return iAt < iText.size() && (ByteAt(iText, iAt) & 0xC0U) == 0x80U;
+}
+
+/// Bytes of the character at a position, 0 when there is none in UTF-8.
+std::size_t CharacterLength(std::string_view iText, std::size_t iAt)
+{
+    const unsigned char first = ByteAt(iText, iAt);
+    if (first < 0x80)
+        return 1;
+    const std::size_t length = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
+    if (first < 0xC2 || first > 0xF4)
+        return 0;
+    for (std::size_t i = 1; i < length; ++i)
+        if (!Continues(iText, iAt + i))
+            return 0;
+    // Encoded longer than needed, half a surrogate pair, or beyond the last code point.
+    const unsigned char second = ByteAt(iText, iAt + 1);
+    const bool isWrong = (first == 0xE0 && second < 0xA0) || (first == 0xED && second > 0x9F) ||
+                         (first == 0xF0 && second < 0x90) || (first == 0xF4 && second > 0x8F);
+    return isWrong ? 0 : length;
+}
+
+std::string EscapedByte(unsigned char iByte)
+{
+    switch (iByte)
+    {
+    case '\n':
+        return "\\n";
+    case '\r':
+        return "\\r";
+    case '\t':
+        return "\\t";
+    default:
+        break;
+    }
+    char text[8];
+    std::snprintf(text, sizeof(text), "\\x%02X", static_cast<unsigned>(iByte));
+    return text;
+}
+
+std::string Escaped(std::string_view iText, bool iInQuotes)
+{
+    std::string escaped;
+    for (std::size_t at = 0; at < iText.size();)
+    {
+        const std::size_t length = CharacterLength(iText, at);
+        const unsigned char first = ByteAt(iText, at);
+        if (length == 0 || first < 0x20 || first == 0x7F)
+            escaped += EscapedByte(first);
+        else if (iInQuotes && (first == '"' || first == '\\'))
+            escaped += {'\\', iText[at]};
+        else
+            escaped += iText.substr(at, length);
+        at += std::max<std::size_t>(length, 1);
+    }
+    return escaped;
+}
+
+/// Letters to insert, take out or replace to come from one text to the other.
+std::size_t EditDistance(std::string_view iLeft, std::string_view iRight)
+{
+    std::vector<std::size_t> row(iRight.size() + 1);
+    std::iota(row.begin(), row.end(), std::size_t{0});
+    for (std::size_t i = 0; i < iLeft.size(); ++i)
+    {
+        std::size_t diagonal = row[0];
+        row[0] = i + 1;
+        for (std::size_t j = 0; j < iRight.size(); ++j)
+        {
+            const std::size_t replaced = diagonal + (iLeft[i] == iRight[j] ? 0 : 1);
+            diagonal = row[j + 1];
+            row[j + 1] = std::min({replaced, row[j] + 1, diagonal + 1});
+        }
+    }
+    return row.back();
+}
+} // namespace
+
+std::string OneLine(std::string_view iText)
+{
+    const std::size_t last = iText.find_last_not_of(" \t\r\n");
+    return Escaped(last == std::string_view::npos ? std::string_view() : iText.substr(0, last + 1), false);
+}
+
+std::string Quoted(std::string_view iText)
+{
+    return '"' + Escaped(iText, true) + '"';
+}
+
+std::size_t Characters(std::string_view iText)
+{
+    return static_cast<std::size_t>(std::count_if(
+        iText.begin(), iText.end(), [](char iByte) { return (static_cast<unsigned char>(iByte) & 0xC0U) != 0x80U; }));
+}
+
+std::string Counted(std::size_t iNumber, const std::string& iSingular)
+{
+    return std::to_string(iNumber) + " " + iSingular + (iNumber == 1 ? "" : "s");
+}
+
+std::string DidYouMean(std::string_view iUnknown, const std::vector<std::string>& iKnown)
+{
+    // Longer than any name, it is no misspelling, and comparing would take its time.
+    constexpr std::size_t LongestName = 200;
+    if (iUnknown.size() > LongestName)
+        return {};
+    const std::string* best = nullptr;
+    // Half of the letters wrong is no misspelling either.
+    std::size_t bestDistance = std::max<std::size_t>(2, (iUnknown.size() + 1) / 2);
+    for (const std::string& known : iKnown)
+    {
+        const std::size_t distance = EditDistance(iUnknown, known);
+        if (distance < bestDistance)
+        {
+            best = &known;
+            bestDistance = distance;
+        }
+    }
+    return best != nullptr ? "; did you mean " + Quoted(*best) + "?" : std::string();
+}
+} // namespace Tool

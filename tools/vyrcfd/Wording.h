@@ -1,0 +1,34 @@
+#ifndef Wording_H
+#define Wording_H
+
+/**
+ * @file
+ * How texts and numbers of a model stand in what the tool prints.
+ */
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Tool
+{
+/// The text on one line: white space at its end is left out, control characters and bytes that are no UTF-8 are
+/// escaped.
+std::string OneLine(std::string_view iText);
+
+/// The same between quotation marks, with those inside escaped; nothing is left out.
+std::string Quoted(std::string_view iText);
+
+/// Number of characters of a text in UTF-8.
+std::size_t Characters(std::string_view iText);
+
+/// "1 item", "2 items".
+std::string Counted(std::size_t iNumber, const std::string& iSingular);
+
+/// What to say behind an unknown name: the known one that it is most like, as `; did you mean "wall"?`. Empty when
+/// nothing is like it.
+std::string DidYouMean(std::string_view iUnknown, const std::vector<std::string>& iKnown);
+} // namespace Tool
+
+#endif

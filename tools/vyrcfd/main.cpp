@@ -1,0 +1,118 @@
+/**
+ * @file
+ * vyrcfd: tries configurations out on models, without the application that they are written for.
+ */
+
+#include <csignal>
+#include <cstdio>
+#include <sstream>
+
+#include "Command.h"
+#include "Failure.h"
+#include "Output.h"
+#include "VYRStandaloneErrors.h"
+#include "VYRStandaloneServices.h"
+#include "Wording.h"
+
+namespace
+{
+enum ExitStatus
+{
+    Success = 0,
+    JobFailed = 1,
+    WrongUse = 2
+};
+
+/// What was wrong with the command line, and whose help tells how it is right.
+std::string Correction(const CLI::App& iApp, const CLI::ParseError& iError)
+{
+    using namespace Tool;
+    const std::vector<CLI::App*> chosen = iApp.get_subcommands();
+    if (!chosen.empty())
+        return OneLine(iError.what()) + "; see vyrcfd " + chosen.front()->get_name() + " --help";
+    // The library misses a command before it takes offence at what stands in its place.
+    const std::vector<std::string> strange = iApp.remaining();
+    std::string line = OneLine(iError.what());
+    if (!strange.empty())
+    {
+        std::vector<std::string> known;
+        for (const CLI::App* command : iApp.get_subcommands({}))
+            known.push_back(command->get_name());
+        line = "no command " + Quoted(strange.front()) + DidYouMean(strange.front(), known);
+    }
+    else if (dynamic_cast<const CLI::RequiredError*>(&iError) != nullptr)
+        line = "no command";
+    return line + "; see vyrcfd --help";
+}
+
+ExitStatus Run(const Tool::Job& iJob)
+{
+    try
+    {
+        iJob();
+        return Success;
+    }
+    catch (const Tool::Failure& failure)
+    {
+        Tool::PrintError(failure.what());
+    }
+    catch (const VYRStandalone::DocumentError& error)
+    {
+        Tool::PrintError(error.what());
+    }
+    catch (const std::exception& error)
+    {
+        // A fault of this program or of the module; what led to it helps whoever mends it.
+        Tool::PrintError("vyrcfd: internal error: " + Tool::OneLine(error.what()));
+    }
+    return JobFailed;
+}
+
+ExitStatus RunCommandLine(int argc, const char* const* argv)
+{
+    // Standard output is the answer's alone.
+    VYRStandalone::RedirectTraces([](const std::string& iText) { std::fputs(iText.c_str(), stderr); });
+
+    CLI::App app("Tries configurations of flow simulation out on models, without the application.", "vyrcfd");
+    app.require_subcommand(1);
+    app.footer("Exit status: 0 success, 1 the job failed, 2 wrong use. `vyrcfd COMMAND --help` tells more.");
+    Tool::CommonOptions options;
+    Tool::Job job;
+    Tool::AddCommonOptions(app, options);
+    Tool::AddApplyCommand(app, options, job);
+    Tool::AddShowCommand(app, options, job);
+    Tool::AddListCommand(app, options, job);
+
+    try
+    {
+        app.parse(argc, argv);
+    }
+    catch (const CLI::Success& help)
+    {
+        std::ostringstream text;
+        app.exit(help, text, text);
+        return Run([&text] { Tool::Print(text.str()); });
+    }
+    catch (const CLI::ParseError& error)
+    {
+        Tool::PrintError("vyrcfd: " + Correction(app, error));
+        return WrongUse;
+    }
+    return Run(job);
+}
+} // namespace
+
+int main(int argc, char** argv)
+{
+    // A pipe that nobody reads is an output that cannot be written, and no reason to die in the middle of something.
+    std::signal(SIGPIPE, SIG_IGN);
+    try
+    {
+        return RunCommandLine(argc, argv);
+    }
+    catch (...)
+    {
+        std::fputs("vyrcfd: internal error: no memory is left\n", stderr);
+    }
+    return JobFailed;
+}
