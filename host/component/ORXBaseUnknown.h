@@ -8,6 +8,7 @@
  */
 
 #include <cstddef>
+#include <new>
 
 #include "IUnknown.h"
 #include "ORXHandle.h"
@@ -77,6 +78,9 @@ public:
 
     /// Instances and ties are allocated here, so that the component model can link what is being constructed.
     static void* operator new(std::size_t iSize);
+    /// Null where there is no memory.
+    static void* operator new(std::size_t iSize, const std::nothrow_t& iNothrow) noexcept;
+    static void operator delete(void* iMemory, const std::nothrow_t& iNothrow) noexcept;
     static void operator delete(void* iMemory, std::size_t iSize) noexcept;
 
     ORXBaseUnknown(const ORXBaseUnknown&) = delete;

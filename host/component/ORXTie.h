@@ -42,6 +42,7 @@ ORXHostExport ORXBaseUnknown* Tie_Link(ORXBaseUnknown* iExtended, ORXBaseUnknown
  * Links a new tie to an object: fills the record, adds a reference on the object, finds the extension instance or
  * makes it through `iConstructor`, and for a shared tie makes it known to the object. The tie starts with one
  * reference.
+ * @param iKind kind of the tie
  * @param iClass meta class of the extension class
  * @param ioSharedSlot a static of the extension class; kept for hosts that chain their ties, not used here
  */

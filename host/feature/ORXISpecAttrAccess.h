@@ -72,7 +72,9 @@ public:
 
     /**
      * Moves an entry of a list of objects to a position, the entries between shifting by one. Of several occurrences
-     * of the object the first at or behind the position is moved; if none stands there, the first at all.
+     * of the object the first at or behind the position is moved; if none stands there, the first at all. Where the
+     * object stands at the position already, the first occurrence behind that unbroken row of it joins the row, and
+     * without one the order stays: so a caller that moves one occurrence after the other has them all side by side.
      */
     virtual HRESULT MoveInPosition(ORXISpecAttrKey* iKey, const ORXISpecObject_var& iObject, int iIndex) = 0;
 

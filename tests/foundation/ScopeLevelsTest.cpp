@@ -298,6 +298,8 @@ const Operation Operations[] = {
     {"Ref", 25, "", [](const Access& iCursor) { iCursor.Ref("title"); }},
     {"Ref", 25, "", [](const Access& iCursor) { iCursor.Ref(NoKey); }},
     {"Ref", 25, "", [](const Access& iCursor) { iCursor.Ref(VYRCFDBASE(Choice, value)); }},
+    {"GetByPath", 25, "", [](const Access& iCursor) { iCursor.GetByPath("zones"); }},
+    {"GetByPath", 25, "", [](const Access& iCursor) { iCursor.GetByPath("peer/x/y"); }},
     {"ApplyCondition", 25, "", [](const Access& iCursor) { iCursor.ApplyCondition("iterations==5"); }},
     {"GetParm", 25, "title", Ask(&Access::GetParm)},
     {"GetPlainString", 25, "title", Read<Text>(&Access::GetPlainString)},

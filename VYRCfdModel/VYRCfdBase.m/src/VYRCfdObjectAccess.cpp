@@ -1,6 +1,7 @@
 #include "VYRCfdObjectAccess.h"
 
 #include <memory>
+#include <new>
 
 #include "ORXCkeGlobalFunctions.h"
 #include "ORXIAlias.h"
@@ -25,6 +26,38 @@ void TraceError(const ORXUnicodeString& iError)
     if (VYRCfd::IsActive(VYRCfdTraceManager::_Debug))
         VYRCfdTraceManager::_Debug->TraPrint(140, "ERROR: %s\n", iError.CastToCharPtr());
 }
+
+/// Room for the cursor at which the walk of a path stands. It is constructed where it stays, so that nothing is copied.
+class Place
+{
+public:
+    Place() {}
+    ~Place() { Clear(); }
+    Place(const Place&) = delete;
+    Place& operator=(const Place&) = delete;
+
+    const VYRCfdObjectAccess& Move(const VYRCfdObjectAccess& iFrom, const ORXUnicodeString& iName)
+    {
+        Clear();
+        ::new (static_cast<void*>(&m_cursor)) VYRCfdObjectAccess(iFrom.Get(iName));
+        m_isFull = true;
+        return m_cursor;
+    }
+
+private:
+    void Clear()
+    {
+        if (m_isFull)
+            m_cursor.~VYRCfdObjectAccess();
+        m_isFull = false;
+    }
+
+    bool m_isFull = false;
+    union
+    {
+        VYRCfdObjectAccess m_cursor;
+    };
+};
 } // namespace
 
 // ---- construction and comparison ------------------------------------------------------------------------------------
@@ -236,11 +269,15 @@ bool VYRCfdObjectAccess::IsCurrentChoice(const ORXUnicodeString& iName) const
     const ORXISpecObject_var spSpec = _spAttr;
     if (!spSpec || spSpec->IsSubTypeOf(choiceType) == ORXFalse)
         return false;
+    ORXUnicodeString value;
     const ORXICkeParm_var spParm = Get(VYRCFDBASE(Choice, value), 0).GetParm();
-    if (!spParm)
-        return false;
-    const ORXIValue_var spVal = spParm->GetValue();
-    return !!spVal && spVal->AsString() == iName;
+    if (!!spParm)
+    {
+        const ORXIValue_var spVal = spParm->GetValue();
+        if (!!spVal)
+            value = spVal->AsString();
+    }
+    return value == iName;
 }
 
 VYRCfdObjectAccess VYRCfdObjectAccess::GetInList(const ORXUnicodeString& iName) const
@@ -378,25 +415,27 @@ HRESULT VYRCfdObjectAccess::SplitPath(const ORXUnicodeString& iPath, ORXUnicodeS
 
 VYRCfdObjectAccess VYRCfdObjectAccess::GetByPath(const ORXUnicodeString& iPath) const
 {
-    VYRCfdObjectAccess current(*this);
+    // A loop and not a recursion: a path may be as long as its file. The cursor of a segment is made in place, while the
+    // one before it is still needed, so two places serve in turn and nothing is copied.
+    Place places[2];
+    const VYRCfdObjectAccess* current = this;
     ORXUnicodeString path = iPath;
-    // A loop and not a recursion: a path may be as long as its file.
-    while (true)
+    for (int place = 0;; place = 1 - place)
     {
         VYRCFD_ENTER(25);
-        if (current.HasError())
-            return current;
-        if (!current._spAttr)
+        if (current->HasError())
+            return VYRCfdObjectAccess(current->_error);
+        if (!current->_spAttr)
             return VYRCfdObjectAccess("Null object");
         ORXUnicodeString head;
         ORXUnicodeString tail;
         if (SplitPath(path, head, tail) < 0)
             return VYRCfdObjectAccess("Invalid path: " + path);
         if (head.IsEmpty())
-            return current;
-        current = current.Get(head);
+            return *current;
         if (tail.IsEmpty())
-            return current;
+            return current->Get(head);
+        current = &places[place].Move(*current, head);
         path = std::move(tail);
     }
 }

@@ -8,6 +8,7 @@
  */
 
 #include <atomic>
+#include <memory>
 #include <new>
 
 #include "ORXIInstance.h"
@@ -50,30 +51,18 @@ public:
             if (shared != nullptr)
                 return shared;
         }
-        Tie* tie = Make();
+        std::unique_ptr<Tie> tie(new (std::nothrow) Tie);
         if (tie == nullptr)
             return nullptr;
-        Tie_Construct(tie->m_record, tie, MetaObject(), iExtended, Interface::ClassId(), Kind, Extension::MetaObject(),
-                      &Extension::s_sharedSlot, &Extension::Construct, iExtension);
-        return tie;
+        Tie_Construct(tie->m_record, tie.get(), MetaObject(), iExtended, Interface::ClassId(), Kind,
+                      Extension::MetaObject(), &Extension::s_sharedSlot, &Extension::Construct, iExtension);
+        return tie.release();
     }
 
 protected:
     Extension* Instance() const { return static_cast<Extension*>(m_record.instance); }
 
 private:
-    static Tie* Make()
-    {
-        try
-        {
-            return new Tie;
-        }
-        catch (const std::bad_alloc&)
-        {
-            return nullptr;
-        }
-    }
-
     static ORXMetaClass* MetaObject()
     {
         ORXMetaClass* meta = s_meta.load(std::memory_order_acquire);
