@@ -80,7 +80,7 @@ TEST_P(ListOperationTest, TakesAnErrorStatusBackOrLeavesIt)
     Reported();
 }
 
-TEST_P(ListOperationTest, Scopes_AreThoseOfTheLevelsTable)
+TEST_P(ListOperationTest, Scopes_AreThoseOfReadersAndWriters)
 {
     const VYRCfdObjectAccess cursor = At(GetParam().fits);
     const VYRCfdObjectAccess part = Cursor(Part("A"));
