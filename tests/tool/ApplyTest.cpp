@@ -74,6 +74,11 @@ struct FailedRun
     std::string errors;
 };
 
+void PrintTo(const FailedRun& iOne, std::ostream* oStream)
+{
+    *oStream << iOne.name;
+}
+
 class FailedRuns : public SmallTest, public testing::WithParamInterface<FailedRun>
 {
 };

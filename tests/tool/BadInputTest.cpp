@@ -70,6 +70,11 @@ struct BadInput
     std::string errors;
 };
 
+void PrintTo(const BadInput& iOne, std::ostream* oStream)
+{
+    *oStream << iOne.name;
+}
+
 class BadInputs : public ToolTest, public testing::WithParamInterface<BadInput>
 {
 };

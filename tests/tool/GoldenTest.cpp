@@ -18,6 +18,11 @@ struct Golden
     std::vector<std::string> arguments;
 };
 
+void PrintTo(const Golden& iOne, std::ostream* oStream)
+{
+    *oStream << iOne.name;
+}
+
 class Goldens : public SmallTest, public testing::WithParamInterface<Golden>
 {
 };

@@ -54,6 +54,11 @@ struct Lead
     std::vector<std::string> paths;
 };
 
+void PrintTo(const Lead& iOne, std::ostream* oStream)
+{
+    *oStream << iOne.name;
+}
+
 class Leads : public SmallTest, public testing::WithParamInterface<Lead>
 {
 };

@@ -16,6 +16,11 @@ struct WrongUse
     std::string help;
 };
 
+void PrintTo(const WrongUse& iOne, std::ostream* oStream)
+{
+    *oStream << iOne.name;
+}
+
 class WrongUses : public ToolTest, public testing::WithParamInterface<WrongUse>
 {
 };
