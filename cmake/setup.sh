@@ -1,9 +1,6 @@
 # Shared by ./run and ./test, which read it in: what must be installed, and building a preset.
 # Expects $root, the folder of the repository.
 
-# A second clone finds what the first has compiled.
-export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1
-
 # Everything goes to standard error: the standard output of ./run is the tool's.
 say() { printf '%s\n' "$*" >&2; }
 

@@ -52,6 +52,11 @@ unsigned int ReferenceCount(ORXBaseUnknown* iComponent)
         return object->References();
     if (const ValueCell* const value = ValueCell::Of(dynamic_cast<ORXICkeInst*>(iComponent)))
         return value->Holds();
+    // These two count on their object.
+    if (const AttributeParm* const parm = dynamic_cast<AttributeParm*>(iComponent))
+        return parm->Object().References();
+    if (const AddedAttribute* const added = dynamic_cast<AddedAttribute*>(iComponent))
+        return added->Object().References();
     const ORXBaseUnknown& root = *iComponent->GetImpl(0);
     return ORXComponentLink::IsLinked(root) ? 0 : ORXComponentLink::Count(root);
 }

@@ -116,7 +116,8 @@ std::string WriteInPlace(const std::string& iPath, const std::string& iText)
     return error == 0 ? std::string() : Failure(error);
 }
 
-std::string WriteAndRename(const std::filesystem::path& iTarget, const std::string& iText, std::optional<mode_t> iMode)
+/// @param iMode permissions that the file is to have; null leaves those of a new file
+std::string WriteAndRename(const std::filesystem::path& iTarget, const std::string& iText, const mode_t* iMode)
 {
     constexpr int MostTries = 100;
     std::optional<WrittenFile> file;
@@ -129,9 +130,10 @@ std::string WriteAndRename(const std::filesystem::path& iTarget, const std::stri
     }
     if (!file->IsOpen())
         return Failure(errno);
-    int error = file->Write(iText);
-    if (error == 0 && iMode)
-        error = file->SetMode(*iMode);
+    // Before anything stands in it, so that nobody reads what the old file kept from them.
+    int error = iMode != nullptr ? file->SetMode(*iMode) : 0;
+    if (error == 0)
+        error = file->Write(iText);
     if (error == 0)
         error = file->Synchronise();
     if (error == 0)
@@ -157,6 +159,6 @@ std::string ReplaceFile(const std::string& iPath, const std::string& iText)
     const std::optional<std::filesystem::path> target = FollowLinks(iPath);
     if (!target)
         return Failure(ELOOP);
-    const auto mode = exists ? std::optional<mode_t>(status.st_mode & PermissionBits) : std::nullopt;
-    return WriteAndRename(*target, iText, mode);
+    const mode_t mode = status.st_mode & PermissionBits;
+    return WriteAndRename(*target, iText, exists ? &mode : nullptr);
 }

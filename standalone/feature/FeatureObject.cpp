@@ -5,6 +5,7 @@
 
 #include "Census.h"
 #include "Container.h"
+#include "DeclaredAttribute.h"
 #include "Dictionary.h"
 #include "Instruments.h"
 #include "InterfaceNames.h"
@@ -348,11 +349,16 @@ void FeatureObject::Tell(const FeatureKey& iKey, ORXIValue* iValue)
     if (!instance)
         return;
     const bool isRecording = Instruments::IsRecording();
-    if (isRecording)
-        Instruments::Record(RecordLines::Advise(*this, iKey));
+    if (!isRecording)
+    {
+        instance->AdviseAttributeChanged(iKey.Name(), value);
+        return;
+    }
+    // Made before the listener is told, which may take the object elsewhere.
+    const std::string done = RecordLines::Call("done", *this, iKey.Name().View(), 0);
+    Instruments::Record(RecordLines::Advise(*this, iKey));
     instance->AdviseAttributeChanged(iKey.Name(), value);
-    if (isRecording)
-        Instruments::Record(RecordLines::Call("done", *this, iKey.Name().View(), 0));
+    Instruments::Record(done);
 }
 
 HRESULT FeatureObject::QueryInterface(const IID& iInterface, void** oInterface)
@@ -480,6 +486,9 @@ ORXISpecAttribute* FeatureObject::AddAttribute(const ORXUnicodeString& iName, in
         if (Instruments::Fails("AddAttribute", iName.View(), this))
             return nullptr;
     }
+    // A declared attribute is there already; the object has nothing to add.
+    if (FeatureKey* const declared = m_type->FindKey(iName.View()))
+        return declared->TypeCode() == iTypeCode && !m_isPrototype ? new DeclaredAttribute(*this, *declared) : nullptr;
     AddedAttribute* const added = AddAttributeSilently(iName, iTypeCode, iFlag);
     if (added != nullptr)
         AddReference();

@@ -1,5 +1,7 @@
 #include "ORXSpecAttrKeyServices.h"
 
+#include <atomic>
+
 #include "FeatureObject.h"
 #include "Instruments.h"
 #include "TypeRegistry.h"
@@ -13,16 +15,15 @@ ORXISpecAttrKey* ORXSpecAttrKeyServices::Get(ORXISpecAttrAccess* iAccess)
         return nullptr;
     if (object == nullptr)
         return nullptr;
-    // A kept key is right for every object that carries it, in every model.
-    FeatureKey* const kept = static_cast<FeatureKey*>(key);
-    if (kept != nullptr)
-        return object->Type().DerivesFrom(*kept->Declaring()) ? kept : nullptr;
     const FeatureType* const type = TypeRegistry::Instance().Find(featureType);
     if (type == nullptr || !object->Type().DerivesFrom(*type))
         return nullptr;
-    FeatureKey* const found = type->FindKey(attribute);
-    // Written once; several threads may find the same key at the same time.
+    // Several threads may find the same key at the same time.
+    const std::atomic_ref<ORXISpecAttrKey*> kept(key);
+    if (ORXISpecAttrKey* const before = kept.load(std::memory_order_relaxed))
+        return before;
+    ORXISpecAttrKey* const found = type->FindKey(attribute);
     if (found != nullptr)
-        __atomic_store_n(&key, static_cast<ORXISpecAttrKey*>(found), __ATOMIC_RELAXED);
+        kept.store(found, std::memory_order_relaxed);
     return found;
 }

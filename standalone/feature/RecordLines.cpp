@@ -28,8 +28,12 @@ public:
     template <class Entry> std::string operator()(const std::vector<Entry>& iEntries) const
     {
         std::string text = "[";
+        const char* separator = "";
         for (const Entry& entry : iEntries)
-            text += (text.size() > 1 ? ", " : "") + One(entry);
+        {
+            text += separator + One(entry);
+            separator = ", ";
+        }
         return text + ']';
     }
 

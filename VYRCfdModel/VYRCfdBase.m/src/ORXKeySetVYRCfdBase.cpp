@@ -1,5 +1,7 @@
 #include "ORXKeySetVYRCfdBase.h"
 
+#include <atomic>
+
 #include "ORXSpecAttrKeyServices.h"
 
 namespace
@@ -18,7 +20,9 @@ ORXSpecAttrKeyServices ValuesdefaultManagement{Catalog, "VYRCfdValues", "default
 
 inline ORXISpecAttrKey* Key(ORXSpecAttrKeyServices& ioRecord, ORXISpecAttrAccess* iAccess)
 {
-    return ioRecord.key != nullptr ? ioRecord.key : ioRecord.Get(iAccess);
+    // Another thread may be finding the same key; on this one it is a plain load.
+    ORXISpecAttrKey* const key = std::atomic_ref<ORXISpecAttrKey*>(ioRecord.key).load(std::memory_order_relaxed);
+    return key != nullptr ? key : ioRecord.Get(iAccess);
 }
 } // namespace
 
