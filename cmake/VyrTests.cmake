@@ -26,6 +26,8 @@ function(vyr_add_test name)
   add_executable(${name} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE
     vyr_test_support VYRCfdBase VYRStandaloneHost GTest::gtest vyr_warnings)
+  # What is tested is the libraries; optimising the tests themselves takes longer than running them.
+  target_compile_options(${name} PRIVATE -O0)
   target_compile_definitions(${name} PRIVATE
     VYR_SAMPLES_DIR="${PROJECT_SOURCE_DIR}/samples"
     VYR_TEST_DATA_DIR="${CMAKE_CURRENT_SOURCE_DIR}/data")

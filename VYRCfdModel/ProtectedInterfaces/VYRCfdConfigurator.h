@@ -36,9 +36,8 @@ template <> struct equal_to<ORXUnicodeString>
 } // namespace VYRCfd
 
 /// Name of a configuration to its items, in the order of the file.
-using VYRCfdConfigurationMap =
-    std::unordered_map<ORXUnicodeString, std::vector<JSON::JIStream>, VYRCfd::hash<ORXUnicodeString>,
-                       VYRCfd::equal_to<ORXUnicodeString>>;
+using VYRCfdConfigurationMap = std::unordered_map<ORXUnicodeString, std::vector<JSON::JIStream>,
+                                                  VYRCfd::hash<ORXUnicodeString>, VYRCfd::equal_to<ORXUnicodeString>>;
 
 /**
  * Holds the named configurations of the installation and applies them to model objects.
@@ -76,8 +75,7 @@ protected:
 private:
     VYRCfdConfigurator();
 
-    HRESULT GetConfigurationObject(const ORXUnicodeString& iConfigName,
-                                   std::vector<JSON::JIStream>& configObjectJSON);
+    HRESULT GetConfigurationObject(const ORXUnicodeString& iConfigName, std::vector<JSON::JIStream>& configObjectJSON);
     HRESULT LoadConfigs();
     void Keep(const JSON::JIStream& iFile);
 

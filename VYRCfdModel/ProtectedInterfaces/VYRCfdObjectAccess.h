@@ -23,17 +23,18 @@ using VYRCfdKeyFunction = ORXISpecAttrKey* (*)(ORXISpecAttrAccess* iAccess);
  * A small value that stands at a feature object, or at one attribute of it, and answers chains such as
  * `access["inlet"]["pressure"].GetDouble(pressure)`.
  *
- * | state            | `_spAttr` | `_spKey` | `_error`  |                                                             |
- * |------------------|-----------|----------|-----------|-------------------------------------------------------------|
- * | object cursor    | set       | null     | empty     | stands at an object that gives attribute access             |
- * | attribute cursor | set       | set      | empty     | stands at a scalar, at a whole list, or (`Ref`) at an object-valued attribute |
- * | error cursor     | null      | null     | not empty | a failed link                                               |
- * | empty cursor     | null      | null     | empty     | stands nowhere                                              |
+ * | state            | `_spAttr` | `_spKey` | `_error`  | stands                                        |
+ * |------------------|-----------|----------|-----------|-----------------------------------------------|
+ * | object cursor    | set       | null     | empty     | at an object that gives attribute access      |
+ * | attribute cursor | set       | set      | empty     | at a scalar, at a whole list, or by `Ref` at  |
+ * |                  |           |          |           | an object-valued attribute                    |
+ * | error cursor     | null      | null     | not empty | nowhere, after a failed link                  |
+ * | empty cursor     | null      | null     | empty     | nowhere                                       |
  *
  * A chain never stops in the middle: a failing link gives an error cursor, and every further link hands its text on.
  * Navigation reports nothing. The operation that returns a status reports the text to the error service and answers
- * E_FAIL; `Is...` tests answer false, `GetName`, `GetID` and `GetType` an empty text, `GetParm` a null handle. A failing
- * read or write reports and leaves its output argument and the cursor as they were.
+ * E_FAIL; `Is...` tests answer false, `GetName`, `GetID` and `GetType` an empty text, `GetParm` a null handle. A
+ * failing read or write reports and leaves its output argument and the cursor as they were.
  *
  * Indices count from 1. Index 0 is the attribute itself: the scalar, or the whole list, never the first entry.
  *
@@ -77,8 +78,8 @@ public:
 
     /**
      * Moves to an attribute. An object value is followed: the result stands at the object, and is "Null initialization
-     * c" where the attribute is empty. Of a list, index 0 is the list itself and an index from 1 its entry, for lists of
-     * objects only; the host decides on an index beyond the end. "Null key", name + " not a list", name + " not an
+     * c" where the attribute is empty. Of a list, index 0 is the list itself and an index from 1 its entry, for lists
+     * of objects only; the host decides on an index beyond the end. "Null key", name + " not a list", name + " not an
      * object".
      */
     VYRCfdObjectAccess Get(ORXISpecAttrKey* iKey, int iIndex) const;
@@ -175,8 +176,8 @@ public:
 
     HRESULT GetListSize(int& oSize) const;
 
-    /// Cursors on the entries of a list of objects, replacing what `oObjects` held. An empty entry keeps its place as an
-    /// error cursor, unless `skipNull`.
+    /// Cursors on the entries of a list of objects, replacing what `oObjects` held. An empty entry keeps its place as
+    /// an error cursor, unless `skipNull`.
     HRESULT List(std::vector<VYRCfdObjectAccess>& oObjects, bool skipNull = false) const;
     /// The same as handles, behind what `oObjects` holds.
     HRESULT List(ORXListValORXBaseUnknown_var& oObjects) const;

@@ -24,8 +24,8 @@ enum class VYRCfdConditionOperator : int
  *
  * The path is walked from the cursor, the attribute's value is the left operand. There are no conjunctions, brackets or
  * quotation marks, and nothing is trimmed: a blank in front of the operator belongs to the path, one behind it to the
- * value. A real is compared as a real, an integer and an enumeration as an integer, a string by "=" and "!=" only. For a
- * boolean attribute the operator and the value play no part: the result is the attribute's value. What cannot be
+ * value. A real is compared as a real, an integer and an enumeration as an integer, a string by "=" and "!=" only. For
+ * a boolean attribute the operator and the value play no part: the result is the attribute's value. What cannot be
  * evaluated is false.
  *
  * An empty text is no condition, and true on a cursor that is sound.

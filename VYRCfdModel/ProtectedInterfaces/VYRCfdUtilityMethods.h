@@ -26,8 +26,8 @@ public:
     };
 
     /**
-     * Splits a text at a delimiter and appends the tokens to the list, which is not cleared. Every blank is removed from
-     * a token, also inside; empty tokens are kept, so that an empty text gives one. Meant for delimiters of one
+     * Splits a text at a delimiter and appends the tokens to the list, which is not cleared. Every blank is removed
+     * from a token, also inside; empty tokens are kept, so that an empty text gives one. Meant for delimiters of one
      * character: of a longer one the tail stays at the head of the next token. @return S_OK
      */
     static HRESULT ConvertStringToList(ORXUnicodeString text, ORXListValORXUnicodeString& list,

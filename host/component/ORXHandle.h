@@ -54,8 +54,7 @@ public:
 
     /// The cast. The handle holds a reference of its own.
     template <class Other>
-        requires(!std::is_same_v<Other, Interface>)
-    ORXHandle(const ORXHandle<Other>& iOther)
+    requires(!std::is_same_v<Other, Interface>) ORXHandle(const ORXHandle<Other>& iOther)
     {
         if constexpr (std::is_base_of_v<Interface, Other>)
         {

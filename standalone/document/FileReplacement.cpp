@@ -154,7 +154,7 @@ std::string ReplaceFile(const std::string& iPath, const std::string& iText)
     if (exists && !S_ISREG(status.st_mode))
         return WriteInPlace(iPath, iText);
     // Renaming would pass by the protection of the file.
-    if (exists && access(iPath.c_str(), W_OK) != 0)
+    if (exists && faccessat(AT_FDCWD, iPath.c_str(), W_OK, AT_EACCESS) != 0)
         return Failure(errno);
     const std::optional<std::filesystem::path> target = FollowLinks(iPath);
     if (!target)

@@ -21,7 +21,7 @@ namespace VYRStandalone
  *
  * An operation that answers a status fails with `status` and does nothing; one that answers a pointer, a handle or a
  * key gives null; `HasAttribute` gives false. `CreateBasicComponent` with a status that is no failure gives that
- * status and no object. `SetAttribute...` operations of an added attribute count as those of the object.
+ * status and no object. A write through an attribute object counts as one of its object.
  */
 struct Fault
 {

@@ -21,8 +21,8 @@ VYRStandaloneExport void ResetOfficialVariable(const std::string& iName);
 /// Sends what all trace channels print to a sink, as it is printed; an empty function restores the standard output.
 VYRStandaloneExport void RedirectTraces(std::function<void(const std::string& iText)> iSink);
 
-/// Reads a file as `JSON::JIStream` does, which only tells that it could not. @throws DocumentError with line and column
-/// of what is no JSON, or for a file that cannot be read; a file of any shape is accepted
+/// Reads a file as `JSON::JIStream` does, which only tells that it could not. @throws DocumentError with line and
+/// column of what is no JSON, or for a file that cannot be read; a file of any shape is accepted
 VYRStandaloneExport void CheckJson(const std::string& iFile);
 } // namespace VYRStandalone
 

@@ -4,6 +4,7 @@
  */
 
 #include <cstdlib>
+#include <deque>
 #include <string>
 #include <vector>
 
@@ -58,10 +59,10 @@ struct Made
 
 Made& Make(const char* iName, const char* iDescription = "of a test")
 {
-    static std::vector<Made*> all;
-    all.push_back(new Made);
-    Holder::InitTrace(iName, iDescription, all.back()->trace, all.back()->control);
-    return *all.back();
+    static auto& all = *new std::deque<Made>;
+    Made& made = all.emplace_back();
+    Holder::InitTrace(iName, iDescription, made.trace, made.control);
+    return made;
 }
 
 struct ValueCase

@@ -15,7 +15,8 @@
 
 namespace
 {
-template <class Extension, class Interface> ORXBaseUnknown* CreateDirect(ORXBaseUnknown* iExtended, ORXBaseUnknown* iExtension)
+template <class Extension, class Interface>
+ORXBaseUnknown* CreateDirect(ORXBaseUnknown* iExtended, ORXBaseUnknown* iExtension)
 {
     return ToCreateBOA(iExtended, iExtension, Extension::MetaObject(), Interface::ClassId(), &Extension::Construct);
 }
@@ -24,36 +25,37 @@ template <class Extension, class Interface> ORXBaseUnknown* CreateDirect(ORXBase
 // The creators are known to the object model by these names.
 extern "C"
 {
-VYRCfdBaseExport ORXBaseUnknown* CreateTIEORXIInstanceVYRECfdDefaultManagementInstance(ORXBaseUnknown* iExtended,
-                                                                                       ORXBaseUnknown* iExtension)
-{
-    return TIEORXIInstance<VYRECfdDefaultManagementInstance>::Create(iExtended, iExtension);
-}
+    VYRCfdBaseExport ORXBaseUnknown* CreateTIEORXIInstanceVYRECfdDefaultManagementInstance(ORXBaseUnknown* iExtended,
+                                                                                           ORXBaseUnknown* iExtension)
+    {
+        return TIEORXIInstance<VYRECfdDefaultManagementInstance>::Create(iExtended, iExtension);
+    }
 
-VYRCfdBaseExport ORXBaseUnknown*
-CreateBOAVYRIMpaDefaultManagementProtectedVYRECfdValuesDefaultManagement(ORXBaseUnknown* iExtended,
-                                                                         ORXBaseUnknown* iExtension)
-{
-    return CreateDirect<VYRECfdValuesDefaultManagement, VYRIMpaDefaultManagementProtected>(iExtended, iExtension);
-}
+    VYRCfdBaseExport ORXBaseUnknown*
+    CreateBOAVYRIMpaDefaultManagementProtectedVYRECfdValuesDefaultManagement(ORXBaseUnknown* iExtended,
+                                                                             ORXBaseUnknown* iExtension)
+    {
+        return CreateDirect<VYRECfdValuesDefaultManagement, VYRIMpaDefaultManagementProtected>(iExtended, iExtension);
+    }
 
-VYRCfdBaseExport ORXBaseUnknown*
-CreateTIEVYRIMpaDefaultManagementVYRECfdValuesDefaultManagement(ORXBaseUnknown* iExtended, ORXBaseUnknown* iExtension)
-{
-    return TIEVYRIMpaDefaultManagement<VYRECfdValuesDefaultManagement>::Create(iExtended, iExtension);
-}
+    VYRCfdBaseExport ORXBaseUnknown*
+    CreateTIEVYRIMpaDefaultManagementVYRECfdValuesDefaultManagement(ORXBaseUnknown* iExtended,
+                                                                    ORXBaseUnknown* iExtension)
+    {
+        return TIEVYRIMpaDefaultManagement<VYRECfdValuesDefaultManagement>::Create(iExtended, iExtension);
+    }
 
-VYRCfdBaseExport ORXBaseUnknown* CreateTIEORXIInstanceVYRECfdValuesInstance(ORXBaseUnknown* iExtended,
-                                                                            ORXBaseUnknown* iExtension)
-{
-    return TIEORXIInstance<VYRECfdValuesInstance>::Create(iExtended, iExtension);
-}
+    VYRCfdBaseExport ORXBaseUnknown* CreateTIEORXIInstanceVYRECfdValuesInstance(ORXBaseUnknown* iExtended,
+                                                                                ORXBaseUnknown* iExtension)
+    {
+        return TIEORXIInstance<VYRECfdValuesInstance>::Create(iExtended, iExtension);
+    }
 
-/// Marks the library for its loader. @return 1
-VYRCfdBaseExport int TESSEL_WORKS_TOOLKIT2_INTERNAL_VYRCfdBase()
-{
-    return 1;
-}
+    /// Marks the library for its loader. @return 1
+    VYRCfdBaseExport int TESSEL_WORKS_TOOLKIT2_INTERNAL_VYRCfdBase()
+    {
+        return 1;
+    }
 }
 
 namespace

@@ -18,10 +18,10 @@ VYRCfdConfigurationWalk::VYRCfdConfigurationWalk(VYRCfdConfigurator& ioConfigura
 VYRCfdConfigurationWalk::Item VYRCfdConfigurationWalk::Read(const JSON::JIStream& iItem) const
 {
     // In the order of the initialisers.
-    return Item{iItem.ReadString(m_keys.path),           iItem.ReadString(m_keys.type),
-                iItem.ReadString(m_keys.defaultValue),   iItem.ReadString(m_keys.defaultAutoKey),
-                iItem.ReadString(m_keys.display),        iItem.ReadString(m_keys.value),
-                iItem.ReadBoolean(m_keys.list),          iItem.ReadString(m_keys.config)};
+    return Item{iItem.ReadString(m_keys.path),         iItem.ReadString(m_keys.type),
+                iItem.ReadString(m_keys.defaultValue), iItem.ReadString(m_keys.defaultAutoKey),
+                iItem.ReadString(m_keys.display),      iItem.ReadString(m_keys.value),
+                iItem.ReadBoolean(m_keys.list),        iItem.ReadString(m_keys.config)};
 }
 
 HRESULT VYRCfdConfigurationWalk::Apply(const JSON::JIStream& iItem)

@@ -24,8 +24,8 @@ class VYRCfdConfigurationWalk
 public:
     /// @param iFunction name to report under, borrowed for the life of the walk
     VYRCfdConfigurationWalk(VYRCfdConfigurator& ioConfigurator, const char* iFunction,
-                            const ORXBaseUnknown_var& ispObject, const VYRIMpaDefaultManagementProtected_var& ispDefMgmt,
-                            const ORXIContainer_var& ispCont);
+                            const ORXBaseUnknown_var& ispObject,
+                            const VYRIMpaDefaultManagementProtected_var& ispDefMgmt, const ORXIContainer_var& ispCont);
 
     /// Applies one item. A negative status ends the walk; what was done before stays.
     HRESULT Apply(const JSON::JIStream& iItem);

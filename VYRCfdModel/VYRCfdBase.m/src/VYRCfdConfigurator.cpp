@@ -40,9 +40,7 @@ VYRCfdConfigurator::VYRCfdConfigurator()
 {
 }
 
-VYRCfdConfigurator::VYRCfdConfigurator(std::vector<ORXUnicodeString>& files) : _configFiles(files)
-{
-}
+VYRCfdConfigurator::VYRCfdConfigurator(std::vector<ORXUnicodeString>& files) : _configFiles(files) {}
 
 VYRCfdConfigurator::~VYRCfdConfigurator() = default;
 

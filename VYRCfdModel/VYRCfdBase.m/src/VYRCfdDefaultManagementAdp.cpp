@@ -12,7 +12,8 @@ constexpr const char* AutoSuffix = "_isauto";
 
 /// Reads a record's text into a free-standing parameter. A text that is no number leaves it without a value; types
 /// other than integer, real and string are not read.
-void ValuateFromRecord(const ORXICkeParm_var& ispTempParm, const ORXICkeType_var& ispType, const ORXUnicodeString& iText)
+void ValuateFromRecord(const ORXICkeParm_var& ispTempParm, const ORXICkeType_var& ispType,
+                       const ORXUnicodeString& iText)
 {
     if (ispType->IsaInteger())
     {
@@ -58,9 +59,7 @@ struct VYRCfdDefaultManagementAdp::Companion
     bool exists = false;
 };
 
-VYRCfdDefaultManagementAdp::VYRCfdDefaultManagementAdp() : m_defMgmt(ORXUnicodeString()), m_updating(ORXFalse)
-{
-}
+VYRCfdDefaultManagementAdp::VYRCfdDefaultManagementAdp() : m_defMgmt(ORXUnicodeString()), m_updating(ORXFalse) {}
 
 VYRCfdDefaultManagementAdp::~VYRCfdDefaultManagementAdp()
 {

@@ -415,8 +415,8 @@ HRESULT VYRCfdObjectAccess::SplitPath(const ORXUnicodeString& iPath, ORXUnicodeS
 
 VYRCfdObjectAccess VYRCfdObjectAccess::GetByPath(const ORXUnicodeString& iPath) const
 {
-    // A loop and not a recursion: a path may be as long as its file. The cursor of a segment is made in place, while the
-    // one before it is still needed, so two places serve in turn and nothing is copied.
+    // A loop and not a recursion: a path may be as long as its file. The cursor of a segment is made in place, while
+    // the one before it is still needed, so two places serve in turn and nothing is copied.
     Place places[2];
     const VYRCfdObjectAccess* current = this;
     ORXUnicodeString path = iPath;

@@ -18,9 +18,9 @@ struct OperatorText
 
 /// In the order of the search: the first text that stands anywhere behind the first character wins.
 constexpr OperatorText OperatorTexts[] = {
-    {"==", VYRCfdConditionOperator::Equal},          {"!=", VYRCfdConditionOperator::NotEqual},
-    {"<=", VYRCfdConditionOperator::LessOrEqual},    {">=", VYRCfdConditionOperator::GreaterOrEqual},
-    {"<", VYRCfdConditionOperator::Less},            {">", VYRCfdConditionOperator::Greater},
+    {"==", VYRCfdConditionOperator::Equal},       {"!=", VYRCfdConditionOperator::NotEqual},
+    {"<=", VYRCfdConditionOperator::LessOrEqual}, {">=", VYRCfdConditionOperator::GreaterOrEqual},
+    {"<", VYRCfdConditionOperator::Less},         {">", VYRCfdConditionOperator::Greater},
     {"=", VYRCfdConditionOperator::Equal},
 };
 
@@ -146,8 +146,7 @@ HRESULT VYRCfdObjectCondition::ParseCondition(const ORXUnicodeString& iCondition
         return E_FAIL;
 
     _valueText = iCondition.SubString(behind, length - behind);
-    _isDoubleValue =
-        VYRCfdUtilityMethods::ConvertToDouble(_valueText, _valueDouble) >= 0 ? ORXTrue : ORXFalse;
+    _isDoubleValue = VYRCfdUtilityMethods::ConvertToDouble(_valueText, _valueDouble) >= 0 ? ORXTrue : ORXFalse;
     if (VYRCfdUtilityMethods::ConvertToInteger(_valueText, _valueInteger) < 0)
         _valueInteger = NoInteger;
     // Neither of the two is no failure: the text can still be compared with a string.

@@ -106,8 +106,7 @@ public:
 
 /// Shared by all requests on one object.
 template <class Extension>
-class TIEORXIInstance final
-    : public VYRCfdTie<TIEORXIInstance<Extension>, ORXIInstance, Extension, ORXSharedTieClass>
+class TIEORXIInstance final : public VYRCfdTie<TIEORXIInstance<Extension>, ORXIInstance, Extension, ORXSharedTieClass>
 {
 public:
     static constexpr const char* InterfaceName = "ORXIInstance";

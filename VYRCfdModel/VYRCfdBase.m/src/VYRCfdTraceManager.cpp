@@ -80,7 +80,7 @@ void VYRCfdTraceManager::InitTrace(const char* name, const char* description, OR
 
     const bool isActive = !channelValue.IsEmpty() || !globalValue.IsEmpty();
     const ORXString traceName = ORXString("CFD_") + name;
-    trace = new (std::nothrow) ORXTrace(traceName, description, isActive ? ORXTraActive : ORXTraSilent, "STDOUT",
-                                        StoredLevel(number));
+    trace = new (std::nothrow)
+        ORXTrace(traceName, description, isActive ? ORXTraActive : ORXTraSilent, "STDOUT", StoredLevel(number));
     control = new (std::nothrow) ORXTraControle(traceName);
 }

@@ -78,8 +78,7 @@ HRESULT VYRCfdUtilityMethods::ConvertStringToVector(ORXUnicodeString text, std::
     return S_OK;
 }
 
-HRESULT VYRCfdUtilityMethods::ConvertToBoolean(const ORXUnicodeString& text, bool& value,
-                                               VYRCfdBooleanConvertType type)
+HRESULT VYRCfdUtilityMethods::ConvertToBoolean(const ORXUnicodeString& text, bool& value, VYRCfdBooleanConvertType type)
 {
     ORXUnicodeString lower = text;
     lower.ToLower();

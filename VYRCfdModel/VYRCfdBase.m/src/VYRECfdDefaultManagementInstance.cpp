@@ -6,8 +6,8 @@
 
 namespace
 {
-/// The default management of the nearest owner that is a Values feature. A Choice has one as well, but its type does not
-/// derive from that, and so it is passed over.
+/// The default management of the nearest owner that is a Values feature. A Choice has one as well, but its type does
+/// not derive from that, and so it is passed over.
 VYRIMpaDefaultManagementProtected_var ValuesAbove(const ORXISpecObject_var& ispSpec)
 {
     VYRIMpaDefaultManagementProtected_var spDefMgmt;
