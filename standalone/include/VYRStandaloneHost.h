@@ -16,6 +16,9 @@
  *   its container's list; one that loses its owner leaves the model. A component attribute that names a type comes
  *   into being with its owner, in silence.
  * - Start-ups. One prototype per type, inherited and overlaid down the chain of types. Writes to prototypes are silent.
+ *   They take no objects, no added attributes and no extensions, since all threads share them.
+ * - Lists. `MoveInPosition` passes over what stands at the position already, so that moving one occurrence after the
+ *   other brings all of them side by side.
  * - Values. An unset value is not valuated and is something else than an empty text. A text that cannot be read and a
  *   value of the wrong kind change nothing and tell nobody.
  * - Notifications. Every successful write tells the written object's ORXIInstance once, after the store, inside the

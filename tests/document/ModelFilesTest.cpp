@@ -176,8 +176,9 @@ public:
     }
     ~Nobody()
     {
-        if (m_wasRoot)
-            EXPECT_EQ(setresuid(0, 0, 0), 0);
+        if (!m_wasRoot)
+            return;
+        EXPECT_EQ(setresuid(0, 0, 0), 0);
     }
     Nobody(const Nobody&) = delete;
     Nobody& operator=(const Nobody&) = delete;
