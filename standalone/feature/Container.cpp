@@ -75,12 +75,6 @@ void Container::Close()
         object->DropReference();
 }
 
-void Container::DropExtensions()
-{
-    for (FeatureObject* const object : m_objects)
-        object->DropExtensions();
-}
-
 HRESULT Container::QueryInterface(const IID& iInterface, void** oInterface)
 {
     if (!(iInterface == IID_ORXIContainer))

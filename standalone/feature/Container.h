@@ -34,9 +34,6 @@ public:
     /// Lets all objects go. References between them are cleared first, so that objects that refer to each other die.
     void Close();
 
-    /// Lets the extension instances of all objects go. No interface of an extension may be held meanwhile.
-    void DropExtensions();
-
     using ORXBaseUnknown::QueryInterface;
     HRESULT QueryInterface(const IID& iInterface, void** oInterface) override;
     ORXListValORXBaseUnknown_var* ListMembers(const ORXUnicodeString& iType) override;

@@ -314,25 +314,6 @@ void FeatureObject::TakeReferences(std::vector<FeatureObject*>& ioTaken)
     }
 }
 
-void FeatureObject::DropExtensions()
-{
-    m_extensions.Clear();
-    for (const FeatureKey* const key : Keys())
-    {
-        if (!key->Owns())
-            continue;
-        if (key->Slot() == SlotKind::Object)
-        {
-            if (FeatureObject* const component = ObjectAt(*key).object)
-                component->DropExtensions();
-            continue;
-        }
-        for (FeatureObject* const component : std::get<std::vector<FeatureObject*>>(List(*key).entries))
-            if (component != nullptr)
-                component->DropExtensions();
-    }
-}
-
 void FeatureObject::Tell(const FeatureKey& iKey, ORXIValue* iValue)
 {
     if (m_isPrototype || m_isDying)

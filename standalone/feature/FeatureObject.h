@@ -144,8 +144,6 @@ public:
     /// Tells the object's `ORXIInstance`, if it has one, of a write. The object may be gone afterwards, if nobody
     /// else holds it: the caller returns without touching it.
     void Tell(const FeatureKey& iKey, ORXIValue* iValue);
-    /// Lets the extension instances of the object and of its components go.
-    void DropExtensions();
     /// @}
 
     using ORXBaseUnknown::QueryInterface;

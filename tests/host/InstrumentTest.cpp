@@ -272,6 +272,18 @@ TEST_F(Recorder, NotificationsBracketWhatHappensInside)
                      "write R.part = (null)", "advise R.part = (none)", "done R.part"}));
 }
 
+TEST_F(Recorder, EmptyTextsOfAList_KeepTheirCommas)
+{
+    const ORXISpecObject_var plain = Make("HostListening", "L");
+    const ORXISpecAttrAccess_var access = plain;
+    ORXListValORXUnicodeString texts;
+    texts.Append("");
+    texts.Append("lift");
+    CallRecorder recorder;
+    access->SetStringList(KeyOf(plain, "names"), texts);
+    EXPECT_EQ(recorder.Take(), (Lines{"write L.names = [, lift]", "advise L.names = [, lift]", "done L.names"}));
+}
+
 TEST_F(Recorder, FailingCalls_AreRecorded)
 {
     Plant("SetDouble", "ratio");

@@ -254,4 +254,26 @@ TEST_F(Keys, AddAttribute_GivesTheSameAgainAndRefusesAnotherKind)
     EXPECT_EQ(object->AddAttribute("ratio", tk_boolean, 0), nullptr);
     EXPECT_EQ(added->SetBoolean(ORXTrue, 1), E_FAIL);
 }
+
+TEST_F(Keys, AddAttribute_OfADeclaredAttribute_GivesThatAttribute)
+{
+    const ORXISpecObject_var object = Make("HostPlain", "A");
+    const std::size_t attributes = VYRStandalone::Attributes(object).size();
+    const ORXISpecAttribute_var declared = ORXISpecAttribute_var::Adopt(object->AddAttribute("on", tk_boolean, 0));
+    ASSERT_FALSE(!declared);
+    EXPECT_EQ(declared->SetBoolean(ORXTrue), S_OK);
+    EXPECT_EQ(TextOf(object, "on"), "true");
+    EXPECT_EQ(VYRStandalone::Attributes(object).size(), attributes);
+    EXPECT_EQ(object->AddAttribute("on", tk_string, 0), nullptr);
+}
+
+TEST_F(Keys, Services_WithAKeptKey_StillAskForTheTypeOfTheRecord)
+{
+    ORXSpecAttrKeyServices record{"HostTests", "HostDerived", "ratio", nullptr};
+    const ORXISpecObject_var derived = Make("HostDerived", "D");
+    const ORXISpecObject_var base = Make("HostPlain", "B");
+    EXPECT_EQ(record.Get(AccessOf(derived)), KeyOf(derived, "ratio").Pointer());
+    // The base type has the very key, but is no type of the record.
+    EXPECT_EQ(record.Get(AccessOf(base)), nullptr);
+}
 } // namespace

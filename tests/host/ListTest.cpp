@@ -177,7 +177,8 @@ TEST_P(Moves, TakeTheFirstAtOrBehindThePositionElseTheFirstAtAll)
 }
 
 INSTANTIATE_TEST_SUITE_P(Lists, Moves,
-                         testing::Values(Move{"ABC", 'C', 1, S_OK, "C A B"}, Move{"ABC", 'A', 3, S_OK, "B C A"},
+                         testing::Values(Move{"ABCB", 'B', 2, S_OK, "A B B C"}, Move{"AAB", 'A', 1, S_OK, "A A B"},
+                                         Move{"ABC", 'C', 1, S_OK, "C A B"}, Move{"ABC", 'A', 3, S_OK, "B C A"},
                                          Move{"ABC", 'B', 2, S_OK, "A B C"}, Move{"ABCA", 'A', 2, S_OK, "A A B C"},
                                          Move{"ABAC", 'A', 4, S_OK, "B A C A"}, Move{"AABC", 'A', 3, S_OK, "A B A C"},
                                          Move{"A-B", '-', 3, S_OK, "A B (null)"},
