@@ -38,9 +38,13 @@ inline constexpr IID IID_ORXIInstance = ORXInterfaceIds::Make(0x00000208);
 inline constexpr IID IID_ORXIParmPublisher = ORXInterfaceIds::Make(0x00000209);
 
 inline constexpr IID IID_ORXISimBCDataTableColumn = ORXInterfaceIds::Make(0x00000301);
+inline constexpr IID IID_ORXISamAnalysisEntityInit = ORXInterfaceIds::Make(0x00000302);
 
 inline constexpr IID IID_VYRIFldIdentifier = ORXInterfaceIds::Make(0x00000401);
 inline constexpr IID IID_VYRIMpaDefaultManagement = ORXInterfaceIds::Make(0x00000402);
 inline constexpr IID IID_VYRIMpaDefaultManagementProtected = ORXInterfaceIds::Make(0x00000403);
+inline constexpr IID IID_VYRICfdChoice = ORXInterfaceIds::Make(0x00000404);
+inline constexpr IID IID_VYRICfdChoiceMgr = ORXInterfaceIds::Make(0x00000405);
+inline constexpr IID IID_VYRICfdConfigurable = ORXInterfaceIds::Make(0x00000406);
 
 #endif

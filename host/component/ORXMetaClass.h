@@ -16,6 +16,8 @@ enum ENUMTypeOfClass
 {
     ORXInterfaceClass = 1,
     ORXExtensionClass = 2,
+    /// A class of its own that extends nothing.
+    ORXImplementationClass = 3,
     /// A tie that is made anew at each request.
     ORXTieClass = 6,
     /// A tie that is shared by all requests on one object, as long as somebody holds it.

@@ -27,6 +27,11 @@ std::vector<std::string> CallRecorder::Take()
     return std::exchange(m_lines, {});
 }
 
+void RecordLine(const std::string& iLine)
+{
+    Instruments::Record(iLine);
+}
+
 void Instruments::Record(const std::string& iLine)
 {
     for (CallRecorder* recorder = static_cast<CallRecorder*>(s_recorder); recorder != nullptr;

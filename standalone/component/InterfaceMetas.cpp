@@ -5,7 +5,11 @@
 
 #include "ORXIInstance.h"
 #include "ORXIParmPublisher.h"
+#include "ORXISamAnalysisEntityInit.h"
 #include "ORXMetaClass.h"
+#include "VYRICfdChoice.h"
+#include "VYRICfdChoiceMgr.h"
+#include "VYRICfdConfigurable.h"
 #include "VYRIMpaDefaultManagement.h"
 #include "VYRIMpaDefaultManagementProtected.h"
 
@@ -34,5 +38,33 @@ ORXMetaClass* VYRIMpaDefaultManagementProtected::MetaObject()
 {
     static ORXMetaClass* const meta = new ORXMetaClass("VYRIMpaDefaultManagementProtected", ORXInterfaceClass,
                                                        IID_VYRIMpaDefaultManagementProtected, nullptr, nullptr);
+    return meta;
+}
+
+ORXMetaClass* ORXISamAnalysisEntityInit::MetaObject()
+{
+    static ORXMetaClass* const meta = new ORXMetaClass("ORXISamAnalysisEntityInit", ORXInterfaceClass,
+                                                       IID_ORXISamAnalysisEntityInit, nullptr, nullptr);
+    return meta;
+}
+
+ORXMetaClass* VYRICfdChoice::MetaObject()
+{
+    static ORXMetaClass* const meta =
+        new ORXMetaClass("VYRICfdChoice", ORXInterfaceClass, IID_VYRICfdChoice, nullptr, nullptr);
+    return meta;
+}
+
+ORXMetaClass* VYRICfdChoiceMgr::MetaObject()
+{
+    static ORXMetaClass* const meta =
+        new ORXMetaClass("VYRICfdChoiceMgr", ORXInterfaceClass, IID_VYRICfdChoiceMgr, nullptr, nullptr);
+    return meta;
+}
+
+ORXMetaClass* VYRICfdConfigurable::MetaObject()
+{
+    static ORXMetaClass* const meta =
+        new ORXMetaClass("VYRICfdConfigurable", ORXInterfaceClass, IID_VYRICfdConfigurable, nullptr, nullptr);
     return meta;
 }

@@ -29,9 +29,13 @@ constexpr NamedInterface hostInterfaces[] = {
     {"ORXIInstance", &IID_ORXIInstance},
     {"ORXIParmPublisher", &IID_ORXIParmPublisher},
     {"ORXISimBCDataTableColumn", &IID_ORXISimBCDataTableColumn},
+    {"ORXISamAnalysisEntityInit", &IID_ORXISamAnalysisEntityInit},
     {"VYRIFldIdentifier", &IID_VYRIFldIdentifier},
     {"VYRIMpaDefaultManagement", &IID_VYRIMpaDefaultManagement},
     {"VYRIMpaDefaultManagementProtected", &IID_VYRIMpaDefaultManagementProtected},
+    {"VYRICfdChoice", &IID_VYRICfdChoice},
+    {"VYRICfdChoiceMgr", &IID_VYRICfdChoiceMgr},
+    {"VYRICfdConfigurable", &IID_VYRICfdConfigurable},
 };
 } // namespace
 

@@ -80,13 +80,14 @@ void CheckAttributeName(const DocumentNode& iName)
 void TypeReader::Read(const DocumentNode& iType)
 {
     iType.ExpectKeys({"name", "base", "attributes", "startup", "configurations", "manager"});
-    RefuseForNow(iType, {"manager"});
     ReadName(iType.Require("name"));
     if (const auto base = iType.Find("base"))
         m_type.base = base->NonEmptyText();
     // For the tool, which starts from these when it checks configurations.
     if (const auto configurations = iType.Find("configurations"))
         configurations->Texts();
+    if (const auto manager = iType.Find("manager"))
+        m_type.isManaged = manager->Boolean();
     if (const auto attributes = iType.Find("attributes"))
         for (const DocumentNode& attribute : attributes->Elements())
             ReadAttribute(attribute);

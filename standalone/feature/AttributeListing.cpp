@@ -35,6 +35,15 @@ std::vector<std::string> TypeNames()
     return names;
 }
 
+std::vector<std::string> ManagedTypes()
+{
+    std::vector<std::string> names;
+    for (const FeatureType* const type : TypeRegistry::Instance().Types())
+        if (type->IsManaged())
+            names.push_back(type->Name());
+    return names;
+}
+
 std::vector<AttributeInfo> Attributes(const ORXISpecObject_var& iObject)
 {
     std::vector<AttributeInfo> infos;

@@ -58,6 +58,8 @@ CatalogPlan::CatalogPlan(const TypeRegistry& iRegistry, const CatalogDeclaration
     for (std::size_t type = 0; type < m_catalog.types.size(); ++type)
         CheckBase(type);
     OrderByBases();
+    for (std::size_t type = 0; type < m_catalog.types.size(); ++type)
+        CheckManager(type);
     for (const std::size_t type : m_basesFirst)
         AddAttributes(type);
     OrderByParts();
@@ -95,6 +97,19 @@ void CatalogPlan::CheckBase(std::size_t iType) const
     if (planned.base != (base != nullptr ? base->Name() : std::string()))
         throw DeclarationError(iType, none, none,
                                "type " + Quoted(type.name) + " has been declared with another base type");
+}
+
+void CatalogPlan::CheckManager(std::size_t iType) const
+{
+    const TypeDeclaration& declaration = m_catalog.types[iType];
+    if (!declaration.isManaged)
+        return;
+    for (const Type* type = Find(declaration.name); type != nullptr && !type->base.empty(); type = Find(type->base))
+        if (type->base == "VYRCfdChoice")
+            return;
+    throw DeclarationError(iType, none, none,
+                           "a manager is for Choices: type " + Quoted(declaration.name) +
+                               " does not derive from \"VYRCfdChoice\"");
 }
 
 void CatalogPlan::OrderByBases()

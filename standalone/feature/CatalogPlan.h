@@ -54,6 +54,7 @@ private:
     void CollectTypes();
     void CheckBase(std::size_t iType) const;
     void OrderByBases();
+    void CheckManager(std::size_t iType) const;
     void AddAttributes(std::size_t iType);
     void CheckAttribute(std::size_t iType, std::size_t iAttribute) const;
     void OrderByParts();

@@ -118,6 +118,15 @@ void FeatureObject::SetIdentifier(const ORXUnicodeString& iIdentifier)
     Names().identifier.text = iIdentifier;
 }
 
+void FeatureObject::AddSubscriber(const std::shared_ptr<Subscription::Callback>& iCallback)
+{
+    if (m_isPrototype)
+        return;
+    if (m_subscribers == nullptr)
+        m_subscribers = std::make_unique<Subscribers>();
+    m_subscribers->Add(iCallback);
+}
+
 ObjectNames& FeatureObject::Names()
 {
     if (m_names == nullptr)

@@ -14,6 +14,7 @@
 #include "ORXISpecObject.h"
 #include "SlotBlock.h"
 #include "Slots.h"
+#include "Subscribers.h"
 
 namespace VYRStandalone
 {
@@ -121,6 +122,14 @@ public:
     unsigned int References() const noexcept { return m_references; }
     /// @}
 
+    /// @name Who receives its notifications.
+    /// @{
+    /// A start-up has none, since all threads share it.
+    void AddSubscriber(const std::shared_ptr<Subscription::Callback>& iCallback);
+    /// Null when nobody has ever subscribed.
+    const Subscribers* GetSubscribers() const noexcept { return m_subscribers.get(); }
+    /// @}
+
     /// @name What the facets of the object share.
     /// @{
     ORXBaseUnknown* Root() const noexcept { return const_cast<FeatureObject*>(this); }
@@ -206,6 +215,7 @@ private:
     std::unique_ptr<AddedAttributes> m_added;
     std::unique_ptr<ObjectNames> m_names;
     std::unique_ptr<TableColumn> m_column;
+    std::unique_ptr<Subscribers> m_subscribers;
     ORXUnicodeString m_name;
 };
 } // namespace VYRStandalone

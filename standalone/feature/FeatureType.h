@@ -56,6 +56,9 @@ public:
             m_frozen.store(true, std::memory_order_relaxed);
     }
 
+    bool IsManaged() const noexcept { return m_isManaged; }
+    void SetManaged() noexcept { m_isManaged = true; }
+
     /// Takes the attributes of the base type over, which is frozen by that. Before attributes are added.
     void Inherit();
 
@@ -90,6 +93,7 @@ private:
     NameTable m_names;
     std::size_t m_slotBytes;
     std::atomic<bool> m_frozen{false};
+    bool m_isManaged = false;
     FeatureObject* m_prototype = nullptr;
     std::vector<ExtensionEntry> m_extensions;
     const ExtensionEntry* m_instanceExtension = nullptr;

@@ -87,6 +87,19 @@ std::string RecordLines::Advise(const FeatureObject& iObject, const FeatureKey& 
     return "advise " + Place(iObject, iKey.Name().View(), 0) + " = " + Present(iObject, iKey);
 }
 
+std::string RecordLines::Allow(const FeatureObject& iObject, const FeatureKey& iKey,
+                               const ORXListValORXUnicodeString& iTexts)
+{
+    std::string line = "allow " + Place(iObject, iKey.Name().View(), 0) + " = [";
+    for (int i = 1; i <= iTexts.Size(); ++i)
+    {
+        if (i > 1)
+            line += ", ";
+        line += iTexts[i].View();
+    }
+    return line + ']';
+}
+
 std::string RecordLines::Present(const FeatureObject& iObject, const FeatureKey& iKey)
 {
     switch (iKey.Slot())

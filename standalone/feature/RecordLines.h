@@ -6,6 +6,7 @@
 
 #include "KnowledgeType.h"
 #include "ORXIValue.h"
+#include "ORXListValORXUnicodeString.h"
 
 class ORXISpecObject;
 
@@ -35,6 +36,10 @@ public:
                             const std::string& iText = {});
     /// "advise OBJECT.ATTRIBUTE = TEXT" with what the attribute holds now.
     static std::string Advise(const FeatureObject& iObject, const FeatureKey& iKey);
+
+    /// "allow OBJECT.ATTRIBUTE = [TEXT, TEXT]".
+    static std::string Allow(const FeatureObject& iObject, const FeatureKey& iKey,
+                             const ORXListValORXUnicodeString& iTexts);
 
 private:
     static std::string Present(const FeatureObject& iObject, const FeatureKey& iKey);

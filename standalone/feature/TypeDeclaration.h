@@ -45,6 +45,8 @@ struct TypeDeclaration
     std::vector<AttributeDeclaration> attributes;
     /// Applied in this order, after all types of the catalog are complete.
     std::vector<PrototypeValue> values;
+    /// Somebody is to offer a manager for objects of the type.
+    bool isManaged = false;
 };
 
 struct CatalogDeclaration

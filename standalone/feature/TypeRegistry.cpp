@@ -108,6 +108,8 @@ void TypeRegistry::Declare(const CatalogDeclaration& iCatalog)
         if (isNew[index])
             type.Inherit();
         AddMissingAttributes(*this, type, iCatalog.types[index]);
+        if (iCatalog.types[index].isManaged)
+            type.SetManaged();
     }
     // A start-up takes over what those of its base and of its components hold: their values have to stand before it.
     for (const std::size_t index : plan.PartsFirst())

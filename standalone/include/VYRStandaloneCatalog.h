@@ -33,6 +33,10 @@ VYRStandaloneExport void LoadCatalog(const std::string& iFile, const std::vector
 /// Names of all declared types, in the order of their declaration.
 VYRStandaloneExport std::vector<std::string> TypeNames();
 
+/// Names of the types that their catalog marks with "manager": true, in the order of their declaration. The host only
+/// keeps the mark; whoever offers managers registers one for these types.
+VYRStandaloneExport std::vector<std::string> ManagedTypes();
+
 /// One attribute that an object carries.
 struct AttributeInfo
 {

@@ -26,6 +26,9 @@
  *   held for the length of the call.
  * - Errors and traces are kept per thread; everything process-wide is made on first use and never destroyed.
  *
+ * - Callbacks go to the subscribers of an object in the order of subscription. A configuration transaction starts and
+ *   completes whatever the start answers.
+ *
  * Not here yet: units, optional attributes.
  */
 

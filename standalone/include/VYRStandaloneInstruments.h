@@ -58,6 +58,8 @@ VYRStandaloneExport int FaultsHit();
  *     take Solver.1.zones = Zone.1             RemoveObject
  *     add Solver.1/defaultManagement.relaxation_isset
  *     create VYRCfdConfigItem ConfigItem
+ *     allow Solver.1/turbulence.value = [laminar, kOmega]      the values that a manipulator offers
+ *     dispatch Solver.1/turbulence             callbacks of an object begin
  *     advise Solver.1.relaxation = 0.7         the notification begins
  *     done Solver.1.relaxation                 the notification ends
  *
@@ -79,6 +81,9 @@ private:
     CallRecorder* m_outer;
     friend class CallRecorderAccess;
 };
+
+/// Adds a line of the caller's own to every recorder of this thread.
+VYRStandaloneExport void RecordLine(const std::string& iLine);
 
 /// Components that are alive and that can die: objects, ties, extension instances, values and parameters that are held
 /// beyond their attribute, free-standing parameters, keys of added attributes, and whatever else counts itself. Types,

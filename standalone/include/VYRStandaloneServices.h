@@ -3,16 +3,40 @@
 
 /**
  * @file
- * Steering of the services: variables of the installation, trace output, and what is wrong with a JSON file.
+ * Steering of the services: variables of the installation, trace output, notifications, and what is wrong with a JSON
+ * file.
  */
 
 #include <functional>
+#include <memory>
 #include <string>
 
+#include "ORXBaseUnknown.h"
+#include "ORXNotification.h"
 #include "VYRStandaloneExport.h"
 
 namespace VYRStandalone
 {
+/**
+ * Receives the notifications that `DispatchCallbacks` sends for an object, for as long as the subscription lives. It
+ * does not hold the object, and outlives it in silence. Subscribers are told in the order of subscription; who ends its
+ * subscription while others are being told is not told any more.
+ */
+class VYRStandaloneExport Subscription
+{
+public:
+    using Callback = std::function<void(ORXNotification& ioNotification)>;
+
+    /// Null and a component that is no feature object receive nothing.
+    Subscription(const ORXBaseUnknown_var& iObject, Callback iCallback);
+    ~Subscription();
+    Subscription(Subscription&&) noexcept;
+    Subscription& operator=(Subscription&&) noexcept;
+
+private:
+    std::shared_ptr<Callback> m_callback;
+};
+
 /// Sets a variable of the installation. One that was not set here is taken from the environment.
 VYRStandaloneExport void SetOfficialVariable(const std::string& iName, const std::string& iValue);
 /// As if the variable had never been set here.

@@ -17,7 +17,16 @@ AttributeParm::AttributeParm(FeatureObject& iObject, const FeatureKey& iKey, Slo
     m_current = &m_cell;
 }
 
-AttributeParm::~AttributeParm() {}
+AttributeParm::~AttributeParm()
+{
+    ForgetManipulator();
+}
+
+void AttributeParm::ForgetManipulator() noexcept
+{
+    if (!!m_manipulator)
+        static_cast<Manipulator*>(m_manipulator.Pointer())->Forget();
+}
 
 void AttributeParm::Destroy()
 {
@@ -149,7 +158,8 @@ ORXICkeManipulator_var AttributeParm::CreateManipulator()
 {
     if (Instruments::Active() && Instruments::Fails("CreateManipulator", m_key.Name().View(), &m_object))
         return {};
-    m_manipulator = ORXICkeManipulator_var::Adopt(new Manipulator);
+    ForgetManipulator();
+    m_manipulator = ORXICkeManipulator_var::Adopt(new Manipulator(this));
     return m_manipulator;
 }
 

@@ -54,6 +54,8 @@ private:
     ~AttributeParm() override;
 
     template <class Text> bool IsStopped(const char* iOperation, const Text& iText);
+    /// Of the one that is held here.
+    void ForgetManipulator() noexcept;
     /// Takes a cell that nobody holds.
     void Renew();
 

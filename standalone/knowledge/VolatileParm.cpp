@@ -104,7 +104,7 @@ ORXICkeManipulator_var VolatileParm::CreateManipulator()
 {
     if (Fails("CreateManipulator"))
         return {};
-    m_manipulator = ORXICkeManipulator_var::Adopt(new Manipulator);
+    m_manipulator = ORXICkeManipulator_var::Adopt(new Manipulator(nullptr));
     return m_manipulator;
 }
 

@@ -9,6 +9,8 @@
 #include "VYRCfdConfigurator.h"
 #include "VYRCfdTie.h"
 #include "VYRCfdTraceManager.h"
+#include "VYRECfdChoiceDefaultManagement.h"
+#include "VYRECfdChoiceInstance.h"
 #include "VYRECfdDefaultManagementInstance.h"
 #include "VYRECfdValuesDefaultManagement.h"
 #include "VYRECfdValuesInstance.h"
@@ -25,6 +27,38 @@ ORXBaseUnknown* CreateDirect(ORXBaseUnknown* iExtended, ORXBaseUnknown* iExtensi
 // The creators are known to the object model by these names.
 extern "C"
 {
+    VYRCfdBaseExport ORXBaseUnknown*
+    CreateBOAVYRIMpaDefaultManagementProtectedVYRECfdChoiceDefaultManagement(ORXBaseUnknown* iExtended,
+                                                                             ORXBaseUnknown* iExtension)
+    {
+        return CreateDirect<VYRECfdChoiceDefaultManagement, VYRIMpaDefaultManagementProtected>(iExtended, iExtension);
+    }
+
+    VYRCfdBaseExport ORXBaseUnknown*
+    CreateTIEVYRIMpaDefaultManagementVYRECfdChoiceDefaultManagement(ORXBaseUnknown* iExtended,
+                                                                    ORXBaseUnknown* iExtension)
+    {
+        return TIEVYRIMpaDefaultManagement<VYRECfdChoiceDefaultManagement>::Create(iExtended, iExtension);
+    }
+
+    VYRCfdBaseExport ORXBaseUnknown* CreateTIEVYRICfdChoiceVYRECfdChoiceInstance(ORXBaseUnknown* iExtended,
+                                                                                 ORXBaseUnknown* iExtension)
+    {
+        return TIEVYRICfdChoice<VYRECfdChoiceInstance>::Create(iExtended, iExtension);
+    }
+
+    VYRCfdBaseExport ORXBaseUnknown* CreateTIEORXIInstanceVYRECfdChoiceInstance(ORXBaseUnknown* iExtended,
+                                                                                ORXBaseUnknown* iExtension)
+    {
+        return TIEORXIInstance<VYRECfdChoiceInstance>::Create(iExtended, iExtension);
+    }
+
+    VYRCfdBaseExport ORXBaseUnknown* CreateTIEVYRICfdConfigurableVYRECfdChoiceInstance(ORXBaseUnknown* iExtended,
+                                                                                       ORXBaseUnknown* iExtension)
+    {
+        return TIEVYRICfdConfigurable<VYRECfdChoiceInstance>::Create(iExtended, iExtension);
+    }
+
     VYRCfdBaseExport ORXBaseUnknown* CreateTIEORXIInstanceVYRECfdDefaultManagementInstance(ORXBaseUnknown* iExtended,
                                                                                            ORXBaseUnknown* iExtension)
     {
@@ -69,6 +103,13 @@ template <class Extension, class Interface, ORXInterfaceCreator Creator> ORXOMMo
 }
 
 constexpr ORXOMModuleEntry Entries[] = {
+    &Enter<VYRECfdChoiceDefaultManagement, VYRIMpaDefaultManagementProtected,
+           &CreateBOAVYRIMpaDefaultManagementProtectedVYRECfdChoiceDefaultManagement>,
+    &Enter<VYRECfdChoiceDefaultManagement, VYRIMpaDefaultManagement,
+           &CreateTIEVYRIMpaDefaultManagementVYRECfdChoiceDefaultManagement>,
+    &Enter<VYRECfdChoiceInstance, VYRICfdChoice, &CreateTIEVYRICfdChoiceVYRECfdChoiceInstance>,
+    &Enter<VYRECfdChoiceInstance, ORXIInstance, &CreateTIEORXIInstanceVYRECfdChoiceInstance>,
+    &Enter<VYRECfdChoiceInstance, VYRICfdConfigurable, &CreateTIEVYRICfdConfigurableVYRECfdChoiceInstance>,
     &Enter<VYRECfdDefaultManagementInstance, ORXIInstance, &CreateTIEORXIInstanceVYRECfdDefaultManagementInstance>,
     &Enter<VYRECfdValuesDefaultManagement, VYRIMpaDefaultManagementProtected,
            &CreateBOAVYRIMpaDefaultManagementProtectedVYRECfdValuesDefaultManagement>,

@@ -5,6 +5,8 @@
 #include "VYRCfdChecks.h"
 #include "VYRCfdConfigurator.h"
 #include "VYRCfdUtilityMethods.h"
+#include "VYRICfdChoice.h"
+#include "VYRICfdChoiceMgr.h"
 
 VYRCfdConfigurationWalk::VYRCfdConfigurationWalk(VYRCfdConfigurator& ioConfigurator, const char* iFunction,
                                                  const ORXBaseUnknown_var& ispObject,
@@ -29,8 +31,7 @@ HRESULT VYRCfdConfigurationWalk::Apply(const JSON::JIStream& iItem)
     Item item = Read(iItem);
 
     if (iItem.Exist(m_keys.choices))
-        VYRCFD_FAIL_FOR(m_function, "Choice items are not supported yet: path %s, default %s", item.path,
-                        item.defaultValue);
+        return ApplyChoice(iItem, item);
 
     // A value without a true "list" swallows the whole item.
     if (!item.value.IsEmpty())
@@ -64,6 +65,52 @@ HRESULT VYRCfdConfigurationWalk::ApplyValues(const ORXUnicodeString& path, const
 HRESULT VYRCfdConfigurationWalk::CreateRecord(ORXISpecObject_var& spConfigItem)
 {
     VYRCFD_CHECK_FOR(m_function, ORXSimBCInitializeServices::CreateBasicComponent("VYRCfdConfigItem", "ConfigItem", spCont, spConfigItem));
+    return S_OK;
+}
+
+/// The path is not followed: it only shapes the record, and the Choice is the object that is configured. One that lies
+/// deeper is reached by a nested item, whose configuration holds the Choice item.
+HRESULT VYRCfdConfigurationWalk::ApplyChoice(const JSON::JIStream& iItem, const Item& item)
+{
+    const ORXUnicodeString& path = item.path;
+    const ORXUnicodeString& defaultValue = item.defaultValue;
+    const ORXUnicodeString& display = item.display;
+    const VYRCfdObjectAccess choiceAccess = path.IsEmpty() ? specAccess.GetByPath(path) : specAccess;
+    const ORXUnicodeString choicesString = iItem.ReadString(m_keys.choices);
+    std::vector<ORXUnicodeString> choicesList;
+    VYRCFD_CHECK_FOR(m_function, VYRCfdUtilityMethods::ConvertStringToVector(choicesString, choicesList));
+    std::vector<ORXUnicodeString> startupsList;
+    if (iItem.Exist(m_keys.startups))
+    {
+        const ORXUnicodeString startupsString = iItem.ReadString(m_keys.startups);
+        VYRCFD_CHECK_FOR(m_function, VYRCfdUtilityMethods::ConvertStringToVector(startupsString, startupsList));
+    }
+    const VYRICfdChoice_var spChoice = choiceAccess.Self();
+    const VYRICfdChoiceMgr_var spChoiceMgr = choiceAccess.Self();
+    // An object that is both is a manager as long as the item gives no startups.
+    if (startupsList.empty() && !!spChoiceMgr)
+        VYRCFD_CHECK_FOR(m_function, spChoiceMgr->ConfigureChoiceMgr(choicesList, defaultValue, display));
+    else
+    {
+        VYRCFD_ASSERT_FOR(m_function, spChoice);
+        VYRCFD_CHECK_FOR(m_function, spChoice->Configure(choicesList, startupsList, defaultValue, display));
+    }
+    return defaultValue.IsEmpty() ? S_OK : RecordChoice(path, defaultValue);
+}
+
+HRESULT VYRCfdConfigurationWalk::RecordChoice(const ORXUnicodeString& path, const ORXUnicodeString& defaultValue)
+{
+    ORXISpecObject_var spConfigItem;
+    VYRCFD_PASS(CreateRecord(spConfigItem));
+    if (!spConfigItem)
+        return S_OK;
+    const VYRCfdObjectAccess configItemAccess{ORXBaseUnknown_var(spConfigItem)};
+
+    const ORXUnicodeString valuePath = path.IsEmpty() ? ORXUnicodeString("value") : path + "/value";
+    VYRCFD_CHECK_FOR(m_function, configItemAccess["type"].SetPlainString("string"));
+    VYRCFD_CHECK_FOR(m_function, configItemAccess["path"].SetPlainString(valuePath));
+    VYRCFD_CHECK_FOR(m_function, configItemAccess["default"].SetPlainString(defaultValue));
+    configItemsList.push_back(configItemAccess);
     return S_OK;
 }
 

@@ -47,6 +47,7 @@ private:
         const ORXUnicodeString config{"config"};
         const ORXUnicodeString condition{"condition"};
         const ORXUnicodeString choices{"choices"};
+        const ORXUnicodeString startups{"Startups"};
     };
 
     /// What is read of an item.
@@ -64,6 +65,8 @@ private:
 
     Item Read(const JSON::JIStream& iItem) const;
     HRESULT ApplyValues(const ORXUnicodeString& path, const ORXUnicodeString& value);
+    HRESULT ApplyChoice(const JSON::JIStream& iItem, const Item& item);
+    HRESULT RecordChoice(const ORXUnicodeString& path, const ORXUnicodeString& defaultValue);
     HRESULT ApplyDefault(Item& ioItem, bool iIsAutomatic);
     HRESULT ApplyConditional(const ORXUnicodeString& path, const ORXUnicodeString& condition,
                              const ORXUnicodeString& config);

@@ -3,8 +3,8 @@
 
 /**
  * @file
- * The ties of the module: small objects that implement an interface and forward each operation to an extension
- * instance.
+ * Ties: small objects that implement an interface and forward each operation to an extension instance. The module
+ * writes its own by them, and so may a library that derives from the adapters.
  */
 
 #include <atomic>
@@ -13,6 +13,8 @@
 
 #include "ORXIInstance.h"
 #include "ORXTie.h"
+#include "VYRICfdChoice.h"
+#include "VYRICfdConfigurable.h"
 #include "VYRIMpaDefaultManagement.h"
 
 /**
@@ -102,6 +104,53 @@ public:
     {
         return this->Instance()->GetDefault(iAttrName, oValue);
     }
+};
+
+/// Shared by all requests on one object.
+template <class Extension>
+class TIEVYRICfdChoice final
+    : public VYRCfdTie<TIEVYRICfdChoice<Extension>, VYRICfdChoice, Extension, ORXSharedTieClass>
+{
+public:
+    static constexpr const char* InterfaceName = "VYRICfdChoice";
+
+    HRESULT Configure(const std::vector<ORXUnicodeString>& iChoices, const std::vector<ORXUnicodeString>& iStartups,
+                      const ORXUnicodeString& iDefault, const ORXUnicodeString& iDisplay) override
+    {
+        return this->Instance()->Configure(iChoices, iStartups, iDefault, iDisplay);
+    }
+    HRESULT Configure(const std::vector<ORXUnicodeString>& iChoices, const ORXUnicodeString& iDefault,
+                      const ORXUnicodeString& iDisplay) override
+    {
+        return this->Instance()->Configure(iChoices, iDefault, iDisplay);
+    }
+    HRESULT SetChoice(const ORXUnicodeString& iChoice) override { return this->Instance()->SetChoice(iChoice); }
+    HRESULT GetChoice(ORXUnicodeString& oChoice) override { return this->Instance()->GetChoice(oChoice); }
+    HRESULT GetListOfChoices(std::vector<ORXUnicodeString>& oListChoices) override
+    {
+        return this->Instance()->GetListOfChoices(oListChoices);
+    }
+    HRESULT GetListOfChoicesNLS(std::vector<ORXUnicodeString>& oListChoices) override
+    {
+        return this->Instance()->GetListOfChoicesNLS(oListChoices);
+    }
+    HRESULT GetDefaultDisplay(ORXUnicodeString& oDisplay) override
+    {
+        return this->Instance()->GetDefaultDisplay(oDisplay);
+    }
+    HRESULT Update() override { return this->Instance()->Update(ORXUnicodeString()); }
+};
+
+/// Shared by all requests on one object.
+template <class Extension>
+class TIEVYRICfdConfigurable final
+    : public VYRCfdTie<TIEVYRICfdConfigurable<Extension>, VYRICfdConfigurable, Extension, ORXSharedTieClass>
+{
+public:
+    static constexpr const char* InterfaceName = "VYRICfdConfigurable";
+
+    HRESULT StartConfiguration() override { return this->Instance()->StartConfiguration(); }
+    HRESULT CompleteConfiguration() override { return this->Instance()->CompleteConfiguration(); }
 };
 
 /// Shared by all requests on one object.

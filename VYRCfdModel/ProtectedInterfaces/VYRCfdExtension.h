@@ -3,7 +3,7 @@
 
 /**
  * @file
- * What the extension classes of the module have in common.
+ * What extension classes have in common: those of the module, and those of libraries that derive from its adapters.
  */
 
 #include <atomic>
@@ -13,11 +13,14 @@
 
 /**
  * Gives an extension class its meta class and the answers that follow from it. `Class` names itself and what it extends
- * by three static members: `ClassName`, `LateType` and `BaseMeta()`.
+ * by three static members: `ClassName`, `LateType` and `BaseMeta()`, the meta class of the interface that it stands
+ * for. A class of another framework redefines `Framework`.
  */
 template <class Class, class Base> class VYRCfdExtension : public Base
 {
 public:
+    static constexpr const char* Framework = "VYRCfdModel";
+
     ORXMetaClass* GetMetaObject() const override { return MetaObject(); }
     const char* IsA() const override { return MetaObject()->ClassName(); }
     int IsAKindOf(const char* iClassName) const override { return MetaObject()->IsAKindOf(iClassName); }
@@ -33,7 +36,7 @@ public:
         if (meta == nullptr)
         {
             meta = qlx::internal::fct_RetrieveMetaObject(Class::ClassName, ORXExtensionClass, Class::BaseMeta(),
-                                                         Class::LateType, "VYRCfdModel", sizeof(Class));
+                                                         Class::LateType, Class::Framework, sizeof(Class));
             s_meta.store(meta, std::memory_order_release);
         }
         return meta;

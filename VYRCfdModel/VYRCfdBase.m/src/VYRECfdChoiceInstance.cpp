@@ -1,0 +1,5 @@
+#include "VYRECfdChoiceInstance.h"
+
+VYRECfdChoiceInstance::VYRECfdChoiceInstance() = default;
+
+VYRECfdChoiceInstance::~VYRECfdChoiceInstance() = default;
