@@ -163,7 +163,10 @@ INSTANTIATE_TEST_SUITE_P(
         ErrorCase{"TypeKeyLikeNone", OfType(", \"zzz\": []"),
                   ": /types/0/zzz: unknown key; there are \"name\", \"base\", \"attributes\", \"startup\", "
                   "\"configurations\", \"manager\""},
-        ErrorCase{"Manager", OfType(", \"manager\": true"), ": /types/0/manager: not supported yet"},
+        ErrorCase{"ManagerOfNoChoice", OfType(", \"manager\": true"),
+                  ": /types/0: a manager is for Choices: type \"RefusedType\" does not derive from \"VYRCfdChoice\""},
+        ErrorCase{"ManagerNoBoolean", OfType(", \"manager\": \"yes\""),
+                  ": /types/0/manager: must be true or false, not a text"},
         ErrorCase{"TypeWithBlank", R"({"catalog": "Refused", "types": [{"name": "a b"}]})",
                   ": /types/0/name: the name of a type holds no blank and no comma"},
         ErrorCase{"TypeTwice", R"({"catalog": "Refused", "types": [{"name": "RefusedA"}, {"name": "RefusedA"}]})",
