@@ -1,13 +1,14 @@
 #!/usr/bin/env python3
 """Checks the sample installation: configuration files, catalogs and models, each by itself and against the others.
 
-A development aid until `vyrcfd check` exists; it knows no Choices, and goes when the tool can do its work.
+A development aid until `vyrcfd check` exists; it goes when the tool can do its work.
 
     samples/check.py            check the files beside this script; exit 1 if there are findings
     samples/check.py --prove    break copies of the files in memory, one way at a time; exit 1 if a break goes unseen
 
 Paths that run through references and lists of objects have no declared type, so they are followed on the sample
-models: at least one object of the configured type must have such a target.
+models: at least one object of the configured type must have such a target. The data object of a Choice is of the types
+that its start-up declares for its choices, whether or not a model holds one.
 """
 
 import copy
@@ -33,10 +34,16 @@ OPERATORS = ["==", "!=", "<=", ">=", "<", ">", "="]  # in the order in which a c
 ITEM_SHAPES = {  # keys that an item must hold, and keys that it may hold
     "values": ({"path", "value", "list"}, set()),
     "default": ({"path", "type", "default"}, {"defaultAutoKey"}),
-    "nested": ({"path", "config"}, {"condition"})}
+    "nested": ({"path", "config"}, {"condition"}),
+    "choice": ({"choices", "default"}, {"Startups", "display"})}  # a path would only shape the record
 ATTRIBUTE_KEYS = {"name", "kind", "default", "values", "type", "of"}
+CHOICE = "VYRCfdChoice"
 HOST_TYPES = {
     "VYRCfdValues": [{"name": "defaultManagement", "kind": "component", "type": "VYRCfdDefaultManagement"}],
+    CHOICE: [{"name": name, "kind": "string"} for name in ("value", "dataName", "display")]
+            + [{"name": name, "kind": "list", "of": "string"} for name in ("choices", "Startups")]
+            + [{"name": "Data", "kind": "component"},
+               {"name": "defaultManagement", "kind": "component", "type": "VYRCfdDefaultManagement"}],
     "VYRCfdDefaultManagement": [{"name": "configuration", "kind": "list", "of": "reference"}],
     "VYRCfdConfigItem": [{"name": name, "kind": "string"}
                          for name in ("type", "path", "default", "defaultAutoKey", "condition", "config")]}
@@ -99,6 +106,50 @@ def value_fits(value, kind, attribute):
     return isinstance(value, str)
 
 
+# --- Choices ---------------------------------------------------------------------------------------------------------
+
+def tokens_of(text):
+    """The entries of a comma list; blanks go, also those inside an entry."""
+    return [token.replace(" ", "") for token in text.split(",")]
+
+
+def pairs_of(startup):
+    """A Choice's choices with their startups, as its start-up declares them; "" for a choice without data."""
+    choices, startups = startup.get("choices") or [], startup.get("Startups") or []
+    return list(zip(choices, startups or [""] * len(choices)))
+
+
+def holding(pairs, condition):
+    """The pairs of a Choice under which a condition on its value may hold; all of them under any other condition."""
+    path, operator, right = parse_condition(condition) or ("", "", "")
+    if path != "value" or operator not in ("==", "=", "!="):
+        return pairs
+    return [(choice, startup) for choice, startup in pairs if (choice == right) == (operator != "!=")]
+
+
+def check_choice_lists(where, choices, startups, default, types, catalogs, findings):
+    """What holds of the lists of a Choice wherever they are given. Startups are of the types of the catalogs."""
+    if not all(isinstance(text, str) for text in choices + startups + [default]):
+        findings.append(f"{where}: choices, Startups and the value are texts")
+        return
+    for choice in choices:
+        if not choice or re.search(r"[ ,]", choice):
+            findings.append(f'{where}: choice "{choice}" is empty, or holds a blank or a comma')
+        elif choices.count(choice) > 1:
+            findings.append(f'{where}: choice "{choice}" stands twice')
+    if startups and len(startups) != len(choices):
+        findings.append(f"{where}: {len(choices)} choices and {len(startups)} Startups")
+    if startups and not any(startups):
+        findings.append(f"{where}: no choice has data, so there should be no Startups")
+    for startup in startups:
+        if startup and (startup not in types.own or types.catalog.get(startup, "VYRCfdBase") not in catalogs):
+            findings.append(f'{where}: startup "{startup}" is no declared type')
+        elif startup and not types.derives(startup, "VYRCfdValues"):
+            findings.append(f'{where}: startup "{startup}" has no default management, so its data cannot be configured')
+    if default not in choices:
+        findings.append(f'{where}: "{default}" is none of the choices')
+
+
 # --- catalogs --------------------------------------------------------------------------------------------------------
 
 class Types:
@@ -108,6 +159,9 @@ class Types:
         self.findings = findings
         self.bases = {name: "" for name in HOST_TYPES}
         self.own = {name: {a["name"]: a for a in attributes} for name, attributes in HOST_TYPES.items()}
+        self.startups = {}  # type -> its own "startup"
+        self.managed = set()
+        self.prototypes = {}
         self.meant = {}    # type -> configurations that are meant for it
         self.catalog = {}  # type -> catalog
         self.uses = {"VYRCfdBase": []}
@@ -133,6 +187,9 @@ class Types:
             self.bases[name] = entry.get("base", "")
             self.own[name] = {a.get("name", ""): a for a in entry.get("attributes", [])}
             self.meant[name] = entry.get("configurations", [])
+            self.startups[name] = entry.get("startup", {})
+            if entry.get("manager"):
+                self.managed.add(name)
 
     def chain(self, name):
         while name:
@@ -147,6 +204,30 @@ class Types:
         for one in reversed(list(self.chain(name))):
             merged.update(self.own.get(one, {}))
         return merged
+
+    def is_managed(self, name):
+        return any(one in self.managed for one in self.chain(name))
+
+    def prototype(self, name):
+        """The start-up of a type: values by attribute, start-ups by component."""
+        if name not in self.prototypes:
+            self.prototypes[name] = {}  # what a type that contains itself finds of itself
+            values = copy.deepcopy(self.prototype(self.bases[name])) if self.bases.get(name) else {}
+            for label, attribute in self.own.get(name, {}).items():
+                if attribute.get("kind") == "component":
+                    values[label] = copy.deepcopy(self.prototype(attribute.get("type", "")))
+                else:
+                    values[label] = attribute.get("default")
+            self.overlay(values, self.startups.get(name, {}))
+            self.prototypes[name] = values
+        return self.prototypes[name]
+
+    def overlay(self, values, startup):
+        for key, value in startup.items():
+            if isinstance(value, dict) and isinstance(values.get(key), dict):
+                self.overlay(values[key], value)
+            else:
+                values[key] = value
 
     def visible(self, catalog):
         """The catalogs that a catalog knows: itself and what it uses, directly or not."""
@@ -163,12 +244,14 @@ class Types:
 
     def check_type(self, file, name, entry):
         where = f"{file}: {name}"
-        if not set(entry) <= {"name", "base", "attributes", "startup", "configurations"}:
+        if not set(entry) <= {"name", "base", "attributes", "startup", "configurations", "manager"}:
             self.findings.append(f"{where}: unknown keys {sorted(entry)}")
+        if "manager" in entry and (entry["manager"] is not True or not self.derives(name, CHOICE)):
+            self.findings.append(f'{where}: "manager" is true, and for types that derive from "{CHOICE}"')
         if not self.known_from(self.bases[name], self.catalog[name]):
             self.findings.append(f'{where}: base "{self.bases[name]}" is not known here')
             self.bases[name] = ""
-        elif not self.derives(name, "VYRCfdValues"):
+        elif not self.derives(name, "VYRCfdValues") and not self.derives(name, CHOICE):
             self.findings.append(f"{where}: has no default management, so it cannot be configured")
         names = [a.get("name", "") for a in entry.get("attributes", [])]
         inherited = self.attributes(self.bases[name])
@@ -179,6 +262,31 @@ class Types:
             self.check_attribute(f"{where}.{label}", attribute, self.catalog[name])
         self.check_containment(where, name, [name])
         self.check_startup(where, name, entry.get("startup", {}))
+        if self.derives(name, CHOICE) and self.prototype(name).get("choices"):
+            self.check_choice(where, name, self.prototype(name), self.catalog[name])
+        self.check_choices_inside(where, name, self.prototype(name), [name])
+
+    def check_choices_inside(self, where, name, startup, trail):
+        """The Choices that come with an object of a type, with the start-ups that its owner declares for them."""
+        for label, attribute in self.attributes(name).items():
+            part = attribute.get("type", "") if attribute.get("kind") == "component" else ""
+            if not part or part in trail or not isinstance(startup.get(label), dict):
+                continue
+            if self.derives(part, CHOICE):
+                self.check_choice(f"{where}.{label}", part, startup[label], self.catalog[trail[0]])
+            self.check_choices_inside(f"{where}.{label}", part, startup[label], trail + [part])
+
+    def check_choice(self, where, name, startup, catalog):
+        choices, startups = startup.get("choices") or [], startup.get("Startups") or []
+        if not isinstance(choices, list) or not isinstance(startups, list):
+            return  # found already, as no value of its kind
+        if not choices:
+            self.findings.append(f"{where}: a Choice that declares no choices")
+        else:
+            check_choice_lists(where, choices, startups, startup.get("value"), self, self.visible(catalog),
+                               self.findings)
+        if not startup.get("display"):
+            self.findings.append(f"{where}: a Choice without a display text")
 
     def check_attribute(self, where, attribute, catalog):
         name, kind = attribute.get("name", ""), attribute.get("kind", "")
@@ -247,7 +355,8 @@ class Model:
         if len(ids) != len(set(ids)) or not all(type(i) is int for i in ids):
             findings.append(f"{file}: ids are numbers, each given once")
         for one in self.objects:
-            self.check_object(f"{file}: {one.get('name', '')}", one, one.get("type", ""))
+            type_ = one.get("type", "")
+            self.check_object(f"{file}: {one.get('name', '')}", one, type_, types.prototype(type_))
 
     def target(self, reference):
         """The one object that a reference names by id, identifier or name, or None."""
@@ -256,8 +365,11 @@ class Model:
         hits = [o for o in self.objects if any(o.get(key) == ref for key in keys)]
         return hits[0] if ref is not None and len(hits) == 1 else None
 
-    def check_object(self, where, one, declared):
+    def check_object(self, where, one, declared, startup):
+        """@param startup what the owner declares for a component of the type that it has declared"""
         type_ = one.get("type", declared)
+        if type_ != declared:
+            startup = self.types.prototype(type_)
         if not set(one) <= {"type", "name", "alias", "identifier", "id", "values", "added"}:
             self.findings.append(f"{where}: unknown keys {sorted(one)}")
         if type_ not in self.types.own or self.types.catalog.get(type_, "VYRCfdBase") not in self.known:
@@ -268,11 +380,23 @@ class Model:
             if name not in attributes:
                 self.findings.append(f'{where}: {type_} has no attribute "{name}"')
             elif name != "defaultManagement":
-                self.check_value(f"{where}.{name}", value, attributes[name])
+                self.check_value(f"{where}.{name}", value, attributes[name], startup.get(name))
         if self.types.derives(type_, "VYRCfdValues"):
-            self.check_flags(where, one, attributes)
+            self.check_flags(where, one, attributes, attributes)
+        elif self.types.derives(type_, CHOICE):
+            self.check_flags(where, one, attributes, ("value",))
+            self.check_choice(where, one.get("values", {}), startup)
 
-    def check_value(self, where, value, attribute):
+    def check_choice(self, where, values, startup):
+        """The lists of a model's Choice are those of its start-up unless it states its own."""
+        pairs = dict(pairs_of({**startup, **values}))
+        value = values.get("value", startup.get("value"))
+        if value not in pairs:
+            self.findings.append(f'{where}: "{value}" is none of the choices')
+        elif isinstance(values.get("Data"), dict) and values["Data"].get("type", "") != pairs[value]:
+            self.findings.append(f'{where}: the data object of "{value}" is of type "{pairs[value]}"')
+
+    def check_value(self, where, value, attribute, startup):
         kind = attribute["kind"]
         entries, kind = (value, attribute["of"]) if kind == "list" else ([value], kind)
         if not isinstance(entries, list):
@@ -281,7 +405,7 @@ class Model:
         for entry in entries:
             if kind == "component":
                 if isinstance(entry, dict):
-                    self.check_object(where, entry, attribute.get("type", ""))
+                    self.check_object(where, entry, attribute.get("type", ""), startup or {})
                 else:
                     self.findings.append(f"{where}: not an object")
             elif kind == "reference":
@@ -290,7 +414,7 @@ class Model:
             elif not value_fits(entry, kind, attribute):
                 self.findings.append(f"{where}: {json.dumps(entry)} is no value of kind {kind}")
 
-    def check_flags(self, where, one, attributes):
+    def check_flags(self, where, one, attributes, flagged):
         """What somebody wrote carries a set flag; components come with their owner and carry none."""
         values = one.get("values", {})
         flags = values.get("defaultManagement", {}).get("added", {})
@@ -300,7 +424,7 @@ class Model:
                     not isinstance(content.get("value"), bool):
                 self.findings.append(f'{where}: "{flag}" is no flag of an attribute')
         for name in values:
-            written = attributes.get(name, {}).get("kind", "component") != "component"
+            written = name in flagged and attributes[name].get("kind", "component") != "component"
             if written and flags.get(name + "_isset", {}).get("value") is not True:
                 self.findings.append(f'{where}: "{name}" has a value but no set flag')
 
@@ -355,6 +479,7 @@ class Place:
     objects: list = field(default_factory=list)  # (model, object)
     rows: list = None                            # per owner, the (model, object) entries of a list
     attribute: dict = None
+    startup: dict = field(default_factory=dict)  # of the object; of the owner for an attribute
 
 
 class Walk:
@@ -368,7 +493,7 @@ class Walk:
     def start(self, name, type_):
         objects = [(m, o) for m in self.models for o in m.objects if self.types.derives(o.get("type", ""), type_)]
         self.applied = {}  # path -> per application, the conditions it hangs on
-        self.visit(name, Place(type_, objects), "", [], [])
+        self.visit(name, Place(type_, objects, startup=self.types.prototype(type_)), "", [], [])
         for path, ways in self.applied.items():
             if any(not any(exclude_each_other(a, b) for a in one for b in two)
                    for one, two in itertools.combinations(ways, 2)):
@@ -390,8 +515,34 @@ class Walk:
                     self.findings.append(f'{where}: two defaults for "{item["path"]}"')
                 defaults.add(item["path"])
                 self.check_default_item(where, item, place)
+            elif kind == "choice":
+                self.check_choice_item(where, item, place)
             elif kind == "nested":
                 self.follow_nested(where, item, place, path, trail + [name], conditions)
+
+    def check_choice_item(self, where, item, place):
+        """The lists are written one after the other, with an update in between: a Choice item for startups gives the
+        declared lists, so that the update pairs them rightly. A manager takes some of the choices."""
+        if not self.types.derives(place.type, CHOICE):
+            self.findings.append(f"{where}: choices are for Choices")
+            return
+        choices, startups = tokens_of(item["choices"]), tokens_of(item.get("Startups", ""))
+        for entry in (item["choices"] + "," + item.get("Startups", "")).split(","):
+            if " " in entry.strip():
+                self.findings.append(f'{where}: blank inside "{entry.strip()}"')
+        given = startups if "Startups" in item else []
+        check_choice_lists(where, choices, given, item["default"], self.types, set(self.types.uses), self.findings)
+        declared = pairs_of(place.startup)
+        for choice in choices:
+            if choice not in dict(declared):
+                self.findings.append(f'{where}: "{choice}" is no declared choice')
+        has_data = any(startup for _, startup in declared)
+        if given and list(zip(choices, given)) != declared:
+            self.findings.append(f"{where}: choices and Startups are not those that are declared")
+        elif not given and not self.types.is_managed(place.type):
+            self.findings.append(f"{where}: without Startups, and {place.type} has no manager")
+        elif not given and has_data and len(choices) != len(declared):
+            self.findings.append(f"{where}: leaves out choices of a Choice with startups, which reports in between")
 
     def check_values_item(self, where, item, place):
         attribute = self.types.attributes(place.type).get(item["path"], {})
@@ -414,10 +565,15 @@ class Walk:
         if item["config"] not in self.configurations:
             self.findings.append(f'{where}: unknown configuration "{item["config"]}"')
             return
+        held = place
         if "condition" in item:
             self.check_condition(where, item["condition"], place)
             conditions = conditions + [(path, item["condition"])]
-        targets = [t for t in self.resolve(place, item["path"]) if t.type]
+            if self.types.derives(place.type, CHOICE):
+                pairs = holding(pairs_of(place.startup), item["condition"])
+                held = Place(place.type, place.objects, startup={
+                    **place.startup, "choices": [c for c, _ in pairs], "Startups": [s for _, s in pairs]})
+        targets = [t for t in self.resolve(held, item["path"]) if t.type]
         if "condition" in item:  # may lack its target here, as long as it has one somewhere
             key = (trail[-1], item["path"])
             self.led[key] = self.led.get(key, False) or bool(targets)
@@ -445,6 +601,11 @@ class Walk:
                     "string": operator in ("==", "=", "!=")}
             if not good.get(kind, False):
                 self.findings.append(f'{where}: condition "{text}" does not fit an attribute of kind {kind}')
+        for target in self.resolve(place, path):
+            is_value = target.attribute is not None and target.attribute["name"] == "value"
+            declared = pairs_of(target.startup) if is_value else []
+            if declared and right not in dict(declared):
+                self.findings.append(f'{where}: condition "{text}" compares with what is no choice')
 
     def resolve(self, place, path):
         places = [place]
@@ -456,19 +617,28 @@ class Walk:
         if place.rows is not None:
             return self.by_type([hit for row in place.rows for hit in self.find(row, name)])
         attribute = self.types.attributes(place.type).get(name) if place.type else None
+        if self.types.derives(place.type, CHOICE) and (attribute is None or name == "Data"):
+            return self.data_of(place, name)
         if attribute is None:
             return []
         kind, entry_kind = attribute["kind"], attribute.get("of")
         held = [(m, o["values"][name]) for m, o in place.objects if o.get("values", {}).get(name) is not None]
         if kind == "component":
-            return [Place(attribute["type"], held)]
+            return [Place(attribute["type"], held, startup=place.startup.get(name) or {})]
         if kind == "reference":
             return self.by_type([(m, m.target(value)) for m, value in held])
         if entry_kind == "component":
             return [Place(rows=[[(m, o) for o in value] for m, value in held])]
         if entry_kind == "reference":
             return [Place(rows=[[(m, m.target(o)) for o in value] for m, value in held])]
-        return [Place(attribute=attribute)]
+        return [Place(attribute=attribute, startup=place.startup)]
+
+    def data_of(self, place, name):
+        """The data object of a Choice, under "Data" or the name of the choice that it belongs to."""
+        types = dict.fromkeys(s for c, s in pairs_of(place.startup) if s and name in ("Data", c))
+        data = [(m, o["values"]["Data"]) for m, o in place.objects if o.get("values", {}).get("Data") is not None]
+        return [Place(type_, [(m, o) for m, o in data if o.get("type") == type_], startup=self.types.prototype(type_))
+                for type_ in types]
 
     @staticmethod
     def find(row, name):
@@ -480,13 +650,12 @@ class Walk:
                     return [entry]
         return [row[int(name) - 1]] if name.isdigit() and 1 <= int(name) <= len(row) else []
 
-    @staticmethod
-    def by_type(objects):
+    def by_type(self, objects):
         groups = {}
         for model, one in objects:
             if one is not None:
                 groups.setdefault(one.get("type", ""), []).append((model, one))
-        return [Place(type_, group) for type_, group in groups.items()]
+        return [Place(type_, group, startup=self.types.prototype(type_)) for type_, group in groups.items()]
 
 
 def check_configurations(documents, types, models, findings):
@@ -553,6 +722,14 @@ def type_of(documents, name):
     return next(t for f, d in documents.items() if f.startswith("catalogs/") for t in d["types"] if t["name"] == name)
 
 
+def declared(documents, name):
+    return type_of(documents, name)["startup"]
+
+
+def choice_item(documents, name):
+    return next(item for item in configuration_of(documents, name)["config"] if "choices" in item)
+
+
 def object_of(documents, model, name):
     return next(o for o in documents[f"models/{model}.model.json"]["objects"] if o["name"] == name)
 
@@ -584,7 +761,7 @@ BREAKS = [  # what is broken, what the finding must say
     (lambda d: item_of(d, "externalFlow", condition="dimension==3").pop("condition"), "configured twice"),
     (lambda d: configuration_of(d, "externalFlow")["config"].append({"path": "fluid", "config": "airProperties"}),
      "configured twice"),
-    (lambda d: item_of(d, "airProperties", path="sutherland").update(config="airProperties"), "cycle"),
+    (lambda d: item_of(d, "airViscosity", config="sutherlandAir").update(config="airViscosity"), "cycle"),
     (lambda d: configuration_of(d, "inlet").update(name="outlet"), "is defined before"),
     (lambda d: configuration_of(d, "outlet").update(name="outflow"), 'OutletCondition: unknown configuration "outlet"'),
     (lambda d: configuration_of(d, "inlet")["config"].append({"path": "massFlowRate", "type": "real", "default": "1"})
@@ -595,9 +772,9 @@ BREAKS = [  # what is broken, what the finding must say
     (lambda d: type_of(d, "FluidModel")["attributes"][1].update(name="gas/constant"), "bad attribute name"),
     (lambda d: type_of(d, "FluidModel").update(base="VYRCfdConfigItem"), "no default management"),
     (lambda d: type_of(d, "FluidModel").update(base="FreestreamConditions"), "is not known here"),
-    (lambda d: type_of(d, "SutherlandLaw")["attributes"].append(
-        {"name": "fluid", "kind": "component", "type": "FluidModel"}), "contains itself"),
-    (lambda d: type_of(d, "InternalFlowSolver")["startup"]["fluid"].update(viscosity=1), "start-up of unknown"),
+    (lambda d: type_of(d, "CflAdaptation")["attributes"].append(
+        {"name": "marching", "kind": "component", "type": "TimeMarching"}), "contains itself"),
+    (lambda d: type_of(d, "InternalFlowSolver")["startup"]["fluid"].update(viscosities=1), "start-up of unknown"),
     (lambda d: type_of(d, "ForceMonitor")["attributes"].append({"name": "surfaces", "kind": "string"}),
      "declared twice"),
     (lambda d: object_of(d, "externalFlow", "Solver.1")["values"].update(iterations=1.5), "no value of kind integer"),
@@ -611,6 +788,85 @@ BREAKS = [  # what is broken, what the finding must say
     (lambda d: object_of(d, "externalFlow", "FarField.1").update(type="InletCondition"), "not in the catalogs"),
     (lambda d: object_of(d, "externalFlow", "Mesh.1").update(id=1), "ids are numbers"),
     (lambda d: object_of(d, "internalFlow", "Wall.2").update(alias="Heater"), "leads to no object on any type"),
+    # Choices in catalogs
+    (lambda d: declared(d, "TurbulenceModelChoice")["choices"].pop(), "7 choices and 8 Startups"),
+    (lambda d: declared(d, "TurbulenceModelChoice")["choices"].__setitem__(1, "SST"), 'choice "SST" stands twice'),
+    (lambda d: declared(d, "TurbulenceModelChoice")["choices"].__setitem__(1, "S A"), 'choice "S A" is empty, or'),
+    (lambda d: declared(d, "TransitionModelChoice")["choices"].append(""), 'choice "" is empty, or'),
+    (lambda d: declared(d, "TransitionModelChoice")["choices"].append("A,B"), 'choice "A,B" is empty, or'),
+    (lambda d: declared(d, "TransitionModelChoice").update(Startups=["", "", ""]), "no choice has data"),
+    (lambda d: declared(d, "TransitionModelChoice").update(value="none"), '"none" is none of the choices'),
+    (lambda d: declared(d, "TransitionModelChoice").pop("display"), "without a display text"),
+    (lambda d: declared(d, "TransitionModelChoice").pop("choices"), "turbulence.transition: a Choice that declares no"),
+    (lambda d: declared(d, "TransitionModelChoice").update(choices="NONE"), "is no value of kind list"),
+    (lambda d: declared(d, "TransitionModelChoice").update(choices=[1]), "is no value of kind list"),
+    (lambda d: declared(d, "TransitionModelChoice").update(value=1), "is no value of kind string"),
+    (lambda d: declared(d, "TurbulenceModelChoice")["Startups"].__setitem__(1, "SpalartAlmaras"),
+     'startup "SpalartAlmaras" is no declared type'),
+    (lambda d: declared(d, "TurbulenceModelChoice")["Startups"].__setitem__(1, "InletEnergy"),
+     'startup "InletEnergy" is no declared type'),
+    (lambda d: declared(d, "TurbulenceModelChoice")["Startups"].__setitem__(1, "VYRCfdConfigItem"),
+     "so its data cannot be configured"),
+    (lambda d: type_of(d, "FluidModel").pop("startup"), "FluidModel.viscosity: a Choice that declares no choices"),
+    (lambda d: type_of(d, "InternalFlowSolver")["startup"]["fluid"]["viscosity"].update(value="WATER"),
+     'InternalFlowSolver.fluid.viscosity: "WATER" is none of the choices'),
+    (lambda d: type_of(d, "TransitionModelChoice").update(manager=False), '"manager" is true'),
+    (lambda d: type_of(d, "FluidModel").update(manager=True), '"manager" is true'),
+    # Choices in models
+    (lambda d: object_of(d, "internalFlow", "Solver.1")["values"]["linearSolver"]["values"].update(value="GMRES"),
+     '"GMRES" is none of the choices'),
+    (lambda d: object_of(d, "internalFlow", "Solver.1")["values"]["energy"]["values"].update(value="adiabatic"),
+     'the data object of "adiabatic" is of type "EnergyEquation"'),
+    (lambda d: object_of(d, "internalFlow", "Solver.1")["values"]["energy"]["values"]["Data"].pop("type"),
+     'type "" is not in the catalogs'),
+    (lambda d: object_of(d, "internalFlow", "Solver.1")["values"]["energy"]["values"].pop("defaultManagement"),
+     '"value" has a value but no set flag'),
+    (lambda d: object_of(d, "internalFlow", "Solver.1")["values"]["energy"]["values"]["Data"]["values"].update(
+        initialTemperature=300.0), "no set flag"),
+    # Choice items
+    (lambda d: choice_item(d, "turbulenceModel").update(choices="NONE, SA"), "2 choices and 8 Startups"),
+    (lambda d: choice_item(d, "turbulenceModel").update(Startups="NONE, SpalartAllmaras"), "8 choices and 2 Startups"),
+    (lambda d: choice_item(d, "energyEquation").update(choices="off, adiabatic, adiabatic"), "stands twice"),
+    (lambda d: choice_item(d, "energyEquation").update(choices="off, adiabatic, heatTransfer,"), 'choice "" is empty'),
+    (lambda d: choice_item(d, "energyEquation").update(choices="off, adiabatic, heat Transfer"),
+     'blank inside "heat Transfer"'),
+    (lambda d: choice_item(d, "energyEquation").update(Startups=", EnergyEquation, Heat Transfer"),
+     'blank inside "Heat Transfer"'),
+    (lambda d: choice_item(d, "energyEquation").update(Startups=", EnergyEquation, HeatTransport"),
+     'startup "HeatTransport" is no declared type'),
+    (lambda d: choice_item(d, "energyEquation").update(Startups=", HeatTransfer, EnergyEquation"),
+     "are not those that are declared"),
+    (lambda d: choice_item(d, "energyEquation").update(choices="off, heatTransfer, adiabatic"),
+     "are not those that are declared"),
+    (lambda d: choice_item(d, "energyEquation").update(choices="none, adiabatic, heatTransfer"),
+     '"none" is no declared choice'),
+    (lambda d: choice_item(d, "energyEquation").update(default="on"), '"on" is none of the choices'),
+    (lambda d: choice_item(d, "energyEquation").pop("default"), "no known kind of item"),
+    (lambda d: choice_item(d, "energyEquation").update(path="energy"), "no known kind of item"),
+    (lambda d: choice_item(d, "energyEquation").update(display=""), "does nothing"),
+    (lambda d: choice_item(d, "energyEquation").pop("Startups"), "and VYRCfdChoice has no manager"),
+    (lambda d: type_of(d, "TransitionModelChoice").pop("manager"), "and TransitionModelChoice has no manager"),
+    (lambda d: choice_item(d, "transportTransition").update(choices="NONE, LM, SM"), '"SM" is no declared choice'),
+    (lambda d: choice_item(d, "implicitLinearSolver").update(choices="FGMRES, BCGSTAB") or
+     choice_item(d, "implicitLinearSolver").pop("Startups"), "which reports in between"),
+    (lambda d: configuration_of(d, "adiabaticEnergy")["config"].append({"choices": "a, b", "default": "a"}),
+     "choices are for Choices"),
+    (lambda d: item_of(d, "energyEquation", config="heatTransfer").update(condition="value==heat"),
+     "compares with what is no choice"),
+    (lambda d: item_of(d, "externalFlow", condition="turbulence/model/value!=NONE").update(
+        condition="turbulence/model/value!=LAMINAR"), "compares with what is no choice"),
+    (lambda d: item_of(d, "energyEquation", config="heatTransfer").update(path="data"), "leads to no object on any"),
+    (lambda d: item_of(d, "energyEquation", config="heatTransfer").update(path="adiabatic"),
+     "leads to no object on any"),
+    (lambda d: item_of(d, "energyEquation", config="heatTransfer").update(condition="value==adiabatic"),
+     "configured twice"),
+    (lambda d: item_of(d, "turbulenceModel", condition="value==SA").update(config="shearStressTransport"),
+     '"a1" is no attribute that can have a default'),
+    (lambda d: item_of(d, "energyEquation", config="heatTransfer").pop("condition"),
+     '"thermalConductivity" is no attribute that can have a default'),
+    (lambda d: item_of(d, "energyEquation", config="heatTransfer").update(condition="value!=adiabatic") or
+     declared(d, "FlowSolver")["energy"]["Startups"].__setitem__(0, "EnergyEquation"),
+     '"thermalConductivity" is no attribute that can have a default'),
 ]
 
 
