@@ -1,6 +1,6 @@
 # What can be chosen at configure time, and what holds for every translation unit of the tree. The presets set these.
 
-option(VYRCFD_BUILD_TOOLS "Build the command-line tool; needs CLI11" ON)
+option(VYRCFD_BUILD_TOOLS "Build the command-line tool; needs CLI11 and GNU readline" ON)
 option(VYRCFD_BUILD_TESTS "Build the tests; needs GoogleTest and Python 3" ${PROJECT_IS_TOP_LEVEL})
 option(VYRCFD_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 set(VYRCFD_SANITIZE "" CACHE STRING "Sanitizers for the whole tree, as -fsanitize= takes them; clang")

@@ -16,6 +16,7 @@ is_there() {
         ninja-build) command -v ninja >/dev/null ;;
         rapidjson-dev) has_header rapidjson/document.h ;;
         libcli11-dev) has_header CLI/CLI.hpp ;;
+        libreadline-dev) has_header readline/readline.h && has_library libreadline.so ;;
         libgtest-dev) has_header gtest/gtest.h && has_library libgtest.a ;;
         libclang-rt-14-dev) command -v clang++ >/dev/null && [ -f "$(clang++ -print-runtime-dir)/libclang_rt.asan-$(uname -m).a" ] ;;
         binutils) command -v nm >/dev/null ;;
@@ -53,7 +54,7 @@ set_up() {
     fi
 }
 
-RUN_PACKAGES=(g++ cmake ninja-build ccache rapidjson-dev libcli11-dev)
+RUN_PACKAGES=(g++ cmake ninja-build ccache rapidjson-dev libcli11-dev libreadline-dev)
 TEST_PACKAGES=("${RUN_PACKAGES[@]}" libgtest-dev python3 binutils)
 SANITIZER_PACKAGES=(clang libclang-rt-14-dev)
 

@@ -98,10 +98,9 @@ const FailedRun FailedRunCases[] = {
      "error: No attribute unheardOf in VYRCfdObjectAccess::SetStrings, status 0x80004005\n"
      "failed call: specAccess[path].SetStrings(valuesList) in VYRCfdConfigurator::ApplyConfiguration, status "
      "0x80004005\n"},
-    {"ChoiceItem", "Case.1", "choosing",
+    {"ChoiceItemOnNoChoice", "Case.1", "choosing",
      "small.model.json: \"choosing\" failed on \"Case.1\"\n"
-     "error: Choice items are not supported yet: path scheme, default central in "
-     "VYRCfdConfigurator::ApplyConfiguration, status 0x80004005\n"},
+     "assertion: spChoice in VYRCfdConfigurator::ApplyConfiguration, status 0x80004005\n"},
     {"EmptyEntryOnTheWay", "Case.1", "intoGap",
      "small.model.json: \"intoGap\" failed on \"Case.1\", fatally: unexpected null pointer\n"},
 };

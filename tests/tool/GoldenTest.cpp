@@ -44,6 +44,12 @@ const Golden Cases[] = {
     {"show_json", "show.json", {"show", "small.model.json", "Case.1", "--json"}},
     {"apply_txt", "apply.txt", {"apply", "small.model.json", "Cavity", "cavity"}},
     {"apply_json", "apply.json", {"apply", "small.model.json", "Case.1", "cavity", "--json"}},
+    {"choice_show_txt", "choice_show.txt", {"show", "flow.model.json"}},
+    {"choice_show_json", "choice_show.json", {"show", "flow.model.json", "Flow.1/turbulence", "--json"}},
+    {"choice_apply_txt", "choice_apply.txt", {"apply", "flow.model.json", "Flow 3", "turbulent"}},
+    {"choice_apply_json",
+     "choice_apply.json",
+     {"apply", "flow.model.json", "Flow 3/turbulence", "bySpalart", "--json"}},
 };
 INSTANTIATE_TEST_SUITE_P(Answers, Goldens, testing::ValuesIn(Cases),
                          [](const auto& iInfo) { return iInfo.param.name; });

@@ -8,8 +8,8 @@
 
 #include "ToolTest.h"
 
-/// "small.model.json" and its catalog in the working folder, and an installation with its few configurations beside the
-/// sample's own.
+/// "small.model.json", "flow.model.json" with Choices, and their catalog in the working folder, and an installation
+/// with its few configurations beside the sample's own.
 class SmallTest : public ToolTest
 {
 protected:
@@ -20,6 +20,7 @@ protected:
     }
 
     static constexpr char Small[] = "small.model.json";
+    static constexpr char Flow[] = "flow.model.json";
 };
 
 #endif

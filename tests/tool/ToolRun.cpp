@@ -40,9 +40,9 @@ std::vector<char*> Pointers(const std::vector<std::string>& iTexts)
 }
 
 /// In the new process: nothing here allocates.
-void Redirect(int iDescriptor, const char* iFile)
+void Redirect(int iDescriptor, const char* iFile, int iMode = O_WRONLY | O_CREAT)
 {
-    const int file = open(iFile, O_WRONLY | O_CREAT, 0666);
+    const int file = open(iFile, iMode, 0666);
     if (file < 0 || dup2(file, iDescriptor) < 0)
         _exit(126);
 }
@@ -80,17 +80,36 @@ public:
 
     const char* Path() const { return m_path.c_str(); }
 
-    /// What is written to it, until the last writer has closed it.
-    std::string ReadAll() const
+    /// What is written to it, until the last writer has closed it. At each prompt the next text is typed.
+    std::string Converse(const std::vector<std::string>& iTyped) const
     {
+        constexpr char Prompt[] = "vyrcfd> ";
+        constexpr char EndOfInput[] = "\x04";
         std::string text;
+        std::size_t seen = 0;
+        std::size_t next = 0;
         char buffer[4096];
         for (ssize_t count = 0; (count = read(m_descriptor, buffer, sizeof(buffer))) > 0;)
+        {
             text.append(buffer, static_cast<std::size_t>(count));
+            // The prompt comes when the terminal has been set up for typing, and not before.
+            for (std::size_t at = 0; (at = text.find(Prompt, seen)) != std::string::npos;)
+            {
+                seen = at + sizeof(Prompt) - 1;
+                Type(next < iTyped.size() ? iTyped[next] : EndOfInput);
+                ++next;
+            }
+        }
         return text;
     }
 
 private:
+    void Type(const std::string& iKeys) const
+    {
+        if (write(m_descriptor, iKeys.data(), iKeys.size()) != static_cast<ssize_t>(iKeys.size()))
+            throw std::runtime_error("the terminal takes no keys");
+    }
+
     int m_descriptor;
     std::string m_path;
 };
@@ -100,11 +119,47 @@ std::string Read(const std::string& iFile)
     std::ifstream stream(iFile, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
+
+/// What the new process is to become.
+struct Start
+{
+    const ToolSettings& settings;
+    char* const* arguments;
+    char* const* environment;
+    const char* input;
+    const char* output;
+    const char* errors;
+    /// Descriptor of the terminal, -1 for none.
+    int terminal;
+};
+
+/// In the new process.
+[[noreturn]] void Become(const Start& iStart)
+{
+    if (chdir(iStart.settings.folder.c_str()) != 0)
+        _exit(126);
+    if (iStart.settings.typed.empty())
+        Redirect(STDIN_FILENO, iStart.input, O_RDONLY);
+    else
+        dup2(iStart.terminal, STDIN_FILENO);
+    if (iStart.settings.brokenPipe)
+        BreakPipe(STDOUT_FILENO);
+    else if (iStart.terminal >= 0)
+        dup2(iStart.terminal, STDOUT_FILENO);
+    else
+        Redirect(STDOUT_FILENO, iStart.output);
+    Redirect(STDERR_FILENO, iStart.errors);
+    if (iStart.settings.longestFile != 0)
+        LimitFiles(iStart.settings.longestFile);
+    execve(VYR_TOOL, iStart.arguments, iStart.environment);
+    _exit(127);
+}
 } // namespace
 
 ToolRun RunTool(const std::vector<std::string>& iArguments, const ToolSettings& iSettings)
 {
     const TemporaryFolder caught;
+    const std::string input = caught.Write("input", iSettings.input);
     const std::string output = iSettings.outputFile.empty() ? caught.Path("output") : iSettings.outputFile;
     const std::string errors = caught.Path("errors");
     std::vector<std::string> texts{VYR_TOOL};
@@ -114,33 +169,20 @@ ToolRun RunTool(const std::vector<std::string>& iArguments, const ToolSettings& 
     const std::vector<char*> environment = Pointers(variables);
 
     std::optional<Terminal> terminal;
-    if (iSettings.terminal)
+    if (iSettings.terminal || !iSettings.typed.empty())
         terminal.emplace();
     // The terminal ends when its last writer does, so one has to be there before the first read.
-    const int writer = terminal ? open(terminal->Path(), O_WRONLY | O_NOCTTY | O_CLOEXEC) : -1;
+    const int writer = terminal ? open(terminal->Path(), O_RDWR | O_NOCTTY | O_CLOEXEC) : -1;
 
     const pid_t child = fork();
     if (child < 0)
         throw std::runtime_error("fork failed");
     if (child == 0)
-    {
-        if (chdir(iSettings.folder.c_str()) != 0)
-            _exit(126);
-        if (iSettings.brokenPipe)
-            BreakPipe(STDOUT_FILENO);
-        else if (terminal)
-            dup2(writer, STDOUT_FILENO);
-        else
-            Redirect(STDOUT_FILENO, output.c_str());
-        Redirect(STDERR_FILENO, errors.c_str());
-        if (iSettings.longestFile != 0)
-            LimitFiles(iSettings.longestFile);
-        execve(VYR_TOOL, arguments.data(), environment.data());
-        _exit(127);
-    }
+        Become(
+            {iSettings, arguments.data(), environment.data(), input.c_str(), output.c_str(), errors.c_str(), writer});
     if (writer >= 0)
         close(writer);
-    const std::string shown = terminal ? terminal->ReadAll() : std::string();
+    const std::string shown = terminal ? terminal->Converse(iSettings.typed) : std::string();
     int state = 0;
     if (waitpid(child, &state, 0) != child)
         throw std::runtime_error("waitpid failed");

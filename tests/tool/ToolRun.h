@@ -33,6 +33,11 @@ struct ToolSettings
     bool brokenPipe = false;
     /// Standard output is a terminal, which is read.
     bool terminal = false;
+    /// What stands on standard input.
+    std::string input;
+    /// Keys that somebody types: standard input and standard output are a terminal, and each text is typed at a prompt,
+    /// one after the other. At a prompt for which nothing is left, Ctrl-D is.
+    std::vector<std::string> typed;
     /// No file may become longer; 0 for any length.
     unsigned long longestFile = 0;
 };

@@ -39,7 +39,7 @@ std::map<std::string, std::string> ToolTest::Files() const
 
 void ToolTest::AddSmallModel() const
 {
-    for (const char* name : {"Small.catalog.json", "small.model.json"})
+    for (const char* name : {"Small.catalog.json", "small.model.json", "flow.model.json"})
         Write(name, ReadData(name));
 }
 

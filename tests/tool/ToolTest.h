@@ -33,7 +33,7 @@ protected:
     std::string Read(const std::string& iName) const { return m_folder.Read(iName); }
     void Write(const std::string& iName, const std::string& iText) const { m_folder.Write(iName, iText); }
 
-    /// A small catalog and model from the area's data, in the folder.
+    /// A small catalog and its models from the area's data, in the folder.
     void AddSmallModel() const;
 
     static constexpr char External[] = "samples/models/externalFlow.model.json";

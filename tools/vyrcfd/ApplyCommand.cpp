@@ -1,16 +1,13 @@
-#include <algorithm>
 #include <memory>
 
 #include "ApplyText.h"
 #include "Command.h"
 #include "ConfigurationFiles.h"
+#include "Configuring.h"
 #include "Failure.h"
 #include "ObjectPath.h"
 #include "Output.h"
 #include "Reports.h"
-#include "VYRCfdConfigurator.h"
-#include "VYRIMpaDefaultManagementProtected.h"
-#include "Wording.h"
 
 namespace Tool
 {
@@ -24,53 +21,20 @@ struct ApplyArguments
     std::string output;
 };
 
-ORXISpecObject_var FollowToObject(const VYRStandalone::Model& iModel, const ApplyArguments& iArguments)
+/// What a failure leaves with the error service goes with it.
+bool ConfigureOrTell(const ORXISpecObject_var& iObject, const Configuring& iConfiguring)
 {
-    Target target = FollowPath(iModel, iArguments.model, iArguments.object);
-    if (!target.attribute.empty())
-        throw Failure(OneLine(iArguments.model) + ": " + Quoted(iArguments.object) + " is an attribute, no object");
-    return target.object;
-}
-
-/// Why a configuration could not be applied, in one line.
-std::string Why(const ApplyArguments& iArguments, const ORXISpecObject_var& iObject,
-                const std::vector<std::string>& iConfigurations)
-{
-    const std::string& name = iArguments.configuration;
-    if (std::find(iConfigurations.begin(), iConfigurations.end(), name) == iConfigurations.end())
-        return "vyrcfd: no configuration " + Quoted(name) + DidYouMean(name, iConfigurations);
-    if (!VYRIMpaDefaultManagementProtected_var(iObject))
-        return OneLine(iArguments.model) + ": " + Quoted(iArguments.object) +
-               " has no default management, and cannot be configured";
-    return OneLine(iArguments.model) + ": " + Quoted(name) + " failed on " + Quoted(iArguments.object);
-}
-
-/// The line, and what the error service holds.
-[[noreturn]] void Fail(std::string iLine)
-{
-    for (const std::string& report : TakeReportLines())
-        iLine += "\n" + report;
-    throw Failure(iLine);
-}
-
-/// @return a status that is no failure
-long Configure(const ApplyArguments& iArguments, const ORXISpecObject_var& iObject,
-               const std::vector<std::string>& iConfigurations)
-{
-    const ORXUnicodeString name(iArguments.configuration.data(), iArguments.configuration.size());
-    long status = E_FAIL;
     try
     {
-        status = VYRCfdConfigurator::GetConfigurator()->ApplyConfiguration(iObject, name);
+        return Configure(iObject, iConfiguring);
     }
-    catch (const std::logic_error& fatal)
+    catch (const Failure& failure)
     {
-        // Where the application would have ended, as on a path through a list with an empty entry.
-        Fail(Why(iArguments, iObject, iConfigurations) + ", fatally: " + OneLine(fatal.what()));
+        std::string text = failure.what();
+        for (const std::string& report : TakeReportLines())
+            text += "\n" + report;
+        throw Failure(text);
     }
-    if (status < 0)
-        Fail(Why(iArguments, iObject, iConfigurations));
-    return status;
 }
 
 void Apply(const CommonOptions& iOptions, const ApplyArguments& iArguments)
@@ -78,10 +42,11 @@ void Apply(const CommonOptions& iOptions, const ApplyArguments& iArguments)
     const Installation installation(iOptions);
     const std::vector<std::string> configurations = ConfigurationNames(ReadConfigurationFiles(installation));
     const VYRStandalone::Model model = installation.LoadModel(iArguments.model);
-    const ORXISpecObject_var spObject = FollowToObject(model, iArguments);
+    const ORXISpecObject_var spObject = FollowToObject(model, iArguments.model, iArguments.object);
 
     const Snapshot before = TakeSnapshot(model);
-    const long status = Configure(iArguments, spObject, configurations);
+    const bool isDone =
+        ConfigureOrTell(spObject, {iArguments.model, iArguments.object, iArguments.configuration, configurations});
     const std::vector<std::string> reports = TakeReportLines();
 
     const Snapshot after = TakeSnapshot(model);
@@ -91,8 +56,7 @@ void Apply(const CommonOptions& iOptions, const ApplyArguments& iArguments)
         model.Save(iArguments.output);
     for (const std::string& report : reports)
         PrintError("note: " + report);
-    const Application application{iArguments.configuration, iArguments.object, status != S_FALSE, iArguments.output,
-                                  reports};
+    const Application application{iArguments.configuration, iArguments.object, isDone, iArguments.output, reports};
     Print(iOptions.json ? ApplyJson(application, difference) : ApplyText(application, difference));
 }
 } // namespace
@@ -115,11 +79,12 @@ void AddApplyCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
         std::string(ObjectPathHelp) +
         "\n\nThe exit status is that of this application: a nested configuration that fails stops nothing, "
         "and its reports\nare notes on standard error. Nothing is written when the run failed.\n"
-        "With --json: {\"configuration\", \"object\", \"done\", \"objects\": [{\"path\", \"type\", "
-        "\"change\", \"attributes\":\n{NAME: {\"kind\", \"before\", \"after\"}}, \"newRecords\", "
-        "\"goneRecords\", \"remadeRecords\"}], \"unreferencedRecords\",\n\"notes\", \"savedTo\"}; \"before\" "
-        "and \"after\" are {\"value\", \"set\", \"auto\"}. \"done\" is false for a configuration\nwithout "
-        "items.");
+        "A data object that a Choice has replaced stands with its old type (-) and its new one (+).\n"
+        "With --json: {\"configuration\", \"object\", \"done\", \"objects\": [{\"path\", \"type\", \"change\", "
+        "\"oldType\",\n\"attributes\": {NAME: {\"kind\", \"before\", \"after\"}}, \"newRecords\", \"goneRecords\", "
+        "\"remadeRecords\"}],\n\"unreferencedRecords\", \"notes\", \"savedTo\"}; \"before\" and \"after\" are "
+        "{\"value\", \"set\", \"auto\"}. \"change\" is\n\"changed\", \"new\", \"gone\" or \"replaced\", and only "
+        "then there is \"oldType\". \"done\" is false for a configuration\nwithout items.");
     command->callback(
         [&ioOptions, &oJob, arguments] { oJob = [&ioOptions, arguments] { Apply(ioOptions, *arguments); }; });
 }

@@ -52,15 +52,25 @@ std::string AttributeText(const AttributeChange& iChange, const Colours& iColour
     return OneLine(iChange.after->info.name) + ": " + Joined(parts);
 }
 
-std::string ObjectText(const ObjectChange& iChange, const Colours& iColours)
+/// The path, and what has become of the object there.
+std::string HeadingText(const ObjectChange& iChange, const Colours& iColours)
 {
     const ObjectSnapshot& object = *iChange.object;
-    std::string text = iColours.Heading(OneLine(object.path)) + "  " + OneLine(object.type);
-    if (iChange.isNew)
-        text += iColours.Added("  new");
-    if (iChange.isGone)
-        text += iColours.Removed("  gone");
-    text += "\n";
+    const std::string path = iColours.Heading(OneLine(object.path));
+    const std::string type = OneLine(object.type);
+    if (iChange.replaced != nullptr && iChange.replaced->type != object.type)
+        return path + "\n" + Indent + iColours.Removed("- " + OneLine(iChange.replaced->type)) + "\n" + Indent +
+               iColours.Added("+ " + type) + "\n";
+    const std::string fate = iChange.replaced != nullptr ? iColours.Added("  made anew")
+                             : iChange.isNew             ? iColours.Added("  new")
+                             : iChange.isGone            ? iColours.Removed("  gone")
+                                                         : "";
+    return path + "  " + type + fate + "\n";
+}
+
+std::string ObjectText(const ObjectChange& iChange, const Colours& iColours)
+{
+    std::string text = HeadingText(iChange, iColours);
     for (const AttributeChange& attribute : iChange.attributes)
         text += Indent + AttributeText(attribute, iColours) + "\n";
     for (const RecordSnapshot* record : iChange.goneRecords)
@@ -75,13 +85,23 @@ std::string ObjectText(const ObjectChange& iChange, const Colours& iColours)
 std::string SummaryText(const Application& iApplication, const Difference& iDifference)
 {
     std::size_t fresh = 0;
+    std::size_t replaced = 0;
+    std::size_t gone = 0;
     for (const ObjectChange& change : iDifference.objects)
+    {
         fresh += change.isNew ? 1 : 0;
+        replaced += change.replaced != nullptr ? 1 : 0;
+        gone += change.isGone ? 1 : 0;
+    }
     std::string text = Quoted(iApplication.configuration) + " on " + OneLine(iApplication.object) + ": " +
                        Counted(iDifference.ChangedAttributes(), "attribute") + " changed, " +
                        Counted(iDifference.NewRecords(), "record") + " made";
     if (fresh != 0)
         text += ", " + Counted(fresh, "object") + " made";
+    if (replaced != 0)
+        text += ", " + Counted(replaced, "object") + " replaced";
+    if (gone != 0)
+        text += ", " + Counted(gone, "object") + " gone";
     if (iDifference.unreferencedRecords > 0)
         text += ", " + Counted(static_cast<std::size_t>(iDifference.unreferencedRecords), "record") +
                 " left that nothing refers to";
@@ -128,12 +148,21 @@ void WriteRecords(JsonWriter& oWriter, const char* iKey, const std::vector<const
     oWriter.EndArray();
 }
 
+const char* FateText(const ObjectChange& iChange)
+{
+    if (iChange.replaced != nullptr)
+        return "replaced";
+    return iChange.isNew ? "new" : iChange.isGone ? "gone" : "changed";
+}
+
 void WriteObject(JsonWriter& oWriter, const ObjectChange& iChange)
 {
     oWriter.StartObject();
     WriteMember(oWriter, "path", iChange.object->path);
     WriteMember(oWriter, "type", iChange.object->type);
-    WriteMember(oWriter, "change", iChange.isNew ? "new" : iChange.isGone ? "gone" : "changed");
+    WriteMember(oWriter, "change", FateText(iChange));
+    if (iChange.replaced != nullptr)
+        WriteMember(oWriter, "oldType", iChange.replaced->type);
     WriteKey(oWriter, "attributes");
     oWriter.StartObject();
     for (const AttributeChange& attribute : iChange.attributes)
@@ -155,15 +184,20 @@ void WriteObject(JsonWriter& oWriter, const ObjectChange& iChange)
 }
 } // namespace
 
-std::string ApplyText(const Application& iApplication, const Difference& iDifference)
+std::string DifferenceText(const Difference& iDifference)
 {
-    if (!iApplication.isDone)
-        return "Nothing done: " + Quoted(iApplication.configuration) + " has no items.\n";
     const Colours colours;
     std::string text;
     for (const ObjectChange& change : iDifference.objects)
         text += ObjectText(change, colours);
-    return text + SummaryText(iApplication, iDifference);
+    return text;
+}
+
+std::string ApplyText(const Application& iApplication, const Difference& iDifference)
+{
+    if (!iApplication.isDone)
+        return "Nothing done: " + Quoted(iApplication.configuration) + " has no items.\n";
+    return DifferenceText(iDifference) + SummaryText(iApplication, iDifference);
 }
 
 std::string ApplyJson(const Application& iApplication, const Difference& iDifference)

@@ -25,6 +25,9 @@ struct Application
     std::vector<std::string> notes;
 };
 
+/// What has changed, object by object; empty for nothing.
+std::string DifferenceText(const Difference& iDifference);
+
 std::string ApplyText(const Application& iApplication, const Difference& iDifference);
 std::string ApplyJson(const Application& iApplication, const Difference& iDifference);
 } // namespace Tool

@@ -24,6 +24,7 @@ void AddCommonOptions(CLI::App& ioApp, CommonOptions& ioOptions);
 void AddApplyCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
 void AddShowCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
 void AddListCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
+void AddShellCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
 } // namespace Tool
 
 #endif

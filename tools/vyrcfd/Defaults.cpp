@@ -27,6 +27,18 @@ AttributeDefault DefaultOf(const ORXISpecObject_var& iObject, const AttributeSna
     return {value, value.IsUnset() ? DefaultOrigin::None : DefaultOrigin::Startup};
 }
 
+std::string AttributeDefault::Shown() const
+{
+    return value.Shown() + " (" + OriginText(origin) + ")";
+}
+
+AskDefault AskDefaultManagement()
+{
+    return [](const ObjectSnapshot& iObject, const AttributeSnapshot& iAttribute) {
+        return DefaultOf(iObject.object, iAttribute);
+    };
+}
+
 const char* SourceText(const AttributeSnapshot& iAttribute, const AttributeDefault& iDefault)
 {
     if (iAttribute.set.value_or(false))

@@ -6,6 +6,8 @@
  * Defaults of attributes, and where values come from.
  */
 
+#include <functional>
+
 #include "Snapshot.h"
 
 namespace Tool
@@ -23,11 +25,20 @@ struct AttributeDefault
 {
     Value value;
     DefaultOrigin origin = DefaultOrigin::None;
+
+    /// Such as `0.7 (start-up)`.
+    std::string Shown() const;
 };
+
+/// Gives the default of an attribute of an object.
+using AskDefault = std::function<AttributeDefault(const ObjectSnapshot&, const AttributeSnapshot&)>;
 
 /// Asks default management, which remembers the answer, and reports where it has none: to be used on a model that
 /// nobody saves, and whose reports nobody reads.
 AttributeDefault DefaultOf(const ORXISpecObject_var& iObject, const AttributeSnapshot& iAttribute);
+
+/// Answers so for a model that nobody saves.
+AskDefault AskDefaultManagement();
 
 /**
  * "set" for an attribute that was set; otherwise what the value came from, if the value is what that gives: "custom

@@ -10,6 +10,7 @@ namespace Tool
 namespace
 {
 using ByObject = std::unordered_map<ORXBaseUnknown*, const ObjectSnapshot*>;
+using ByPlace = std::unordered_map<std::string, const ObjectSnapshot*>;
 using Records = std::vector<const RecordSnapshot*>;
 
 /// Records that no object refers to are counted, not told one by one.
@@ -107,11 +108,57 @@ void CompareRecords(const ObjectSnapshot& iBefore, const ObjectSnapshot& iAfter,
             return iOld.Shown() == iNew.Shown() && iOld.Text("type") == iNew.Text("type");
         });
 }
+
+/// What is not there any more, by where it stood.
+ByPlace PlacesOfGone(const Snapshot& iBefore, const ByObject& iAfter)
+{
+    ByPlace places;
+    for (const ObjectSnapshot& object : iBefore)
+        if (!IsUnreferenced(object) && iAfter.count(object.object->GetImpl(0)) == 0)
+            places.try_emplace(object.path, &object);
+    return places;
+}
+
+/// What stood at a place; null for nothing.
+const ObjectSnapshot* Take(ByPlace& ioPlaces, const std::string& iPath)
+{
+    const auto found = ioPlaces.find(iPath);
+    if (found == ioPlaces.end())
+        return nullptr;
+    const ObjectSnapshot* const object = found->second;
+    ioPlaces.erase(found);
+    return object;
+}
+
+ObjectChange ChangeOf(const ObjectSnapshot& iBefore, const ObjectSnapshot& iAfter)
+{
+    ObjectChange change;
+    change.object = &iAfter;
+    change.attributes = CompareAttributes(iBefore, iAfter);
+    CompareRecords(iBefore, iAfter, change);
+    return change;
+}
+
+/// @param iReplaced what stood at the object's place before; null for nothing
+ObjectChange ChangeOfNew(const ObjectSnapshot& iObject, const ObjectSnapshot* iReplaced)
+{
+    ObjectChange change;
+    // Attributes of different types do not tell of each other.
+    if (iReplaced != nullptr && iReplaced->type == iObject.type)
+        change = ChangeOf(*iReplaced, iObject);
+    else
+        CompareRecords({}, iObject, change);
+    change.object = &iObject;
+    change.replaced = iReplaced;
+    change.isNew = iReplaced == nullptr;
+    return change;
+}
 } // namespace
 
 bool ObjectChange::IsEmpty() const
 {
-    return !isNew && !isGone && attributes.empty() && newRecords.empty() && goneRecords.empty() && remadeRecords == 0;
+    return !isNew && !isGone && replaced == nullptr && attributes.empty() && newRecords.empty() &&
+           goneRecords.empty() && remadeRecords == 0;
 }
 
 std::size_t Difference::ChangedAttributes() const
@@ -135,7 +182,7 @@ Difference Compare(const Snapshot& iBefore, const Snapshot& iAfter)
     Difference difference;
     const ByObject before = Index(iBefore);
     const ByObject after = Index(iAfter);
-    const ObjectSnapshot nothing;
+    ByPlace gonePlaces = PlacesOfGone(iBefore, after);
     for (const ObjectSnapshot& object : iAfter)
     {
         if (IsUnreferenced(object))
@@ -144,11 +191,8 @@ Difference Compare(const Snapshot& iBefore, const Snapshot& iAfter)
             continue;
         }
         const auto old = before.find(object.object->GetImpl(0));
-        ObjectChange change;
-        change.object = &object;
-        change.isNew = old == before.end();
-        change.attributes = change.isNew ? std::vector<AttributeChange>() : CompareAttributes(*old->second, object);
-        CompareRecords(change.isNew ? nothing : *old->second, object, change);
+        ObjectChange change =
+            old != before.end() ? ChangeOf(*old->second, object) : ChangeOfNew(object, Take(gonePlaces, object.path));
         if (!change.IsEmpty())
             difference.objects.push_back(std::move(change));
     }
@@ -156,7 +200,7 @@ Difference Compare(const Snapshot& iBefore, const Snapshot& iAfter)
     {
         if (IsUnreferenced(object))
             --difference.unreferencedRecords;
-        else if (after.count(object.object->GetImpl(0)) == 0)
+        else if (const auto gone = gonePlaces.find(object.path); gone != gonePlaces.end() && gone->second == &object)
         {
             ObjectChange change;
             change.object = &object;

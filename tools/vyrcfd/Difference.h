@@ -23,6 +23,9 @@ struct ObjectChange
     const ObjectSnapshot* object = nullptr;
     bool isNew = false;
     bool isGone = false;
+    /// The object that stood at this place before, where there was one; then the object is not new.
+    const ObjectSnapshot* replaced = nullptr;
+    /// Of the object, also against one of the same type that it has replaced.
     std::vector<AttributeChange> attributes;
     std::vector<const RecordSnapshot*> newRecords;
     std::vector<const RecordSnapshot*> goneRecords;

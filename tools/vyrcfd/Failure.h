@@ -16,6 +16,13 @@ class Failure : public std::runtime_error
 public:
     using std::runtime_error::runtime_error;
 };
+
+/// Standard output takes no more, so that there is no point in going on.
+class OutputFailure : public Failure
+{
+public:
+    using Failure::Failure;
+};
 } // namespace Tool
 
 #endif

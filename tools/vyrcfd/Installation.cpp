@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <sstream>
 
+#include "ChoiceManager.h"
 #include "Failure.h"
 #include "ORXEnvironment.h"
 #include "VYRStandaloneCatalog.h"
@@ -44,6 +45,9 @@ VYRStandalone::Model Installation::LoadModel(const std::string& iFile) const
 {
     for (const std::string& catalog : m_catalogs)
         VYRStandalone::LoadCatalog(catalog, m_catalogFolders);
-    return VYRStandalone::Model::Load(iFile, m_catalogFolders);
+    VYRStandalone::Model model = VYRStandalone::Model::Load(iFile, m_catalogFolders);
+    // Now that all types are declared, and before anything is asked of an object.
+    ChoiceManager::Register();
+    return model;
 }
 } // namespace Tool

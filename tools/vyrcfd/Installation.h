@@ -35,7 +35,7 @@ public:
     const std::string& Path() const noexcept { return m_path; }
 
     /// The catalogs of the options are declared, and those that the model names are sought beside it and in the
-    /// installation. @throws VYRStandalone::DocumentError
+    /// installation. Types that ask for a manager of Choices get the tool's. @throws VYRStandalone::DocumentError
     VYRStandalone::Model LoadModel(const std::string& iFile) const;
 
 private:

@@ -1,8 +1,11 @@
 #include "ObjectPath.h"
 
+#include <algorithm>
+
 #include "Failure.h"
 #include "ListNames.h"
 #include "VYRCfdObjectAccess.h"
+#include "VYRStandaloneCatalog.h"
 #include "Wording.h"
 
 namespace Tool
@@ -25,9 +28,21 @@ std::vector<std::string> KnownNames(const VYRStandalone::Model& iModel)
     return names;
 }
 
+[[noreturn]] void Fail(const std::string& iFile, const std::string& iMessage)
+{
+    throw Failure((iFile.empty() ? "" : OneLine(iFile) + ": ") + iMessage);
+}
+
 [[noreturn]] void FailNowhere(const std::string& iFile, const std::string& iPath, const std::string& iWhy)
 {
-    throw Failure(OneLine(iFile) + ": " + Quoted(iPath) + " leads nowhere: " + OneLine(iWhy));
+    Fail(iFile, Quoted(iPath) + " leads nowhere: " + OneLine(iWhy));
+}
+
+bool HasAttribute(const ORXISpecObject_var& iObject, const std::string& iName)
+{
+    const std::vector<VYRStandalone::AttributeInfo> attributes = VYRStandalone::Attributes(iObject);
+    return std::any_of(attributes.begin(), attributes.end(),
+                       [&](const VYRStandalone::AttributeInfo& iOne) { return iOne.name == iName; });
 }
 
 VYRCfdObjectAccess Walk(const ORXISpecObject_var& iObject, const ORXUnicodeString& iRest, const std::string& iFile,
@@ -52,8 +67,7 @@ Target FollowPath(const VYRStandalone::Model& iModel, const std::string& iFile, 
     VYRCfdObjectAccess::SplitPath(ORXUnicodeString(iPath.data(), iPath.size()), head, rest);
     const ORXISpecObject_var spObject = head.IsEmpty() ? ORXISpecObject_var() : iModel.Find(head);
     if (!spObject)
-        throw Failure(OneLine(iFile) + ": no top-level object " + Quoted(head.View()) +
-                      DidYouMean(head.View(), KnownNames(iModel)));
+        Fail(iFile, "no top-level object " + Quoted(head.View()) + DidYouMean(head.View(), KnownNames(iModel)));
 
     const VYRCfdObjectAccess access = Walk(spObject, rest, iFile, iPath);
     if (access.HasError())
@@ -63,5 +77,28 @@ Target FollowPath(const VYRStandalone::Model& iModel, const std::string& iFile, 
         FailNowhere(iFile, iPath, "there is no object");
     // Only an object has a type; at an attribute the name is the attribute's.
     return {spTarget, access.GetType().IsEmpty() ? TextOf(access.GetName()) : std::string()};
+}
+ORXISpecObject_var FollowToObject(const VYRStandalone::Model& iModel, const std::string& iFile,
+                                  const std::string& iPath)
+{
+    const Target target = FollowPath(iModel, iFile, iPath);
+    if (!target.attribute.empty())
+        Fail(iFile, Quoted(iPath) + " is an attribute, no object");
+    return target.object;
+}
+
+Target FollowToAttribute(const VYRStandalone::Model& iModel, const std::string& iFile, const std::string& iPath)
+{
+    const std::size_t slash = iPath.rfind('/');
+    if (slash != std::string::npos)
+    {
+        const Target owner = FollowPath(iModel, iFile, iPath.substr(0, slash));
+        const std::string name = iPath.substr(slash + 1);
+        if (owner.attribute.empty() && HasAttribute(owner.object, name))
+            return {owner.object, name};
+    }
+    // Leads nowhere, or past the attributes: to an entry of a list, or through a Choice.
+    FollowPath(iModel, iFile, iPath);
+    Fail(iFile, Quoted(iPath) + " is an object, no attribute");
 }
 } // namespace Tool

@@ -3,7 +3,7 @@
 
 /**
  * @file
- * Objects as the command line names them.
+ * Objects and attributes as the user names them.
  */
 
 #include <string>
@@ -23,10 +23,18 @@ struct Target
 
 /**
  * Follows a path: a top-level object by a meaning of its name, up to the first "/", and a cursor path from there.
- * @param iFile the model's file, for messages
+ * @param iFile the model's file, for messages; empty where the reader knows it
  * @throws Failure when it leads nowhere
  */
 Target FollowPath(const VYRStandalone::Model& iModel, const std::string& iFile, const std::string& iPath);
+
+/// The same, to an object. @throws Failure also at an attribute
+ORXISpecObject_var FollowToObject(const VYRStandalone::Model& iModel, const std::string& iFile,
+                                  const std::string& iPath);
+
+/// The same, to the attribute that the last name of the path means, of whatever kind: an object that it holds is not
+/// followed. @throws Failure also where there is only an object
+Target FollowToAttribute(const VYRStandalone::Model& iModel, const std::string& iFile, const std::string& iPath);
 
 /// What --help says of such a path.
 extern const char ObjectPathHelp[];

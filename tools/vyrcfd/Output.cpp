@@ -14,7 +14,7 @@ void Print(const std::string& iText)
 {
     errno = 0;
     if (std::fwrite(iText.data(), 1, iText.size(), stdout) != iText.size() || std::fflush(stdout) != 0)
-        throw Failure("vyrcfd: standard output: cannot be written: " + std::generic_category().message(errno));
+        throw OutputFailure("vyrcfd: standard output: cannot be written: " + std::generic_category().message(errno));
 }
 
 void PrintError(const std::string& iLine)

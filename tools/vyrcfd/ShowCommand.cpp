@@ -1,8 +1,7 @@
 #include <memory>
 
-#include "AttributeReader.h"
+#include "ChoiceView.h"
 #include "Command.h"
-#include "Defaults.h"
 #include "JsonWriter.h"
 #include "ObjectPath.h"
 #include "Output.h"
@@ -39,7 +38,8 @@ void WriteAttribute(JsonWriter& oWriter, const ORXISpecObject_var& iObject, cons
 }
 
 void WriteObject(JsonWriter& oWriter, const ORXISpecObject_var& iObject, const std::string& iPath,
-                 const std::string& iType, const std::vector<AttributeSnapshot>& iAttributes)
+                 const std::string& iType, const std::vector<AttributeSnapshot>& iAttributes,
+                 const std::optional<ChoiceView>& iChoice = std::nullopt)
 {
     oWriter.StartObject();
     WriteMember(oWriter, "path", iPath);
@@ -49,6 +49,11 @@ void WriteObject(JsonWriter& oWriter, const ORXISpecObject_var& iObject, const s
     for (const AttributeSnapshot& attribute : iAttributes)
         WriteAttribute(oWriter, iObject, attribute);
     oWriter.EndObject();
+    if (iChoice)
+    {
+        WriteKey(oWriter, "choice");
+        WriteChoice(oWriter, *iChoice);
+    }
     oWriter.EndObject();
 }
 
@@ -61,7 +66,8 @@ std::string ShowJson(const Snapshot& iSnapshot)
         oWriter.StartArray();
         for (const ObjectSnapshot& object : iSnapshot)
         {
-            WriteObject(oWriter, object.object, object.path, object.type, object.attributes);
+            WriteObject(oWriter, object.object, object.path, object.type, object.attributes,
+                        ChoiceViewOf(object, AskDefaultManagement()));
             if (!object.otherFlags.empty())
                 WriteObject(oWriter, {}, object.path + "/defaultManagement", "VYRCfdDefaultManagement",
                             object.otherFlags);
@@ -92,7 +98,7 @@ void Show(const CommonOptions& iOptions, const ShowArguments& iArguments)
         const Target target = FollowPath(model, iArguments.model, iArguments.path);
         snapshot = TakeSnapshot(model, target.object, iArguments.path, target.attribute);
     }
-    Print(iOptions.json ? ShowJson(snapshot) : ShowText(snapshot));
+    Print(iOptions.json ? ShowJson(snapshot) : ShowText(snapshot, AskDefaultManagement()));
 }
 } // namespace
 
@@ -108,11 +114,14 @@ void AddShowCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
                     "\n\nNothing is changed. An attribute without value is (unset), which is something else than \"\"; "
                     "an object attribute\nor list entry without object is (empty). A default stands with what it comes "
                     "from: a custom default, a record\nthat a configuration has left, or the start-up of the feature "
-                    "type.\n"
+                    "type. Of a Choice the selected value is marked with \">\", and the feature type of the data "
+                    "object that\ncomes with a choice stands beside it.\n"
                     "With --json: {\"objects\": [{\"path\", \"type\", \"attributes\": {NAME: {\"kind\", \"value\", "
                     "\"set\", \"auto\",\n\"default\", \"source\"}}}]}, owners first; null for no value, no flag, no "
                     "default. \"source\" says where the value\ncomes from: \"set\", \"custom default\", \"record\", "
-                    "\"start-up\", or \"none\" when none of these gives it.");
+                    "\"start-up\", or \"none\" when none of these gives it. A Choice has a "
+                    "member\n\"choice\" beside \"attributes\": {\"value\", \"choices\", \"startups\", \"display\", "
+                    "\"default\", \"data\"}, where \"data\"\nis the path of its data object.");
     command->callback(
         [&ioOptions, &oJob, arguments] { oJob = [&ioOptions, arguments] { Show(ioOptions, *arguments); }; });
 }

@@ -1,19 +1,16 @@
 #include "ShowText.h"
 
-#include <array>
-
-#include "Defaults.h"
+#include "ChoiceView.h"
 #include "ORXTypeCode.h"
 #include "Output.h"
+#include "Table.h"
 #include "Wording.h"
 
 namespace Tool
 {
 namespace
 {
-constexpr std::size_t IndentStep = 4;
-
-using Row = std::array<std::string, 5>;
+using Row = std::vector<std::string>;
 
 std::string FlagText(const AttributeSnapshot& iAttribute)
 {
@@ -26,44 +23,17 @@ std::string FlagText(const AttributeSnapshot& iAttribute)
 /// Empty for what can have no default.
 std::string DefaultText(const AttributeDefault& iDefault)
 {
-    if (iDefault.origin == DefaultOrigin::None)
-        return {};
-    return "default " + iDefault.value.Shown() + " (" + OriginText(iDefault.origin) + ")";
+    return iDefault.origin == DefaultOrigin::None ? std::string() : "default " + iDefault.Shown();
 }
 
-Row RowOf(const ORXISpecObject_var& iObject, const AttributeSnapshot& iAttribute)
+Row RowOf(const ObjectSnapshot& iObject, const AttributeSnapshot& iAttribute, const AskDefault& iAskDefault)
 {
     return {OneLine(iAttribute.info.name), iAttribute.KindText(), iAttribute.value.Shown(), FlagText(iAttribute),
-            DefaultText(DefaultOf(iObject, iAttribute))};
+            DefaultText(iAskDefault(iObject, iAttribute))};
 }
 
-/// A long value does not push the rest of every row away.
-constexpr std::size_t WidestColumn = 40;
-
-std::string TableText(const std::vector<Row>& iRows, const std::string& iIndent)
-{
-    std::array<std::size_t, std::tuple_size_v<Row>> widths{};
-    for (const Row& row : iRows)
-        for (std::size_t i = 0; i < row.size(); ++i)
-            if (Characters(row[i]) <= WidestColumn)
-                widths[i] = std::max(widths[i], Characters(row[i]));
-
-    std::string text;
-    for (const Row& row : iRows)
-    {
-        std::string line = iIndent;
-        for (std::size_t i = 0; i < row.size(); ++i)
-        {
-            const std::size_t width = Characters(row[i]);
-            line += row[i] + std::string(width < widths[i] ? widths[i] - width : 0, ' ') + "  ";
-        }
-        line.erase(line.find_last_not_of(' ') + 1);
-        text += line + "\n";
-    }
-    return text;
-}
-
-std::string HeadingText(const ObjectSnapshot& iObject, const Colours& iColours)
+std::string HeadingText(const ObjectSnapshot& iObject, const std::optional<ChoiceView>& iChoice,
+                        const Colours& iColours)
 {
     std::string text = iColours.Heading(OneLine(iObject.label)) + "  " + OneLine(iObject.type);
     // What an attribute holds is known by the attribute; elsewhere the label is the name, if it can be.
@@ -71,6 +41,8 @@ std::string HeadingText(const ObjectSnapshot& iObject, const Colours& iColours)
     const bool isComponent = iObject.depth > 0 && last == iObject.label;
     if (!isComponent && last != iObject.name)
         text += "  name " + Quoted(iObject.name);
+    if (iChoice && !iChoice->display.Text().empty())
+        text += "  display " + iChoice->display.Shown();
     if (!iObject.alias.empty())
         text += "  alias " + Quoted(iObject.alias);
     if (!iObject.identifier.empty())
@@ -78,43 +50,63 @@ std::string HeadingText(const ObjectSnapshot& iObject, const Colours& iColours)
     return text + "\n";
 }
 
-std::string RecordsText(const ObjectSnapshot& iObject, const std::string& iIndent)
+std::string RecordsBlock(const ObjectSnapshot& iObject, const std::string& iIndent)
 {
     if (iObject.records.empty())
         return {};
-    std::string text = iIndent + "records\n";
-    for (std::size_t i = 0; i < iObject.records.size(); ++i)
-        text +=
-            iIndent + std::string(IndentStep, ' ') + std::to_string(i + 1) + ". " + iObject.records[i].Shown() + "\n";
-    return text;
+    return iIndent + "records\n" + RecordsText(iObject, iIndent + std::string(IndentStep, ' '));
 }
 
-/// What the object owns through a component attribute follows as an object of its own.
-bool FollowsBelow(const AttributeSnapshot& iAttribute)
+/// Whether the attribute has a row of its own: what the object owns through a component attribute follows as an object
+/// of its own, and what makes a Choice has a form of its own. Flags are told in any case.
+bool HasRow(const AttributeSnapshot& iAttribute, const std::optional<ChoiceView>& iChoice)
 {
-    return iAttribute.info.type == tk_component && iAttribute.value.GetKind() == Value::Kind::Word;
+    const bool follows = iAttribute.info.type == tk_component && iAttribute.value.GetKind() == Value::Kind::Word;
+    const bool isToldElsewhere = follows || (iChoice && iChoice->Tells(iAttribute));
+    return !isToldElsewhere || iAttribute.set.value_or(false) || iAttribute.automatic;
 }
 
-std::string ObjectText(const ObjectSnapshot& iObject, const Colours& iColours)
+std::string ObjectText(const ObjectSnapshot& iObject, const AskDefault& iAskDefault, const Colours& iColours)
 {
     const std::string outer(IndentStep * static_cast<std::size_t>(iObject.depth), ' ');
     const std::string inner = outer + std::string(IndentStep, ' ');
+    const std::optional<ChoiceView> choice = ChoiceViewOf(iObject, iAskDefault);
     std::vector<Row> rows;
     for (const AttributeSnapshot& attribute : iObject.attributes)
-        if (!FollowsBelow(attribute) || attribute.set.value_or(false) || attribute.automatic)
-            rows.push_back(RowOf(iObject.object, attribute));
+        if (HasRow(attribute, choice))
+            rows.push_back(RowOf(iObject, attribute, iAskDefault));
     for (const AttributeSnapshot& flag : iObject.otherFlags)
         rows.push_back({"defaultManagement/" + OneLine(flag.info.name), flag.KindText(), flag.value.Shown(), "", ""});
-    return outer + HeadingText(iObject, iColours) + TableText(rows, inner) + RecordsText(iObject, inner);
+    return outer + HeadingText(iObject, choice, iColours) + TableText(rows, inner) +
+           (choice ? ChoiceText(*choice, inner) : std::string()) + RecordsBlock(iObject, inner);
 }
 } // namespace
 
-std::string ShowText(const Snapshot& iSnapshot)
+std::string ShowText(const Snapshot& iSnapshot, const AskDefault& iAskDefault)
 {
     const Colours colours;
     std::string text;
     for (const ObjectSnapshot& object : iSnapshot)
-        text += ObjectText(object, colours);
+        text += ObjectText(object, iAskDefault, colours);
     return text.empty() ? "No objects.\n" : text;
+}
+
+std::string ListText(const Snapshot& iSnapshot, int iDepth)
+{
+    const Colours colours;
+    std::string text;
+    for (const ObjectSnapshot& object : iSnapshot)
+        if (object.depth == iDepth)
+            text += std::string(IndentStep * static_cast<std::size_t>(iDepth), ' ') +
+                    HeadingText(object, std::nullopt, colours);
+    return text;
+}
+
+std::string RecordsText(const ObjectSnapshot& iObject, const std::string& iIndent)
+{
+    std::string text;
+    for (std::size_t i = 0; i < iObject.records.size(); ++i)
+        text += iIndent + std::to_string(i + 1) + ". " + iObject.records[i].Shown() + "\n";
+    return text;
 }
 } // namespace Tool

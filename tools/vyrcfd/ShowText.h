@@ -8,12 +8,19 @@
 
 #include <string>
 
+#include "Defaults.h"
 #include "Snapshot.h"
 
 namespace Tool
 {
-/// The objects as a tree, indented below their owners. Asks for defaults.
-std::string ShowText(const Snapshot& iSnapshot);
+/// The objects as a tree, indented below their owners; Choices with what they offer.
+std::string ShowText(const Snapshot& iSnapshot, const AskDefault& iAskDefault);
+
+/// A line for each object of a depth; the others are left out.
+std::string ListText(const Snapshot& iSnapshot, int iDepth);
+
+/// The records of an object, a numbered line each.
+std::string RecordsText(const ObjectSnapshot& iObject, const std::string& iIndent);
 } // namespace Tool
 
 #endif

@@ -48,6 +48,8 @@ public:
     Kind GetKind() const noexcept { return m_kind; }
     bool IsUnset() const noexcept { return m_kind == Kind::Unset; }
     const std::string& Text() const noexcept { return m_text; }
+    /// Of a list or a column.
+    const std::vector<Value>& Entries() const noexcept { return m_entries; }
 
     /// For a reader: `0.7`, `"a text"`, `[a, b]`, `(unset)`, `(empty)`.
     std::string Shown() const;

@@ -110,6 +110,18 @@ std::size_t Characters(std::string_view iText)
         iText.begin(), iText.end(), [](char iByte) { return (static_cast<unsigned char>(iByte) & 0xC0U) != 0x80U; }));
 }
 
+bool IsUtf8(std::string_view iText)
+{
+    for (std::size_t at = 0; at < iText.size();)
+    {
+        const std::size_t length = CharacterLength(iText, at);
+        if (length == 0)
+            return false;
+        at += length;
+    }
+    return true;
+}
+
 std::string Counted(std::size_t iNumber, const std::string& iSingular)
 {
     return std::to_string(iNumber) + " " + iSingular + (iNumber == 1 ? "" : "s");

@@ -23,6 +23,9 @@ std::string Quoted(std::string_view iText);
 /// Number of characters of a text in UTF-8.
 std::size_t Characters(std::string_view iText);
 
+/// Whether the text is UTF-8.
+bool IsUtf8(std::string_view iText);
+
 /// "1 item", "2 items".
 std::string Counted(std::size_t iNumber, const std::string& iSingular);
 

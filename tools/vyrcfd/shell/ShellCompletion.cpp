@@ -1,0 +1,133 @@
+#include "ShellCompletion.h"
+
+#include <sstream>
+
+#include "AttributeReader.h"
+#include "Failure.h"
+#include "ListNames.h"
+#include "ORXTypeCode.h"
+#include "ShellWords.h"
+#include "VYRICfdChoice.h"
+#include "VYRICfdChoiceMgr.h"
+#include "VYRStandaloneErrors.h"
+
+namespace Tool
+{
+namespace
+{
+std::vector<Completion> Plain(const std::vector<std::string>& iTexts)
+{
+    std::vector<Completion> completions;
+    for (const std::string& text : iTexts)
+        completions.push_back({text, false});
+    return completions;
+}
+
+std::vector<Completion> EntriesOf(const ORXISpecAttrAccess_var& iAccess, const std::string& iList,
+                                  const std::string& iStart)
+{
+    std::vector<Completion> completions;
+    const std::vector<ORXISpecObject_var> entries = ReadObjects(iAccess, iList);
+    const std::vector<std::string> names = ListNames(entries);
+    for (std::size_t i = 0; i < entries.size(); ++i)
+        if (!!entries[i])
+            completions.push_back({iStart + names[i], true});
+    return completions;
+}
+
+/// Whether a path goes on behind the attribute.
+bool LeadsOn(const VYRStandalone::AttributeInfo& iAttribute)
+{
+    return !IsScalar(iAttribute.type == tk_list ? iAttribute.listType : iAttribute.type);
+}
+
+/// Words that stand in the usage line as they are to be typed.
+std::vector<std::string> Alternatives(const std::string& iArgument)
+{
+    std::vector<std::string> words;
+    std::istringstream stream(iArgument);
+    for (std::string word; std::getline(stream, word, '|');)
+        words.push_back(word);
+    return words;
+}
+} // namespace
+
+Completions ShellCompletion::Of(std::string_view iLine, std::size_t iStart, const std::string& iWord)
+{
+    const std::vector<std::string> before = WordsBefore(iLine, iStart);
+    Completions completions;
+    if (before.empty())
+        completions.candidates = Plain(ShellCommandNames());
+    else if (const ShellCommand* const command = FindShellCommand(before.front()); command != nullptr)
+    {
+        const std::vector<std::string> arguments = command->ArgumentNames();
+        const std::size_t index = before.size() - 1;
+        if (command->Takes(index + 1) || index < arguments.size())
+        {
+            const std::string& argument = arguments[std::min(index, arguments.size() - 1)];
+            completions.areFiles = argument == "FILE";
+            completions.candidates = Meanings(argument, before, iWord);
+        }
+    }
+    std::erase_if(completions.candidates, [&](const Completion& iOne) { return !iOne.text.starts_with(iWord); });
+    VYRStandalone::TakeReports();
+    return completions;
+}
+
+std::vector<Completion> ShellCompletion::Meanings(const std::string& iArgument, const ShellArguments& iBefore,
+                                                  const std::string& iWord)
+{
+    if (iArgument == "PATH")
+        return Paths(iWord);
+    if (iArgument == "CHOICE")
+        return Choices(iBefore[0], iBefore[1]);
+    if (iArgument == "CONFIG")
+        return Plain(m_session.Configurations());
+    if (iArgument == "COMMAND")
+        return Plain(ShellCommandNames());
+    const bool isFree = iArgument == "VALUE" || iArgument == "CONDITION" || iArgument == "FILE";
+    return isFree ? std::vector<Completion>() : Plain(Alternatives(iArgument));
+}
+
+std::vector<Completion> ShellCompletion::Paths(const std::string& iWord) const
+{
+    const std::size_t slash = iWord.rfind('/');
+    return slash == std::string::npos ? Objects() : Below(iWord.substr(0, slash));
+}
+
+std::vector<Completion> ShellCompletion::Objects() const
+{
+    std::vector<Completion> completions;
+    for (const std::string& name : ListNames(m_session.Model().Objects()))
+        completions.push_back({name, true});
+    return completions;
+}
+
+std::vector<Completion> ShellCompletion::Below(const std::string& iPath) const
+{
+    const Target target = FollowPath(m_session.Model(), {}, iPath);
+    const ORXISpecAttrAccess_var spAccess = target.object;
+    if (!target.attribute.empty())
+        return EntriesOf(spAccess, target.attribute, iPath + "/");
+    std::vector<Completion> completions;
+    for (const VYRStandalone::AttributeInfo& attribute : VYRStandalone::Attributes(target.object))
+        completions.push_back({iPath + "/" + attribute.name, LeadsOn(attribute)});
+    return completions;
+}
+
+std::vector<Completion> ShellCompletion::Choices(const std::string& iCommand, const std::string& iPath) const
+{
+    const ORXISpecObject_var spObject = m_session.Object(iPath);
+    std::vector<ORXUnicodeString> choices;
+    ORXUnicodeString byDefault;
+    // What is to be put back is not offered now.
+    if (const VYRICfdChoiceMgr_var spManager = spObject; iCommand == "allow" && !!spManager)
+        spManager->GetAllChoices(choices, byDefault);
+    else if (const VYRICfdChoice_var spChoice = spObject; !!spChoice)
+        spChoice->GetListOfChoices(choices);
+    std::vector<Completion> completions;
+    for (const ORXUnicodeString& choice : choices)
+        completions.push_back({TextOf(choice), false});
+    return completions;
+}
+} // namespace Tool

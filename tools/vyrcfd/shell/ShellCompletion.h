@@ -1,0 +1,35 @@
+#ifndef ShellCompletion_H
+#define ShellCompletion_H
+
+/**
+ * @file
+ * What a word of a command could become.
+ */
+
+#include "ShellCommands.h"
+#include "TerminalLines.h"
+
+namespace Tool
+{
+/// Commands for the first word; for the others what the usage line calls them: paths of objects and attributes,
+/// choices, configurations, files, or the words that stand there. Changes nothing and reports nothing.
+class ShellCompletion
+{
+public:
+    explicit ShellCompletion(ShellSession& ioSession) : m_session(ioSession) {}
+
+    Completions Of(std::string_view iLine, std::size_t iStart, const std::string& iWord);
+
+private:
+    std::vector<Completion> Meanings(const std::string& iArgument, const ShellArguments& iBefore,
+                                     const std::string& iWord);
+    std::vector<Completion> Paths(const std::string& iWord) const;
+    std::vector<Completion> Objects() const;
+    std::vector<Completion> Below(const std::string& iPath) const;
+    std::vector<Completion> Choices(const std::string& iCommand, const std::string& iPath) const;
+
+    ShellSession& m_session;
+};
+} // namespace Tool
+
+#endif
