@@ -18,8 +18,12 @@ ORXBaseUnknown* Create(ORXBaseUnknown* iExtended, ORXBaseUnknown* iExtension)
 template <class Texts> std::string Array(const Texts& iTexts)
 {
     std::string array;
+    const char* separator = "";
     for (const ORXUnicodeString& text : iTexts)
-        array += (array.empty() ? "" : ", ") + std::string(text.CastToCharPtr());
+    {
+        array += std::string(separator) + text.CastToCharPtr();
+        separator = ", ";
+    }
     return "[" + array + "]";
 }
 
