@@ -163,7 +163,6 @@ TEST_P(ChoicePlaceTest, ModelClosed_InsideAChangeOfTheValue)
     // It is still held, and works on outside every model.
     EXPECT_EQ(ChoiceOf(choice)->SetChoice("alpha"), S_OK);
     EXPECT_EQ(ValueOf(choice, "value"), "alpha");
-    VYRStandalone::TakeReports();
 }
 
 TEST_P(ChoicePlaceTest, ModelClosed_WithNobodyElseHoldingTheChoice)
@@ -176,7 +175,6 @@ TEST_P(ChoicePlaceTest, ModelClosed_WithNobodyElseHoldingTheChoice)
     parameter->Valuate(ORXUnicodeString(ValueFor(GetParam().place)));
     EXPECT_TRUE(culprit.HasActed());
     EXPECT_TRUE(m_model.Objects().empty());
-    VYRStandalone::TakeReports();
 }
 
 TEST_P(ChoicePlaceTest, OwnersModelClosed_InsideAChangeOfTheValue)
@@ -187,7 +185,6 @@ TEST_P(ChoicePlaceTest, OwnersModelClosed_InsideAChangeOfTheValue)
     const Culprit culprit(GetParam().place, choice, [this] { m_model.Close(); });
     EXPECT_EQ(ChoiceOf(choice)->SetChoice(GetParam().place == Place::RepairHook ? "omega" : "gamma"), S_OK);
     EXPECT_TRUE(culprit.HasActed());
-    VYRStandalone::TakeReports();
 }
 
 TEST_P(ChoicePlaceTest, ModelClosed_InsideAFreshConfiguration)
@@ -198,7 +195,6 @@ TEST_P(ChoicePlaceTest, ModelClosed_InsideAFreshConfiguration)
     EXPECT_TRUE(culprit.HasActed());
     EXPECT_EQ(ValueOf(choice, "value"), "beta");
     EXPECT_EQ(ValueOf(choice, "display"), "Kind");
-    VYRStandalone::TakeReports();
 }
 
 // ---- who throws the data away ---------------------------------------------------------------------------------------
@@ -280,7 +276,9 @@ TEST_P(ChoicePlaceTest, ConfiguredAnew_InsideAChangeOfTheValue)
                           [&] { ChoiceOf(choice)->Configure(Texts({"one", "two"}), {}, "two", ""); });
     EXPECT_EQ(ChoiceOf(choice)->SetChoice(ValueFor(GetParam().place)), S_OK);
     EXPECT_TRUE(culprit.HasActed());
-    VYRStandalone::TakeReports();
+    // The new choices beside the old startups.
+    EXPECT_EQ(Reported(),
+              (Records{Assertion("choices.size() == startups.size()", "VYRCfdChoiceInstanceAdp::Update")}));
     EXPECT_EQ(ChoiceOf(choice)->Update(), S_OK);
     EXPECT_EQ(ValueOf(choice, "value"), "two");
     EXPECT_EQ(DataTypeOf(choice), "");
