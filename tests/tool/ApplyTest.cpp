@@ -107,6 +107,18 @@ const FailedRun FailedRunCases[] = {
 INSTANTIATE_TEST_SUITE_P(Apply, FailedRuns, testing::ValuesIn(FailedRunCases),
                          [](const auto& iInfo) { return iInfo.param.name; });
 
+TEST_F(SmallTest, Apply_ToAMarkedType_GoesThroughItsManager)
+{
+    // A Choice without manager takes choices that its type does not declare.
+    EXPECT_EQ(Outcome(Run({"apply", Flow, "Flow.1/energy", "undeclared"})), Outcome(0, ""));
+    EXPECT_EQ(Outcome(Run({"apply", Flow, "Flow.1/solver", "undeclared"})),
+              Outcome(1, "flow.model.json: \"undeclared\" failed on \"Flow.1/solver\"\n"
+                         "error: Invalid choice multigrid in VYRCfdChoiceMgrAdp::ConfigureChoiceMgr, status "
+                         "0x80004005\n"
+                         "failed call: spChoiceMgr->ConfigureChoiceMgr(choicesList, defaultValue, display) in "
+                         "VYRCfdConfigurator::ApplyConfiguration, status 0x80004005\n"));
+}
+
 TEST_F(SmallTest, Apply_OfACircle_EndsWithOneNote)
 {
     const ToolRun run = Run({"apply", Small, "list", "circle"});

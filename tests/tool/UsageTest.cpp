@@ -50,6 +50,7 @@ const WrongUse WrongUseCases[] = {
     {"UnknownOptionAlone", {"--jsom"}, "no command \"--jsom\"", "vyrcfd"},
     {"OptionWithoutValue", {"list", "--catalog"}, "--catalog", "vyrcfd list"},
     {"OutputOfShow", {"show", "a", "-o", "b"}, "-o", "vyrcfd show"},
+    {"ShellWithoutModel", {"shell"}, "MODEL", "vyrcfd shell"},
     {"OutputWithoutName", {"apply", "a", "b", "c", "-o", ""}, "names no file", "vyrcfd apply"},
 };
 INSTANTIATE_TEST_SUITE_P(Usage, WrongUses, testing::ValuesIn(WrongUseCases),
@@ -74,6 +75,15 @@ TEST_P(Help, NamesWhatTheCommandTakes)
 INSTANTIATE_TEST_SUITE_P(Usage, Help,
                          testing::Values(std::vector<std::string>{}, std::vector<std::string>{"apply"},
                                          std::vector<std::string>{"show"}, std::vector<std::string>{"list"}));
+
+TEST_F(ToolTest, HelpOfTheShell_TellsItsCommands)
+{
+    const ToolRun run = RunTool({"shell", "--help"}, {m_folder.Path()});
+    EXPECT_EQ(Outcome(run), Outcome(0, ""));
+    for (const char* text : {"MODEL", "--installation DIR", "--catalog FILE", "  set PATH VALUE ", "  exit "})
+        EXPECT_NE(run.output.find(text), std::string::npos) << text << "\n" << run.output;
+    EXPECT_EQ(run.output.find("--json"), std::string::npos);
+}
 
 /// The first line of `list` tells which installation it has read.
 std::string FirstLine(const ToolRun& iRun)

@@ -1,0 +1,133 @@
+/**
+ * @file
+ * The shell at a terminal: prompts, errors that end nothing, the warning before changes are lost, history, completion.
+ */
+
+#include "ShellTest.h"
+
+namespace
+{
+bool Contains(const std::string& iText, const std::string& iPart)
+{
+    return iText.find(iPart) != std::string::npos;
+}
+
+std::size_t Count(const std::string& iText, const std::string& iPart)
+{
+    std::size_t count = 0;
+    for (std::size_t at = iText.find(iPart); at != std::string::npos; at = iText.find(iPart, at + 1))
+        ++count;
+    return count;
+}
+
+const char Warning[] = "warning: there are unsaved changes; save them, or leave once more to lose them\n";
+
+TEST_F(ShellTest, Terminal_ShowsPromptsAndAnswers)
+{
+    const ToolRun run = Session(Small, {"get Case.1/relaxation\r", "\r", "# nothing\r", "quit\r"});
+    EXPECT_EQ(Outcome(run), Outcome(0, ""));
+    EXPECT_EQ(run.output, "\"help\" lists the commands, \"quit\" leaves.\n"
+                          "vyrcfd> get Case.1/relaxation\n"
+                          "0.5\n"
+                          "vyrcfd> \n"
+                          "vyrcfd> # nothing\n"
+                          "vyrcfd> quit\n");
+}
+
+TEST_F(ShellTest, Terminal_GoesOnAfterAFailure_AndTellsNoLine)
+{
+    const ToolRun run = Session(Small, {"get nothing\r", "apply Mesh cavity\r", "get Case.1/relaxation\r", "errors\r"});
+    EXPECT_EQ(Outcome(run),
+              Outcome(0, "no top-level object \"nothing\"\n"
+                         "\"Mesh\" has no default management, and cannot be configured\n"
+                         "assertion: spDefMgmt != NULL_var in VYRCfdConfigurator::ApplyConfiguration, status "
+                         "0x80004005\n"));
+    EXPECT_TRUE(Contains(run.output, "\n0.5\n"));
+    EXPECT_TRUE(Contains(run.output, "\nassertion: spDefMgmt != NULL_var"));
+}
+
+TEST_F(ShellTest, Terminal_WarnsOnceOfUnsavedChanges)
+{
+    const auto before = Files();
+    const std::string change = "set Case.1/relaxation 0.1\r";
+    EXPECT_EQ(Outcome(Session(Small, {change, "quit\r", "get Case.1/relaxation\r", "quit\r"})), Outcome(0, Warning));
+    // Ctrl-D, twice.
+    EXPECT_EQ(Outcome(Session(Small, {change})), Outcome(0, Warning));
+    // What was changed after the warning is not known to be lost.
+    EXPECT_EQ(Outcome(Session(Small, {change, "quit\r", "set Case.1/relaxation 0.2\r", "exit\r", "exit\r"})),
+              Outcome(0, std::string(Warning) + Warning));
+    EXPECT_EQ(Files(), before);
+}
+
+TEST_F(ShellTest, Terminal_DoesNotWarnOfWhatIsSavedOrUndone)
+{
+    EXPECT_EQ(Outcome(Session(Small, {"set Mesh/cells 5\r", "set Mesh/cells 4096\r", "quit\r"})), Outcome(0, ""));
+    EXPECT_EQ(Outcome(Session(Small, {"set Case.1/relaxation 0.1\r", "save\r", "quit\r"})), Outcome(0, ""));
+    EXPECT_EQ(Script(Small, "get Case.1/relaxation\n").output, "0.1\n");
+}
+
+TEST_F(ShellTest, Terminal_HasAHistory)
+{
+    // Ctrl-P brings the line before.
+    const ToolRun run = Session(Small, {"get Case.1/relaxation\r", "\x10\r"});
+    EXPECT_EQ(Count(run.output, "\n0.5\n"), 2U) << run.output;
+}
+
+TEST_F(ShellTest, Terminal_ClearsAnInterruptedLine_AndGoesOn)
+{
+    const ToolRun run = Session(Small, {"set Case.1/relaxation 0.1\x03get Case.1/relaxation\r"});
+    EXPECT_EQ(Outcome(run), Outcome(0, ""));
+    EXPECT_TRUE(Contains(run.output, "\n0.5\n")) << run.output;
+}
+
+struct CompletedLine
+{
+    const char* name;
+    /// With a tabulator at the end of what is to be completed.
+    std::string typed;
+    /// The line that comes of it, as its answer shows.
+    std::string answer;
+};
+
+void PrintTo(const CompletedLine& iOne, std::ostream* oStream)
+{
+    *oStream << iOne.name;
+}
+
+class CompletedLines : public ShellTest, public testing::WithParamInterface<CompletedLine>
+{
+};
+
+TEST_P(CompletedLines, AreTheCommandsThatTheyMean)
+{
+    const ToolRun run = Session(Flow, {GetParam().typed + "\r", "\x04", "\x04"});
+    EXPECT_TRUE(Contains(run.output + run.errors, GetParam().answer)) << run.output << run.errors;
+}
+
+const CompletedLine Completed[] = {
+    {"Command", "rec\tFlow.1", "\nNo records.\n"},
+    {"Object", "ls Flow.\tspeed", "\n    speed  real  10"},
+    {"ObjectInQuotationMarks", "ls \"Flow 2\tspeed\"", "Flow 2  Flow\n    speed  real  10"},
+    {"Attribute", "get Flow.1/sp\t", "\n10\n"},
+    {"Deeper", "get Flow.1/turb\tDa\tint\t", "\n0.1\n"},
+    {"ThroughTheChoice", "get Flow.1/turbulence/kOmega/int\t", "\n0.1\n"},
+    {"Choice", "choose Flow.1/turbulence sp\t", "    + SpalartModel\n"},
+    {"SecondChoice", "prohibit Flow.1/turbulence spalart lam\t", "-> [\"kOmega\"]"},
+    {"DeclaredChoice", "allow Flow.1/solver conj\t", "-> [\"direct\", \"conjugate gradient\", \"gmres\"]"},
+    {"Configuration", "apply Flow.1/solver directl\t", "    + record value: default \"direct\"\n"},
+    {"Word", "reset Flow.1/solver k\t", "-> [\"direct\", \"conjugate gradient\", \"gmres\"]"},
+    {"HelpTopic", "help unse\t", "unset PATH  puts"},
+    {"File", "save fl\t", "Saved flow.model.json."},
+};
+INSTANTIATE_TEST_SUITE_P(Terminal, CompletedLines, testing::ValuesIn(Completed),
+                         [](const auto& iInfo) { return iInfo.param.name; });
+
+TEST_F(ShellTest, Completion_ListsWhatIsPossible_AndChangesNothing)
+{
+    const ToolRun run = Session(Flow, {"get Flow.1/s\t\t\x15quit\r"});
+    // The bell, and no warning.
+    EXPECT_EQ(Outcome(run), Outcome(0, "\a"));
+    EXPECT_TRUE(Contains(run.output, "Flow.1/solver")) << run.output;
+    EXPECT_TRUE(Contains(run.output, "Flow.1/speed")) << run.output;
+}
+} // namespace
