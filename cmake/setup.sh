@@ -15,6 +15,7 @@ is_there() {
     case $1 in
         ninja-build) command -v ninja >/dev/null ;;
         rapidjson-dev) has_header rapidjson/document.h ;;
+        libudunits2-dev) has_header udunits2.h && has_library libudunits2.so ;;
         libcli11-dev) has_header CLI/CLI.hpp ;;
         libreadline-dev) has_header readline/readline.h && has_library libreadline.so ;;
         libgtest-dev) has_header gtest/gtest.h && has_library libgtest.a ;;
@@ -54,7 +55,7 @@ set_up() {
     fi
 }
 
-RUN_PACKAGES=(g++ cmake ninja-build ccache rapidjson-dev libcli11-dev libreadline-dev)
+RUN_PACKAGES=(g++ cmake ninja-build ccache rapidjson-dev libudunits2-dev libcli11-dev libreadline-dev)
 TEST_PACKAGES=("${RUN_PACKAGES[@]}" libgtest-dev python3 binutils)
 SANITIZER_PACKAGES=(clang libclang-rt-14-dev)
 

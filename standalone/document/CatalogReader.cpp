@@ -31,6 +31,7 @@ private:
     void ReadAttribute(const DocumentNode& iAttribute);
     void ReadKind(const DocumentNode& iAttribute, AttributeDeclaration& oAttribute);
     void ReadTexts(const DocumentNode& iAttribute, AttributeDeclaration& oAttribute);
+    void ReadUnit(const DocumentNode& iAttribute, AttributeDeclaration& oAttribute);
     void ReadDefault(const DocumentNode& iDefault, const AttributeDeclaration& iAttribute);
     static void CheckDefault(const DocumentNode& iValue, const AttributeDeclaration& iAttribute, int iCode);
     void ReadStartup(const DocumentNode& iMembers, const std::vector<std::string>& iPath);
@@ -43,14 +44,6 @@ private:
 bool EndsWith(std::string_view iText, std::string_view iEnd)
 {
     return iText.size() >= iEnd.size() && iText.substr(iText.size() - iEnd.size()) == iEnd;
-}
-
-/// What is planned for documents and not yet there must not look like a misspelling.
-void RefuseForNow(const DocumentNode& iNode, std::initializer_list<std::string_view> iKeys)
-{
-    for (const std::string_view key : iKeys)
-        if (const std::optional<DocumentNode> found = iNode.Find(key))
-            found->Fail("not supported yet");
 }
 
 int ReadKindName(const DocumentNode& iKind, bool iWithList)
@@ -105,7 +98,6 @@ void TypeReader::ReadName(const DocumentNode& iName)
 void TypeReader::ReadAttribute(const DocumentNode& iAttribute)
 {
     iAttribute.ExpectKeys({"name", "kind", "of", "values", "type", "default", "unit", "optional"});
-    RefuseForNow(iAttribute, {"unit", "optional"});
     AttributeDeclaration attribute;
     const DocumentNode name = iAttribute.Require("name");
     CheckAttributeName(name);
@@ -120,6 +112,13 @@ void TypeReader::ReadAttribute(const DocumentNode& iAttribute)
         if (attribute.type != tk_component)
             type->Fail("belongs to kind \"component\" only");
         attribute.componentType = type->NonEmptyText();
+    }
+    ReadUnit(iAttribute, attribute);
+    if (const auto optional = iAttribute.Find("optional"))
+    {
+        attribute.isOptional = optional->Boolean();
+        if (attribute.isOptional && attribute.type == tk_component)
+            optional->Fail("a component comes into being with its owner and cannot be optional");
     }
     m_type.attributes.push_back(attribute);
     if (const auto value = iAttribute.Find("default"))
@@ -155,6 +154,19 @@ void TypeReader::ReadTexts(const DocumentNode& iAttribute, AttributeDeclaration&
     }
     if (oAttribute.texts.empty())
         values.Fail("an enumeration has at least one text");
+}
+
+void TypeReader::ReadUnit(const DocumentNode& iAttribute, AttributeDeclaration& oAttribute)
+{
+    const auto unit = iAttribute.Find("unit");
+    if (!unit)
+        return;
+    if (oAttribute.type != tk_double && oAttribute.listType != tk_double)
+        unit->Fail("belongs to kind \"real\" only");
+    oAttribute.unit = unit->NonEmptyText();
+    std::string why;
+    if (KnowledgeType::RealOfUnit(oAttribute.unit, why) == nullptr)
+        unit->Fail(why);
 }
 
 void TypeReader::ReadDefault(const DocumentNode& iDefault, const AttributeDeclaration& iAttribute)

@@ -114,25 +114,56 @@ void ModelReader::ReadAdded(const DocumentNode& iNode, FeatureObject& ioObject, 
     for (const DocumentNode& member : iNode.Members())
     {
         member.ExpectKeys({"kind", "values", "flag", "value"});
-        if (ioObject.Type().FindKey(member.Key()) != nullptr)
-            member.Fail("type " + Quoted(ioObject.Type().Name()) +
-                        " declares this attribute: it belongs to \"values\"");
-        const DocumentNode kind = member.Require("kind");
-        const std::optional<int> code = TypeCodeOfKind(kind.Text());
-        if (!code || *code == tk_list)
-            kind.Fail("unknown kind " + Quoted(kind.Text()) + " of an added attribute" +
-                      InsteadOf(kind.Text(), KindNames(false)));
-        std::vector<std::string> texts;
-        if (*code == tk_enum)
-            texts = member.Require("values").Texts();
-        const auto flag = member.Find("flag");
-        const int flagNumber = flag ? static_cast<int>(flag->Whole()) : 0;
-        const AddedAttribute* attribute = ioObject.AddAttributeSilently(KeyText(member), *code, flagNumber, texts);
-        if (attribute == nullptr)
-            member.Fail("cannot be added");
+        const FeatureKey* key = ioObject.Type().FindKey(member.Key());
+        if (key == nullptr)
+            key = &AddAttribute(member, ioObject);
+        else
+            AddDeclared(member, ioObject, *key);
         if (const auto value = member.Find("value"))
-            ReadValue(*value, ioObject, attribute->Key(), iDepth);
+            ReadValue(*value, ioObject, *key, iDepth);
     }
+}
+
+/// An attribute of the object alone.
+const FeatureKey& ModelReader::AddAttribute(const DocumentNode& iMember, FeatureObject& ioObject)
+{
+    const DocumentNode kind = iMember.Require("kind");
+    const std::optional<int> code = TypeCodeOfKind(kind.Text());
+    if (!code || *code == tk_list)
+        kind.Fail("unknown kind " + Quoted(kind.Text()) + " of an added attribute" +
+                  InsteadOf(kind.Text(), KindNames(false)));
+    std::vector<std::string> texts;
+    if (*code == tk_enum)
+        texts = iMember.Require("values").Texts();
+    else if (const auto values = iMember.Find("values"))
+        values->Fail("belongs to kind \"enumeration\" only");
+    int flag = 0;
+    if (const auto node = iMember.Find("flag"))
+    {
+        const std::int64_t whole = node->Whole();
+        flag = static_cast<int>(whole);
+        if (flag != whole)
+            node->Fail("out of the range of an integer, which has 32 bits");
+    }
+    const AddedAttribute* attribute = ioObject.AddAttributeSilently(KeyText(iMember), *code, flag, texts);
+    if (attribute == nullptr)
+        iMember.Fail("cannot be added");
+    return attribute->Key();
+}
+
+/// An optional attribute of the type that has been added to the object.
+void ModelReader::AddDeclared(const DocumentNode& iMember, FeatureObject& ioObject, const FeatureKey& iKey)
+{
+    if (!iKey.IsOptional())
+        iMember.Fail("type " + Quoted(ioObject.Type().Name()) + " declares this attribute: it belongs to \"values\"");
+    const DocumentNode kind = iMember.Require("kind");
+    if (kind.Text() != KindOfTypeCode(iKey.TypeCode()))
+        kind.Fail("the attribute is declared as " + Quoted(KindOfTypeCode(iKey.TypeCode())));
+    if (const auto values = iMember.Find("values"))
+        values->Fail("the type declares the texts of the enumeration");
+    if (const auto flag = iMember.Find("flag"))
+        flag->Fail("belongs to attributes of one object alone");
+    ioObject.MakeOptional(iKey);
 }
 
 void ModelReader::ReadValues(const DocumentNode& iNode, FeatureObject& ioObject, std::size_t iDepth)
@@ -147,6 +178,8 @@ void ModelReader::ReadValues(const DocumentNode& iNode, FeatureObject& ioObject,
         if (key == nullptr)
             member.Fail("type " + Quoted(type.Name()) + " has no attribute " + Quoted(member.Key()) +
                         InsteadOf(member.Key(), AttributeNames(type)));
+        if (!ioObject.IsMade(*key))
+            member.Fail("an optional attribute has its value in \"added\"");
         ReadValue(member, ioObject, *key, iDepth);
     }
 }

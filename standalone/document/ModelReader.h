@@ -38,6 +38,8 @@ private:
     void ReadTopLevel(const DocumentNode& iObject);
     /// What every object may have: its further names, its id, its values and added attributes.
     void ReadBody(const DocumentNode& iNode, FeatureObject& ioObject, std::size_t iDepth);
+    static const FeatureKey& AddAttribute(const DocumentNode& iMember, FeatureObject& ioObject);
+    static void AddDeclared(const DocumentNode& iMember, FeatureObject& ioObject, const FeatureKey& iKey);
     void ReadAdded(const DocumentNode& iNode, FeatureObject& ioObject, std::size_t iDepth);
     void ReadValues(const DocumentNode& iNode, FeatureObject& ioObject, std::size_t iDepth);
     void ReadValue(const DocumentNode& iNode, FeatureObject& ioObject, const FeatureKey& iKey, std::size_t iDepth);

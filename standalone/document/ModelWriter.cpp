@@ -131,6 +131,7 @@ private:
     void WriteNames(const FeatureObject& iObject);
     void WriteValues(const FeatureObject& iObject, std::size_t iDepth);
     void WriteAdded(const FeatureObject& iObject, std::size_t iDepth);
+    void WriteAddedAttribute(const FeatureObject& iObject, const FeatureKey& iKey, int iFlag, std::size_t iDepth);
     void WriteAttribute(const FeatureObject& iObject, const FeatureKey& iKey, std::size_t iDepth);
     void WriteObjectList(const FeatureObject& iObject, const FeatureKey& iKey, std::size_t iDepth);
     void WriteReference(const FeatureObject& iTarget);
@@ -308,6 +309,8 @@ void ModelWriter::WriteValues(const FeatureObject& iObject, std::size_t iDepth)
     m_writer.StartObject();
     for (const FeatureKey* key : iObject.Type().Keys())
     {
+        if (key->IsOptional())
+            continue;
         const Step place(*this, std::string(key->Name().View()));
         WriteKey(key->Name().View());
         WriteAttribute(iObject, *key, iDepth);
@@ -315,34 +318,44 @@ void ModelWriter::WriteValues(const FeatureObject& iObject, std::size_t iDepth)
     m_writer.EndObject();
 }
 
+/// The attributes of the object alone, and the optional ones that have been added to it.
 void ModelWriter::WriteAdded(const FeatureObject& iObject, std::size_t iDepth)
 {
-    if (iObject.Added().empty())
+    std::vector<const FeatureKey*> made;
+    for (const FeatureKey* key : iObject.Type().Keys())
+        if (key->IsOptional() && iObject.IsMade(*key))
+            made.push_back(key);
+    if (made.empty() && iObject.Added().empty())
         return;
     WriteKey("added");
     const Step added(*this, "added");
     m_writer.StartObject();
+    for (const FeatureKey* key : made)
+        WriteAddedAttribute(iObject, *key, 0, iDepth);
     for (const AddedAttribute* attribute : iObject.Added())
+        WriteAddedAttribute(iObject, attribute->Key(), attribute->Flag(), iDepth);
+    m_writer.EndObject();
+}
+
+void ModelWriter::WriteAddedAttribute(const FeatureObject& iObject, const FeatureKey& iKey, int iFlag,
+                                      std::size_t iDepth)
+{
+    const Step place(*this, std::string(iKey.Name().View()));
+    WriteKey(iKey.Name().View());
+    m_writer.StartObject();
+    WriteTextUnder("kind", KindOfTypeCode(iKey.TypeCode()));
+    if (iKey.TypeCode() == tk_enum && iKey.IsAdded())
     {
-        const FeatureKey& key = attribute->Key();
-        const Step place(*this, std::string(key.Name().View()));
-        WriteKey(key.Name().View());
-        m_writer.StartObject();
-        WriteTextUnder("kind", KindOfTypeCode(key.TypeCode()));
-        if (key.TypeCode() == tk_enum)
-        {
-            WriteKey("values");
-            WriteEntries(key.Knowledge()->Texts(), *KnowledgeType::String());
-        }
-        if (attribute->Flag() != 0)
-        {
-            WriteKey("flag");
-            m_writer.Int(attribute->Flag());
-        }
-        WriteKey("value");
-        WriteAttribute(iObject, key, iDepth);
-        m_writer.EndObject();
+        WriteKey("values");
+        WriteEntries(iKey.Knowledge()->Texts(), *KnowledgeType::String());
     }
+    if (iFlag != 0)
+    {
+        WriteKey("flag");
+        m_writer.Int(iFlag);
+    }
+    WriteKey("value");
+    WriteAttribute(iObject, iKey, iDepth);
     m_writer.EndObject();
 }
 

@@ -4,6 +4,7 @@
  */
 
 #include "FeatureObject.h"
+#include "Quantity.h"
 #include "TypeRegistry.h"
 #include "VYRStandaloneCatalog.h"
 
@@ -17,6 +18,9 @@ AttributeInfo Describe(const FeatureKey& iKey)
     info.name = std::string(iKey.Name().View());
     info.type = iKey.TypeCode();
     info.listType = iKey.ListTypeCode();
+    info.optional = iKey.IsOptional();
+    if (iKey.Knowledge() != nullptr && iKey.Knowledge()->Measured() != nullptr)
+        info.unit = iKey.Knowledge()->Measured()->SiUnit();
     if (iKey.Knowledge() != nullptr)
         for (const ORXUnicodeString& text : iKey.Knowledge()->Texts())
             info.values.emplace_back(text.View());
@@ -49,7 +53,8 @@ std::vector<AttributeInfo> Attributes(const ORXISpecObject_var& iObject)
     std::vector<AttributeInfo> infos;
     if (const FeatureObject* const object = FeatureObject::Of(iObject.Pointer()))
         for (const FeatureKey* const key : object->Keys())
-            infos.push_back(Describe(*key));
+            if (object->IsMade(*key))
+                infos.push_back(Describe(*key));
     return infos;
 }
 } // namespace VYRStandalone

@@ -6,17 +6,19 @@ namespace
 {
 AttributeDeclaration String(const char* iName)
 {
-    return {iName, tk_string, 0, {}, {}};
+    return {iName, tk_string};
 }
 
 AttributeDeclaration ListOf(int iCode, const char* iName)
 {
-    return {iName, tk_list, iCode, {}, {}};
+    return {iName, tk_list, iCode};
 }
 
 AttributeDeclaration DefaultManagement()
 {
-    return {"defaultManagement", tk_component, 0, {}, "VYRCfdDefaultManagement"};
+    AttributeDeclaration component{"defaultManagement", tk_component};
+    component.componentType = "VYRCfdDefaultManagement";
+    return component;
 }
 } // namespace
 
@@ -36,7 +38,7 @@ CatalogDeclaration BuiltInCatalog()
                      String("dataName"),
                      String("display"),
                      // Made by the Choice's first update, never with the Choice.
-                     {"Data", tk_component, 0, {}, {}},
+                     {"Data", tk_component},
                      DefaultManagement(),
                  },
                  {}},

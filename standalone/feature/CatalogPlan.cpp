@@ -48,7 +48,7 @@ std::string Quoted(const std::string& iText)
 bool CatalogPlan::Attribute::operator==(const Attribute& iOther) const
 {
     return type == iOther.type && listType == iOther.listType && texts == iOther.texts &&
-           componentType == iOther.componentType;
+           knowledge == iOther.knowledge && isOptional == iOther.isOptional && componentType == iOther.componentType;
 }
 
 CatalogPlan::CatalogPlan(const TypeRegistry& iRegistry, const CatalogDeclaration& iCatalog)
@@ -148,7 +148,10 @@ void CatalogPlan::AddAttributes(std::size_t iType)
         CheckAttribute(iType, index);
         if (!names.insert(attribute.name).second)
             throw DeclarationError(iType, index, none, "attribute " + Quoted(attribute.name) + " stands twice");
-        const Attribute planned{attribute.type, attribute.listType, attribute.texts, attribute.componentType};
+        std::string why;
+        const Attribute planned{attribute.type,       attribute.listType,
+                                attribute.texts,      KnowledgeOf(attribute, why),
+                                attribute.isOptional, attribute.componentType};
         Attribute known;
         if (FindAttribute(type.name, attribute.name, known))
         {
@@ -164,6 +167,14 @@ void CatalogPlan::AddAttributes(std::size_t iType)
                                        Quoted(attribute.name));
         owner.attributes.emplace_back(attribute.name, planned);
     }
+}
+
+const KnowledgeType* CatalogPlan::KnowledgeOf(const AttributeDeclaration& iAttribute, std::string& oWhy)
+{
+    const int code = iAttribute.type == tk_list ? iAttribute.listType : iAttribute.type;
+    if (code == tk_enum)
+        return nullptr;
+    return iAttribute.unit.empty() ? KnowledgeType::OfTypeCode(code) : KnowledgeType::RealOfUnit(iAttribute.unit, oWhy);
 }
 
 void CatalogPlan::CheckAttribute(std::size_t iType, std::size_t iAttribute) const
@@ -182,6 +193,13 @@ void CatalogPlan::CheckAttribute(std::size_t iType, std::size_t iAttribute) cons
                                : "texts of the attribute " + Quoted(attribute.name) + ", which is no enumeration");
     if (texts.size() != attribute.texts.size())
         refuse("enumeration " + Quoted(attribute.name) + " has a text twice");
+    if (attribute.isOptional && code == tk_component)
+        refuse("a component comes into being with its owner and cannot be optional: " + Quoted(attribute.name));
+    if (!attribute.unit.empty() && code != tk_double)
+        refuse("only reals have a unit: " + Quoted(attribute.name));
+    std::string why;
+    if (!attribute.unit.empty() && KnowledgeOf(attribute, why) == nullptr)
+        refuse(why);
     if (attribute.componentType.empty())
         return;
     if (attribute.type != tk_component)
@@ -271,7 +289,7 @@ void CatalogPlan::CheckValue(std::size_t iType, std::size_t iValue) const
             continue;
         if (code != tk_enum)
         {
-            if (!KnowledgeType::OfTypeCode(code)->FromDocument(entry, stored, why))
+            if (!attribute.knowledge->FromDocument(entry, stored, why))
                 refuse(why);
             continue;
         }
@@ -340,10 +358,13 @@ std::vector<std::string> CatalogPlan::PartsOf(const std::string& iType) const
 
 CatalogPlan::Attribute CatalogPlan::Describe(const FeatureKey& iKey)
 {
-    Attribute attribute{iKey.TypeCode(), iKey.ListTypeCode(), {}, {}};
-    if (iKey.Knowledge() != nullptr)
+    Attribute attribute{iKey.TypeCode(), iKey.ListTypeCode(), {}, iKey.Knowledge(), iKey.IsOptional(), {}};
+    if (iKey.Knowledge() != nullptr && iKey.Knowledge()->Kind() == ValueKind::Enumeration)
+    {
+        attribute.knowledge = nullptr;
         for (const ORXUnicodeString& text : iKey.Knowledge()->Texts())
             attribute.texts.emplace_back(text.View());
+    }
     if (iKey.ComponentType() != nullptr)
         attribute.componentType = iKey.ComponentType()->Name();
     return attribute;

@@ -36,6 +36,9 @@ private:
         int type;
         int listType;
         std::vector<std::string> texts;
+        /// Of values other than enumerations, whose own type does not exist yet.
+        const KnowledgeType* knowledge;
+        bool isOptional;
         std::string componentType;
 
         bool operator==(const Attribute& iOther) const;
@@ -56,6 +59,7 @@ private:
     void OrderByBases();
     void CheckManager(std::size_t iType) const;
     void AddAttributes(std::size_t iType);
+    static const KnowledgeType* KnowledgeOf(const AttributeDeclaration& iAttribute, std::string& oWhy);
     void CheckAttribute(std::size_t iType, std::size_t iAttribute) const;
     void OrderByParts();
     void CheckValue(std::size_t iType, std::size_t iValue) const;

@@ -49,7 +49,9 @@ bool FeatureKey::SameKind(const Traits& iLeft, const Traits& iRight)
     // Every enumeration has a type of its own, so that the texts decide.
     if (iLeft.knowledge == nullptr || iRight.knowledge == nullptr || iLeft.knowledge == iRight.knowledge)
         return iLeft.knowledge == iRight.knowledge;
-    return iLeft.knowledge->Kind() == iRight.knowledge->Kind() && iLeft.knowledge->Texts() == iRight.knowledge->Texts();
+    return iLeft.knowledge->Kind() == iRight.knowledge->Kind() &&
+           iLeft.knowledge->Measured() == iRight.knowledge->Measured() &&
+           iLeft.knowledge->Texts() == iRight.knowledge->Texts();
 }
 
 HRESULT FeatureKey::QueryInterface(const IID& iInterface, void** oInterface)

@@ -32,6 +32,8 @@ public:
         int listType;
         /// Knowledge type of the value or of the list's entries; null for objects.
         KnowledgeType* knowledge;
+        /// The slot is there, but the object carries the attribute only once it has been added to it.
+        bool isOptional = false;
     };
 
     /// Key of a declared attribute; `iOffset` is that of its slot, in bytes.
@@ -56,6 +58,7 @@ public:
     FeatureType* Declaring() const noexcept { return m_declaring; }
     bool IsAdded() const noexcept { return m_declaring == nullptr; }
     std::size_t Offset() const noexcept { return m_offset; }
+    bool IsOptional() const noexcept { return m_traits.isOptional; }
     /// The type that comes into being with the owner; null for none.
     FeatureType* ComponentType() const noexcept { return m_componentType; }
     /// The added attribute that the key was made for; null when that is gone, and for a declared key.

@@ -154,7 +154,7 @@ FeatureKey* FeatureObject::Carried(ORXISpecAttrKey* iKey) const noexcept
     if (key == nullptr)
         return nullptr;
     if (!key->IsAdded())
-        return m_type->Carries(*key) ? key : nullptr;
+        return m_type->Carries(*key) && IsMade(*key) ? key : nullptr;
     if (key->Home() != nullptr && &key->Home()->Object() == this)
         return key;
     // A key of another object's attribute serves here when name and kind agree.
@@ -476,9 +476,15 @@ ORXISpecAttribute* FeatureObject::AddAttribute(const ORXUnicodeString& iName, in
         if (Instruments::Fails("AddAttribute", iName.View(), this))
             return nullptr;
     }
-    // A declared attribute is there already; the object has nothing to add.
+    // A declared attribute is there already, or waits to be added.
     if (FeatureKey* const declared = m_type->FindKey(iName.View()))
-        return declared->TypeCode() == iTypeCode && !m_isPrototype ? new DeclaredAttribute(*this, *declared) : nullptr;
+    {
+        if (declared->TypeCode() != iTypeCode || m_isPrototype)
+            return nullptr;
+        if (declared->IsOptional())
+            MakeOptional(*declared);
+        return new DeclaredAttribute(*this, *declared);
+    }
     AddedAttribute* const added = AddAttributeSilently(iName, iTypeCode, iFlag);
     if (added != nullptr)
         AddReference();

@@ -13,6 +13,7 @@
 #include "FeatureType.h"
 #include "ORXISpecObject.h"
 #include "SlotBlock.h"
+#include "SlotMaking.h"
 #include "Slots.h"
 #include "Subscribers.h"
 
@@ -77,8 +78,13 @@ public:
     /// @{
     /// Declared and added ones by name; null when there is none.
     FeatureKey* FindKey(std::string_view iName) const noexcept;
-    /// The declared keys from the root type down, then the added ones.
+    /// The declared keys from the root type down, optional ones that have not been added among them, then the added
+    /// ones.
     std::vector<FeatureKey*> Keys() const;
+    /// False for an optional attribute that has not been added to this object. Of a declared key of the type.
+    bool IsMade(const FeatureKey& iKey) const noexcept { return !iKey.IsOptional() || Mark(iKey); }
+    /// Adds an optional attribute, with the value of the start-up.
+    void MakeOptional(const FeatureKey& iKey) noexcept { Mark(iKey) = true; }
     /// This object's own key for a key of any origin; null when the object does not carry the attribute.
     FeatureKey* Carried(ORXISpecAttrKey* iKey) const noexcept;
 
@@ -179,6 +185,11 @@ private:
     void* Slot(const FeatureKey& iKey) const noexcept
     {
         return iKey.IsAdded() ? iKey.Home()->Slot() : m_block->At(iKey.Offset());
+    }
+    /// Of an optional attribute.
+    bool& Mark(const FeatureKey& iKey) const noexcept
+    {
+        return *static_cast<bool*>(m_block->At(iKey.Offset() + SlotMaking::MarkOffset(iKey.Kind())));
     }
     /// The keys of the declared attributes that have slots here.
     std::vector<FeatureKey*>::const_iterator SlotsEnd() const noexcept;

@@ -33,6 +33,11 @@ constexpr std::size_t Rounded(std::size_t iBytes) noexcept
 
 std::size_t SlotMaking::BytesOf(const FeatureKey::Traits& iTraits) noexcept
 {
+    return MarkOffset(iTraits) + (iTraits.isOptional ? Rounded(sizeof(bool)) : 0);
+}
+
+std::size_t SlotMaking::MarkOffset(const FeatureKey::Traits& iTraits) noexcept
+{
     if (iTraits.type == tk_list)
         return Rounded(sizeof(ListSlot));
     return Rounded(iTraits.knowledge != nullptr ? sizeof(AttributeParm) : sizeof(ObjectSlot));
@@ -40,6 +45,8 @@ std::size_t SlotMaking::BytesOf(const FeatureKey::Traits& iTraits) noexcept
 
 void SlotMaking::Make(void* iPlace, FeatureObject& iObject, const FeatureKey& iKey, SlotBlock& iBlock)
 {
+    if (iKey.IsOptional())
+        ::new (static_cast<std::byte*>(iPlace) + MarkOffset(iKey.Kind())) bool(false);
     switch (iKey.Slot())
     {
     case SlotKind::Value:

@@ -14,7 +14,10 @@ class SlotBlock;
 class SlotMaking
 {
 public:
+    /// That of an optional attribute ends in a mark that says whether it has been added.
     static std::size_t BytesOf(const FeatureKey::Traits& iTraits) noexcept;
+    /// Where the mark is, from the slot's own place.
+    static std::size_t MarkOffset(const FeatureKey::Traits& iTraits) noexcept;
 
     /// An empty slot of the key's kind: unset, no object, no entries.
     static void Make(void* iPlace, FeatureObject& iObject, const FeatureKey& iKey, SlotBlock& iBlock);

@@ -22,9 +22,13 @@ struct AttributeDeclaration
     /// Code of the entries of a list, otherwise 0.
     int listType = 0;
     /// Texts of an enumeration or of a list of enumerations.
-    std::vector<std::string> texts;
+    std::vector<std::string> texts{};
+    /// Of a real or of a list of reals: what it measures; empty for a mere number.
+    std::string unit{};
+    /// An object carries the attribute only once it has been added to it.
+    bool isOptional = false;
     /// Type of a component that comes into being with its owner; empty for none.
-    std::string componentType;
+    std::string componentType{};
 };
 
 /// A value of the type's start-up.

@@ -16,11 +16,14 @@ void AddMissingAttributes(const TypeRegistry& iRegistry, FeatureType& ioType, co
         if (ioType.FindKey(attribute.name) != nullptr)
             continue;
         const int code = attribute.type == tk_list ? attribute.listType : attribute.type;
-        KnowledgeType* const knowledge =
-            code == tk_enum ? KnowledgeType::MakeEnumeration(ioType.Name() + '.' + attribute.name, attribute.texts)
-                            : KnowledgeType::OfTypeCode(code);
+        std::string why;
+        KnowledgeType* knowledge = KnowledgeType::OfTypeCode(code);
+        if (code == tk_enum)
+            knowledge = KnowledgeType::MakeEnumeration(ioType.Name() + '.' + attribute.name, attribute.texts);
+        else if (!attribute.unit.empty())
+            knowledge = KnowledgeType::RealOfUnit(attribute.unit, why);
         ioType.AddKey({ORXUnicodeString(attribute.name.c_str(), attribute.name.size()), attribute.type,
-                       attribute.listType, knowledge},
+                       attribute.listType, knowledge, attribute.isOptional},
                       iRegistry.Find(attribute.componentType));
     }
 }

@@ -46,6 +46,10 @@ struct AttributeInfo
     int listType = 0;
     /// Texts of an enumeration, also of a list of enumerations.
     std::vector<std::string> values;
+    /// SI unit of reals that measure something, also of a list of reals.
+    std::string unit;
+    /// Carried only by objects that it has been added to.
+    bool optional = false;
     /// Type that declares it; empty for an attribute that was added to the object alone.
     std::string declaredBy;
     bool added = false;

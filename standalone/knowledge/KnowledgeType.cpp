@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <map>
 #include <mutex>
 #include <typeinfo>
 
 #include "ORXTypeCode.h"
+#include "Quantity.h"
 
 namespace VYRStandalone
 {
@@ -82,6 +84,23 @@ KnowledgeType* KnowledgeType::MakeEnumeration(const std::string& iName, const st
     static std::vector<KnowledgeType*>* const kept = new std::vector<KnowledgeType*>;
     const std::lock_guard<std::mutex> lock(*mutex);
     kept->push_back(type);
+    return type;
+}
+
+KnowledgeType* KnowledgeType::RealOfUnit(const std::string& iUnit, std::string& oWhy)
+{
+    const Quantity* const quantity = Quantity::OfUnit(iUnit, oWhy);
+    if (quantity == nullptr)
+        return nullptr;
+    static std::mutex* const mutex = new std::mutex;
+    static std::map<const Quantity*, KnowledgeType*>* const types = new std::map<const Quantity*, KnowledgeType*>;
+    const std::lock_guard<std::mutex> lock(*mutex);
+    KnowledgeType*& type = (*types)[quantity];
+    if (type == nullptr)
+    {
+        type = ::new KnowledgeType(ValueKind::Real, "Real [" + quantity->SiUnit() + ']', Real());
+        type->m_quantity = quantity;
+    }
     return type;
 }
 
@@ -164,7 +183,7 @@ bool KnowledgeType::FromText(const ORXUnicodeString& iText, Scalar& oValue) cons
     case ValueKind::Real:
     {
         double real = 0.0;
-        if (!ReadReal(iText.View(), real))
+        if (m_quantity != nullptr ? !m_quantity->Read(iText.View(), real) : !ReadReal(iText.View(), real))
             return false;
         oValue = real;
         return true;
@@ -205,6 +224,8 @@ bool KnowledgeType::FromScalar(const KnowledgeType& iType, const Scalar& iValue,
         return FromInteger(*integer, oValue);
     if (iType.m_kind != m_kind)
         return false;
+    if (m_quantity != nullptr && iType.m_quantity != nullptr && !m_quantity->IsSame(*iType.m_quantity))
+        return false;
     oValue = iValue;
     return true;
 }
@@ -229,7 +250,11 @@ bool KnowledgeType::FromDocument(const DeclaredScalar& iValue, Scalar& oValue, s
             return true;
         if (text != nullptr && FromText(ORXUnicodeString(text->c_str(), text->size()), oValue))
             return true;
-        oWhy = text != nullptr ? "no number: " + Quoted(*text) : "a number is wanted";
+        oWhy = "a number is wanted";
+        if (text != nullptr)
+            oWhy = m_quantity == nullptr || m_quantity->SiUnit().empty()
+                       ? "no number: " + Quoted(*text)
+                       : "no number, or no unit like " + Quoted(m_quantity->SiUnit()) + ": " + Quoted(*text);
         return false;
     case ValueKind::Integer:
         if (integer != nullptr && FromInteger(*integer, oValue))
@@ -263,7 +288,11 @@ ORXUnicodeString KnowledgeType::ToText(const Scalar& iValue) const
     if (const ORXUnicodeString* const text = std::get_if<ORXUnicodeString>(&iValue))
         return *text;
     if (const double* const real = std::get_if<double>(&iValue))
-        return RealText(*real);
+    {
+        if (m_quantity == nullptr || m_quantity->SiUnit().empty())
+            return RealText(*real);
+        return RealText(*real) + (' ' + m_quantity->SiUnit()).c_str();
+    }
     if (const bool* const boolean = std::get_if<bool>(&iValue))
         return *boolean ? "true" : "false";
     const int* const integer = std::get_if<int>(&iValue);
@@ -334,7 +363,7 @@ ORXUnicodeString RealText(double iValue)
     return ORXUnicodeString(text, static_cast<std::size_t>(end.ptr - text));
 }
 
-bool ReadReal(std::string_view iText, double& oValue)
+bool ReadLeadingReal(std::string_view iText, double& oValue, std::string_view& oRest)
 {
     std::string_view number = WithoutBlanks(iText);
     const bool isNegative = !number.empty() && number.front() == '-';
@@ -351,9 +380,20 @@ bool ReadReal(std::string_view iText, double& oValue)
         return false;
     double value = 0.0;
     const std::from_chars_result end = std::from_chars(number.data(), number.data() + number.size(), value, format);
-    if (end.ec != std::errc() || end.ptr != number.data() + number.size() || !std::isfinite(value))
+    if (end.ec != std::errc() || !std::isfinite(value))
         return false;
     oValue = isNegative ? -value : value;
+    oRest = WithoutBlanks(number.substr(static_cast<std::size_t>(end.ptr - number.data())));
+    return true;
+}
+
+bool ReadReal(std::string_view iText, double& oValue)
+{
+    std::string_view rest;
+    double value = 0.0;
+    if (!ReadLeadingReal(iText, value, rest) || !rest.empty())
+        return false;
+    oValue = value;
     return true;
 }
 } // namespace VYRStandalone

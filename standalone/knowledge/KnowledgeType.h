@@ -9,6 +9,8 @@
 
 namespace VYRStandalone
 {
+class Quantity;
+
 enum class ValueKind : unsigned char
 {
     Real,
@@ -19,7 +21,8 @@ enum class ValueKind : unsigned char
 };
 
 /**
- * A knowledge type: one of the five base types, or an enumeration of its own, which derives from "Enum". Immortal.
+ * A knowledge type: one of the five base types, an enumeration of its own, which derives from "Enum", or the reals of a
+ * quantity, which derive from "Real". Immortal.
  *
  * It knows how values of its kind are read and written, so that attributes, volatile parameters and documents agree.
  */
@@ -36,6 +39,10 @@ public:
     /// A new enumeration. Borrowed, valid until the process ends.
     static KnowledgeType* MakeEnumeration(const std::string& iName, const std::vector<std::string>& iTexts);
 
+    /// The reals of a quantity, which derive from `Real`; one type for each SI unit. Borrowed, valid until the process
+    /// ends; null for a text that is no unit. @param oWhy receives what is wrong then
+    static KnowledgeType* RealOfUnit(const std::string& iUnit, std::string& oWhy);
+
     /// The base type of a scalar type code; null for a code that is no value.
     static KnowledgeType* OfTypeCode(int iTypeCode);
 
@@ -44,6 +51,8 @@ public:
 
     ValueKind Kind() const noexcept { return m_kind; }
     const ORXUnicodeString& Name() const noexcept { return m_name; }
+    /// What a real measures; null for a mere number.
+    const Quantity* Measured() const noexcept { return m_quantity; }
     /// Texts of an enumeration, the first has the number 1.
     const std::vector<ORXUnicodeString>& Texts() const noexcept { return m_texts; }
     /// Number of a text; 0 when the enumeration has no such text.
@@ -54,12 +63,14 @@ public:
     bool FromReal(double iValue, Scalar& oValue) const;
     bool FromInteger(int iValue, Scalar& oValue) const;
     bool FromText(const ORXUnicodeString& iText, Scalar& oValue) const;
-    /// From a value of another parameter; `iType` is the value's type, and the value is not unset.
+    /// From a value of another parameter: a number of another quantity is of the wrong kind. `iType` is the value's
+    /// type, and the value is not unset.
     bool FromScalar(const KnowledgeType& iType, const Scalar& iValue, Scalar& oValue) const;
 
     /**
-     * From a document: a real takes numbers and whole number texts, an integer integers, an enumeration its exact
-     * texts. Unset stays unset. @param oWhy receives what is wrong, such as "no text of the enumeration: abc"
+     * From a document: a real takes numbers and whole number texts, with a unit where it has a quantity, an integer
+     * integers, an enumeration its exact texts. Unset stays unset. @param oWhy receives what is wrong, such as "no text
+     * of the enumeration: abc"
      */
     bool FromDocument(const DeclaredScalar& iValue, Scalar& oValue, std::string& oWhy) const;
 
@@ -83,11 +94,16 @@ private:
     ValueKind m_kind;
     ORXUnicodeString m_name;
     KnowledgeType* m_base;
+    const Quantity* m_quantity = nullptr;
     std::vector<ORXUnicodeString> m_texts;
 };
 
 /// The shortest decimal that reads back the same.
 ORXUnicodeString RealText(double iValue);
+
+/// Reads the longest number that a text begins with, apart from blanks. @param oRest what stands behind it, without
+/// blanks around it
+bool ReadLeadingReal(std::string_view iText, double& oValue, std::string_view& oRest);
 
 /// Reads a whole text, apart from blanks around it, as a finite number in C syntax.
 bool ReadReal(std::string_view iText, double& oValue);

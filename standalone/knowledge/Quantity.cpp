@@ -1,0 +1,201 @@
+#include "Quantity.h"
+
+#include <cmath>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <unordered_map>
+
+#include <udunits2.h>
+
+#include "KnowledgeType.h"
+
+namespace VYRStandalone
+{
+namespace
+{
+struct FreeUnit
+{
+    void operator()(ut_unit* iUnit) const { ut_free(iUnit); }
+};
+using UnitPtr = std::unique_ptr<ut_unit, FreeUnit>;
+
+/// A number in a unit is `factor` times it plus `offset` in SI.
+struct Conversion
+{
+    double factor;
+    double offset;
+};
+
+constexpr std::size_t MostRemembered = 4096;
+
+/// The units library and what this file keeps beside it. Everything in it belongs to who holds the lock.
+struct UnitTable
+{
+    std::mutex mutex;
+    ut_system* system = nullptr;
+    bool isRead = false;
+    std::map<std::string, const Quantity*> quantities;
+    /// By SI unit, a line break and the unit.
+    std::unordered_map<std::string, Conversion> conversions;
+
+    /// Null when the library's own files are missing.
+    ut_system* System()
+    {
+        if (!isRead)
+        {
+            ut_set_error_message_handler(ut_ignore);
+            system = ut_read_xml(nullptr);
+            isRead = true;
+        }
+        return system;
+    }
+};
+
+UnitTable& Table()
+{
+    static UnitTable* const table = new UnitTable;
+    return *table;
+}
+
+/// What a unit is made of: its coherent part, and how it converts to that.
+struct Parts
+{
+    UnitPtr coherent;
+    Conversion conversion{1.0, 0.0};
+};
+
+ut_status TakeWhole(const ut_unit* iUnit, void* oParts)
+{
+    static_cast<Parts*>(oParts)->coherent.reset(ut_clone(iUnit));
+    return UT_SUCCESS;
+}
+
+ut_status TakeBasic(const ut_unit* iUnit, void* oParts)
+{
+    return TakeWhole(iUnit, oParts);
+}
+
+ut_status TakeProduct(const ut_unit* iUnit, int, const ut_unit* const*, const int*, void* oParts)
+{
+    return TakeWhole(iUnit, oParts);
+}
+
+ut_status TakeScaled(const ut_unit*, double iScale, const ut_unit* iUnderlying, double iOrigin, void* oParts)
+{
+    Parts& parts = *static_cast<Parts*>(oParts);
+    parts.coherent.reset(ut_clone(iUnderlying));
+    parts.conversion = {iScale, iScale * iOrigin};
+    return UT_SUCCESS;
+}
+
+ut_status RefuseTime(const ut_unit*, const ut_unit*, double, void*)
+{
+    return UT_SUCCESS;
+}
+
+ut_status RefuseLogarithm(const ut_unit*, double, const ut_unit*, void*)
+{
+    return UT_SUCCESS;
+}
+
+/// Without a coherent part for what is no unit of a scale: points in time, levels.
+Parts Analyse(ut_system* iSystem, const std::string& iUnit)
+{
+    static const ut_visitor visitor = {TakeBasic, TakeProduct, TakeScaled, RefuseTime, RefuseLogarithm};
+    Parts parts;
+    const UnitPtr unit(ut_parse(iSystem, iUnit.c_str(), UT_UTF8));
+    if (unit != nullptr)
+        ut_accept_visitor(unit.get(), &visitor, &parts);
+    return parts;
+}
+
+std::string Formatted(const ut_unit* iUnit, unsigned iOptions)
+{
+    char text[256];
+    const int length = ut_format(iUnit, text, sizeof text, iOptions);
+    return length > 0 && static_cast<std::size_t>(length) < sizeof text
+               ? std::string(text, static_cast<std::size_t>(length))
+               : std::string();
+}
+
+/// A unit's text does not begin as a number does, or "5 2 m" would be ten metres.
+bool LooksLikeUnit(std::string_view iText)
+{
+    return iText.find_first_of("0123456789.+-") != 0 || iText.substr(0, 2) == "1/" || iText == "1";
+}
+} // namespace
+
+const Quantity* Quantity::OfUnit(const std::string& iUnit, std::string& oWhy)
+{
+    UnitTable& table = Table();
+    const std::lock_guard<std::mutex> lock(table.mutex);
+    if (table.System() == nullptr)
+    {
+        oWhy = "units cannot be read: the files of the units library are missing";
+        return nullptr;
+    }
+    Parts parts;
+    if (!iUnit.empty() && LooksLikeUnit(iUnit))
+        parts = Analyse(table.System(), iUnit);
+    if (parts.coherent == nullptr)
+    {
+        oWhy = "unknown unit \"" + iUnit + '"';
+        return nullptr;
+    }
+    const bool isCoherent = parts.conversion.factor == 1.0 && parts.conversion.offset == 0.0;
+    const bool isNumber = ut_is_dimensionless(parts.coherent.get()) != 0 &&
+                          Formatted(parts.coherent.get(), UT_ASCII | UT_DEFINITION) == "1";
+    // A named unit for a named one, as "Pa" for "kPa"; but "kJ/kg" has nothing to do with the name for its dimension.
+    const bool isCompound = iUnit.find_first_of(" ./*^-0123456789") != std::string::npos;
+    std::string siUnit = iUnit;
+    if (!isCoherent)
+        siUnit = Formatted(parts.coherent.get(), isCompound ? UT_ASCII | UT_DEFINITION : UT_ASCII);
+    if (isNumber)
+        siUnit.clear();
+    const Quantity*& quantity = table.quantities[siUnit];
+    if (quantity == nullptr)
+    {
+        const std::string dimension = Formatted(parts.coherent.get(), UT_ASCII | UT_DEFINITION);
+        quantity = new Quantity(siUnit, dimension, parts.coherent.release());
+    }
+    return quantity;
+}
+
+bool Quantity::Read(std::string_view iText, double& oValue) const
+{
+    std::string_view unit;
+    double number = 0.0;
+    if (!ReadLeadingReal(iText, number, unit))
+        return false;
+    if (!unit.empty())
+        return Convert(unit, number, oValue);
+    oValue = number;
+    return true;
+}
+
+bool Quantity::Convert(std::string_view iUnit, double iNumber, double& oValue) const
+{
+    if (!LooksLikeUnit(iUnit))
+        return false;
+    const std::string name(iUnit);
+    const std::string entry = m_siUnit + '\n' + name;
+    UnitTable& table = Table();
+    const std::lock_guard<std::mutex> lock(table.mutex);
+    auto known = table.conversions.find(entry);
+    if (known == table.conversions.end())
+    {
+        const Parts parts = Analyse(table.System(), name);
+        if (parts.coherent == nullptr || ut_compare(parts.coherent.get(), m_unit) != 0)
+            return false;
+        if (table.conversions.size() >= MostRemembered)
+            table.conversions.clear();
+        known = table.conversions.emplace(entry, parts.conversion).first;
+    }
+    const double value = iNumber * known->second.factor + known->second.offset;
+    if (!std::isfinite(value))
+        return false;
+    oValue = value;
+    return true;
+}
+} // namespace VYRStandalone
