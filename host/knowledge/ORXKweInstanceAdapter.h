@@ -38,6 +38,8 @@ public:
     HRESULT AddInstanceListener(const ORXBaseUnknown_var& iListener);
     /// @return S_OK; S_FALSE when the listener is not subscribed
     HRESULT RemoveInstanceListener(const ORXBaseUnknown_var& iListener);
+    /// Lets all listeners go, as when the object's model is closed.
+    void RemoveAllInstanceListeners();
     HRESULT AdviseDynamicAttributeAdded(const ORXUnicodeString& iName);
     HRESULT AdviseDynamicAttributeRemoved(const ORXUnicodeString& iName);
     HRESULT AdviseDynamicAttributeRenamed(const ORXUnicodeString& iOldName, const ORXUnicodeString& iNewName);

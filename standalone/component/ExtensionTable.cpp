@@ -4,6 +4,7 @@
 
 #include "Census.h"
 #include "ORXComponentLink.h"
+#include "ORXKweInstanceAdapter.h"
 
 namespace VYRStandalone
 {
@@ -72,6 +73,7 @@ void ExtensionTable::RemoveLinksTo(const ORXBaseUnknown& iFacet) noexcept
 
 void ExtensionTable::Clear()
 {
+    m_isClearing = true;
     m_links.clear();
     while (!m_instances.empty())
     {
@@ -83,6 +85,15 @@ void ExtensionTable::Clear()
         Census::Died(Census::Extension);
         delete instance;
     }
+    m_isClearing = false;
+}
+
+void ExtensionTable::DropListeners()
+{
+    // By position: what a listener lets go may change the table.
+    for (std::size_t index = 0; index < m_instances.size(); ++index)
+        if (ORXKweInstanceAdapter* const adapter = dynamic_cast<ORXKweInstanceAdapter*>(m_instances[index].instance))
+            adapter->RemoveAllInstanceListeners();
 }
 
 void ExtensionTable::Forget(const ORXMetaClass& iClass) noexcept

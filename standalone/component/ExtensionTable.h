@@ -38,8 +38,12 @@ public:
     void AddLink(const IID& iInterface, ORXBaseUnknown& iFacet);
     void RemoveLinksTo(const ORXBaseUnknown& iFacet) noexcept;
 
-    /// Deletes the instances, the youngest first.
+    /// Deletes the instances, the youngest first. None is made meanwhile.
     void Clear();
+    bool IsClearing() const noexcept { return m_isClearing; }
+
+    /// Lets go of what instances that listen to others hold, as far as the host knows it.
+    void DropListeners();
 
 private:
     struct Instance
@@ -56,6 +60,7 @@ private:
 
     void Forget(const ORXMetaClass& iClass) noexcept;
 
+    bool m_isClearing = false;
     std::vector<Instance> m_instances;
     std::vector<Link> m_links;
 };

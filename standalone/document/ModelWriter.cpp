@@ -412,15 +412,23 @@ void ModelWriter::WriteReference(const FeatureObject& iTarget)
     m_writer.EndObject();
 }
 
-/// Those that are named, then those that types of the objects come from and that have to be found again.
+/// Those that are named, then those that say something of the types of the objects and that have to be found again. The
+/// catalog that a base type comes from is used by that of the type itself.
 std::vector<std::string> CatalogsOf(const std::vector<FeatureObject*>& iObjects, std::vector<std::string> iNamed)
 {
+    std::unordered_set<const FeatureType*> seen;
     for (const FeatureObject* object : iObjects)
     {
-        const std::string& catalog = object->Type().Catalog();
-        const bool isKnown = std::find(iNamed.begin(), iNamed.end(), catalog) != iNamed.end();
-        if (!catalog.empty() && catalog != BuiltInCatalog && !isKnown)
-            iNamed.push_back(catalog);
+        if (!seen.insert(&object->Type()).second)
+            continue;
+        for (const FeatureType* type = &object->Type(); type != nullptr; type = type->Base())
+        {
+            const std::vector<std::string>& catalogs = type->Catalogs();
+            for (std::size_t index = type == &object->Type() ? 0 : 1; index < catalogs.size(); ++index)
+                if (catalogs[index] != BuiltInCatalog &&
+                    std::find(iNamed.begin(), iNamed.end(), catalogs[index]) == iNamed.end())
+                    iNamed.push_back(catalogs[index]);
+        }
     }
     return iNamed;
 }

@@ -1,6 +1,6 @@
 #include "ObjectWalk.h"
 
-#include <algorithm>
+#include <unordered_set>
 
 #include "Container.h"
 #include "FeatureObject.h"
@@ -10,8 +10,9 @@ namespace VYRStandalone
 std::vector<FeatureObject*> ComponentsOf(const FeatureObject& iObject)
 {
     std::vector<FeatureObject*> components;
+    std::unordered_set<const FeatureObject*> seen;
     const auto add = [&](FeatureObject* iComponent) {
-        if (iComponent != nullptr && std::find(components.begin(), components.end(), iComponent) == components.end())
+        if (iComponent != nullptr && seen.insert(iComponent).second)
             components.push_back(iComponent);
     };
     for (const FeatureKey* key : iObject.Keys())
@@ -27,19 +28,25 @@ std::vector<FeatureObject*> ComponentsOf(const FeatureObject& iObject)
     return components;
 }
 
-std::vector<FeatureObject*> AllObjects(const Container& iContainer)
+void AppendTree(FeatureObject& iObject, std::vector<FeatureObject*>& ioAll)
 {
-    std::vector<FeatureObject*> all;
     // What is still to come, the next at the end.
-    std::vector<FeatureObject*> coming(iContainer.Objects().rbegin(), iContainer.Objects().rend());
+    std::vector<FeatureObject*> coming{&iObject};
     while (!coming.empty())
     {
         FeatureObject* object = coming.back();
         coming.pop_back();
-        all.push_back(object);
+        ioAll.push_back(object);
         const std::vector<FeatureObject*> components = ComponentsOf(*object);
         coming.insert(coming.end(), components.rbegin(), components.rend());
     }
+}
+
+std::vector<FeatureObject*> AllObjects(const Container& iContainer)
+{
+    std::vector<FeatureObject*> all;
+    for (FeatureObject* object : iContainer.Objects())
+        AppendTree(*object, all);
     return all;
 }
 } // namespace VYRStandalone

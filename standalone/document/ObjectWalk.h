@@ -20,6 +20,9 @@ inline constexpr std::size_t DeepestNesting = 200;
 /// Components of an object, each once, in the order of their attributes. Borrowed.
 std::vector<FeatureObject*> ComponentsOf(const FeatureObject& iObject);
 
+/// Appends an object, its components and what is inside these. Borrowed.
+void AppendTree(FeatureObject& iObject, std::vector<FeatureObject*>& ioAll);
+
 /// Top-level objects, each followed by its components and what is inside these. Borrowed.
 std::vector<FeatureObject*> AllObjects(const Container& iContainer);
 } // namespace VYRStandalone

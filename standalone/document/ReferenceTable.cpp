@@ -33,8 +33,16 @@ void ReferenceTable::AddReference(const DocumentNode& iReference, FeatureObject&
 
 void ReferenceTable::Resolve(const std::string& iFile, const Container& iContainer)
 {
-    for (const Reference& reference : m_references)
-        Store(iFile, reference, Target(iFile, iContainer, reference));
+    // A list is filled in one go: its references stand behind one another, but for those inside its components.
+    for (std::size_t first = 0; first < m_references.size();)
+    {
+        std::size_t end = first + 1;
+        while (end < m_references.size() && m_references[end].object == m_references[first].object &&
+               m_references[end].key == m_references[first].key)
+            ++end;
+        Store(iFile, iContainer, first, end);
+        first = end;
+    }
 }
 
 FeatureObject& ReferenceTable::Target(const std::string& iFile, const Container& iContainer,
@@ -79,20 +87,26 @@ void ReferenceTable::FillNames(const Container& iContainer)
     }
 }
 
-void ReferenceTable::Store(const std::string& iFile, const Reference& iReference, FeatureObject& iTarget)
+void ReferenceTable::Store(const std::string& iFile, const Container& iContainer, std::size_t iFirst, std::size_t iEnd)
 {
-    FeatureObject& object = *iReference.object;
-    const FeatureKey& key = *iReference.key;
-    // A component may stand several times in the list that holds it, and nowhere else.
-    if (key.Owns() && (iTarget.Owner() != &object || iTarget.OwnerKey() != &key))
-        throw DocumentError(iFile, iReference.path, "a component can only be referred to from the list that holds it");
+    FeatureObject& object = *m_references[iFirst].object;
+    const FeatureKey& key = *m_references[iFirst].key;
     if (key.Slot() == SlotKind::Object)
     {
-        object.StoreObject(key, &iTarget);
+        object.StoreObject(key, &Target(iFile, iContainer, m_references[iFirst]));
         return;
     }
     auto entries = std::get<std::vector<FeatureObject*>>(object.Entries(key));
-    entries.at(iReference.entry) = &iTarget;
+    for (std::size_t index = iFirst; index < iEnd; ++index)
+    {
+        const Reference& reference = m_references[index];
+        FeatureObject& target = Target(iFile, iContainer, reference);
+        // A component may stand several times in the list that holds it, and nowhere else.
+        if (key.Owns() && (target.Owner() != &object || target.OwnerKey() != &key))
+            throw DocumentError(iFile, reference.path,
+                                "a component can only be referred to from the list that holds it");
+        entries.at(reference.entry) = &target;
+    }
     object.StoreObjects(key, entries);
 }
 } // namespace VYRStandalone

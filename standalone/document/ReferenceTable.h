@@ -51,7 +51,8 @@ private:
     FeatureObject& Target(const std::string& iFile, const Container& iContainer, const Reference& iReference);
     FeatureObject& TargetByName(const std::string& iFile, const Container& iContainer, const Reference& iReference);
     void FillNames(const Container& iContainer);
-    static void Store(const std::string& iFile, const Reference& iReference, FeatureObject& iTarget);
+    /// References of one attribute.
+    void Store(const std::string& iFile, const Container& iContainer, std::size_t iFirst, std::size_t iEnd);
 
     std::unordered_map<std::int64_t, Identified> m_ids;
     std::vector<Reference> m_references;

@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <set>
 
-#include "FeatureType.h"
+#include "FeatureObject.h"
+#include "StartupValues.h"
 #include "TypeRegistry.h"
 
 namespace VYRStandalone
@@ -65,7 +66,10 @@ CatalogPlan::CatalogPlan(const TypeRegistry& iRegistry, const CatalogDeclaration
     OrderByParts();
     for (std::size_t type = 0; type < m_catalog.types.size(); ++type)
         for (std::size_t value = 0; value < m_catalog.types[type].values.size(); ++value)
+        {
             CheckValue(type, value);
+            CheckStartupInUse(type, value);
+        }
 }
 
 void CatalogPlan::CollectTypes()
@@ -354,6 +358,25 @@ std::vector<std::string> CatalogPlan::PartsOf(const std::string& iType) const
                 parts.push_back(key->ComponentType()->Name());
     }
     return parts;
+}
+
+void CatalogPlan::CheckStartupInUse(std::size_t iType, std::size_t iValue) const
+{
+    const TypeDeclaration& declaration = m_catalog.types[iType];
+    const FeatureType* const declared = Find(declaration.name)->declared;
+    if (declared == nullptr || !declared->IsFrozen())
+        return;
+    const PrototypeValue& value = declaration.values[iValue];
+    // Of several values for one place the last one counts.
+    for (std::size_t later = iValue + 1; later < declaration.values.size(); ++later)
+        if (declaration.values[later].path == value.path)
+            return;
+    const FeatureObject* holder = declared->Prototype();
+    for (std::size_t step = 0; step + 1 < value.path.size() && holder != nullptr; ++step)
+        holder = holder->Object(*holder->FindKey(value.path[step]));
+    if (holder == nullptr || !StartupValues::Holds(*holder, *holder->FindKey(value.path.back()), value))
+        throw DeclarationError(iType, none, iValue,
+                               "type " + Quoted(declaration.name) + " is in use, and its start-up holds another value");
 }
 
 CatalogPlan::Attribute CatalogPlan::Describe(const FeatureKey& iKey)

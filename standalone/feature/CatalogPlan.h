@@ -63,6 +63,8 @@ private:
     void CheckAttribute(std::size_t iType, std::size_t iAttribute) const;
     void OrderByParts();
     void CheckValue(std::size_t iType, std::size_t iValue) const;
+    /// What a start-up in use holds must not change any more.
+    void CheckStartupInUse(std::size_t iType, std::size_t iValue) const;
 
     /// Null for an unknown type.
     const Type* Find(const std::string& iName) const;

@@ -1,12 +1,15 @@
 #include "Container.h"
 
 #include <algorithm>
+#include <iterator>
+#include <new>
 #include <typeinfo>
 #include <utility>
 
 #include "Census.h"
 #include "FeatureObject.h"
 #include "Instruments.h"
+#include "ObjectWalk.h"
 
 namespace VYRStandalone
 {
@@ -51,28 +54,60 @@ void Container::Append(FeatureObject& ioObject)
 
 void Container::Remove(FeatureObject& ioObject)
 {
-    const auto found = std::find(m_objects.begin(), m_objects.end(), &ioObject);
-    if (found == m_objects.end())
+    // From the end, where what is taken out again has mostly just been made.
+    const auto found = std::find(m_objects.rbegin(), m_objects.rend(), &ioObject);
+    if (found == m_objects.rend())
         return;
-    m_objects.erase(found);
+    m_objects.erase(std::next(found).base());
     ioObject.SetContainer(nullptr);
     ioObject.DropReference();
 }
 
+/// Where there is no memory for it, the object is not kept in mind; that matters only to objects that hold each other.
+void Container::AddStray(FeatureObject& ioObject) noexcept
+{
+    try
+    {
+        m_strays.insert(&ioObject);
+        ioObject.SetStrayOf(this);
+    }
+    catch (const std::bad_alloc&)
+    {
+    }
+}
+
+void Container::RemoveStray(FeatureObject& ioObject) noexcept
+{
+    m_strays.erase(&ioObject);
+    ioObject.SetStrayOf(nullptr);
+}
+
 void Container::Close()
 {
-    const std::vector<FeatureObject*> objects = std::exchange(m_objects, {});
-    // References first, so that objects that refer to each other, also in a ring, can die.
+    std::vector<FeatureObject*> objects = std::exchange(m_objects, {});
+    for (FeatureObject* const object : objects)
+        object->SetContainer(nullptr);
+    for (FeatureObject* const stray : std::exchange(m_strays, {}))
+    {
+        stray->AddReference();
+        stray->SetStrayOf(nullptr);
+        objects.push_back(stray);
+    }
+    std::vector<FeatureObject*> all;
     std::vector<FeatureObject*> references;
     for (FeatureObject* const object : objects)
     {
-        object->SetContainer(nullptr);
+        AppendTree(*object, all);
         object->TakeReferences(references);
     }
-    for (FeatureObject* const object : references)
-        object->DropReference();
-    for (FeatureObject* const object : objects)
-        object->DropReference();
+    // Held, since a listener that goes may take others along.
+    for (FeatureObject* const object : all)
+        object->AddReference();
+    for (FeatureObject* const object : all)
+        object->Extensions().DropListeners();
+    for (const std::vector<FeatureObject*>* const held : {&references, &all, &objects})
+        for (FeatureObject* const object : *held)
+            object->DropReference();
 }
 
 HRESULT Container::QueryInterface(const IID& iInterface, void** oInterface)

@@ -1,6 +1,7 @@
 #ifndef Container_H
 #define Container_H
 
+#include <unordered_set>
 #include <vector>
 
 #include "ORXIContainer.h"
@@ -31,7 +32,15 @@ public:
     /// Borrowed, valid until the container changes.
     const std::vector<FeatureObject*>& Objects() const noexcept { return m_objects; }
 
-    /// Lets all objects go. References between them are cleared first, so that objects that refer to each other die.
+    /// @name Objects that have left the model and live on. They are kept in mind, so that those that hold each other
+    /// die with the model.
+    /// @{
+    void AddStray(FeatureObject& ioObject) noexcept;
+    void RemoveStray(FeatureObject& ioObject) noexcept;
+    /// @}
+
+    /// Lets all objects go. What they hold of each other, by references and by listening, is cleared first, so that
+    /// objects that hold each other die.
     void Close();
 
     using ORXBaseUnknown::QueryInterface;
@@ -43,6 +52,7 @@ private:
     ~Container() override;
 
     std::vector<FeatureObject*> m_objects;
+    std::unordered_set<FeatureObject*> m_strays;
 };
 } // namespace VYRStandalone
 

@@ -1,6 +1,7 @@
 #include "FeatureObject.h"
 
 #include <algorithm>
+#include <iterator>
 #include <typeinfo>
 
 #include "Census.h"
@@ -31,6 +32,7 @@ FeatureObject::FeatureObject(FeatureType& iType, const ORXUnicodeString& iName, 
 FeatureObject::~FeatureObject()
 {
     m_isDying = true;
+    LeaveStrays();
     // While the attributes are still there, since destructors of extensions may look at them.
     m_extensions.Clear();
     DropSlots();
@@ -93,9 +95,14 @@ Container* FeatureObject::Home() const noexcept
 
 std::string FeatureObject::Path() const
 {
-    if (m_owner != nullptr)
-        return m_owner->Path() + '/' + std::string(m_ownerKey->Name().View());
-    return m_isPrototype ? '[' + m_type->Name() + ']' : std::string(m_name.View());
+    std::vector<const FeatureObject*> owners{this};
+    while (owners.back()->m_owner != nullptr)
+        owners.push_back(owners.back()->m_owner);
+    const FeatureObject& top = *owners.back();
+    std::string path = top.m_isPrototype ? '[' + top.m_type->Name() + ']' : std::string(top.m_name.View());
+    for (auto object = owners.rbegin() + 1; object != owners.rend(); ++object)
+        path.append(1, '/').append((*object)->m_ownerKey->Name().View());
+    return path;
 }
 
 const ORXUnicodeString* FeatureObject::Alias() const noexcept
@@ -252,9 +259,39 @@ unsigned int FeatureObject::DropReference()
     {
         // Destructors may hand the object out for a moment; that must not delete it again.
         m_references = 1;
-        delete this;
+        Die();
     }
     return left;
+}
+
+namespace
+{
+/// The objects whose end has been found while another one ends on this thread. An object that ends has no owner any
+/// more, so that the chain goes by its link upward.
+struct Dying
+{
+    bool isBusy = false;
+    FeatureObject* first = nullptr;
+};
+thread_local constinit Dying dying;
+} // namespace
+
+/// One after the other, since a deep tree of components would end the stack.
+void FeatureObject::Die()
+{
+    LeaveStrays();
+    m_owner = dying.first;
+    dying.first = this;
+    if (dying.isBusy)
+        return;
+    dying.isBusy = true;
+    while (dying.first != nullptr)
+    {
+        FeatureObject* const object = dying.first;
+        dying.first = std::exchange(object->m_owner, nullptr);
+        delete object;
+    }
+    dying.isBusy = false;
 }
 
 bool FeatureObject::IsOrOwns(const FeatureObject& iOther) const noexcept
@@ -271,6 +308,7 @@ void FeatureObject::Gained(FeatureObject& ioChild, const FeatureKey& iKey)
         ioChild.LeaveOwner();
     if (ioChild.m_container != nullptr)
         ioChild.m_container->Remove(ioChild);
+    ioChild.LeaveStrays();
     ioChild.m_owner = this;
     ioChild.m_ownerKey = &iKey;
     ++ioChild.m_holdings;
@@ -282,6 +320,14 @@ void FeatureObject::Lost(FeatureObject& ioChild) noexcept
         return;
     ioChild.m_owner = nullptr;
     ioChild.m_ownerKey = nullptr;
+    if (Container* const home = Home())
+        home->AddStray(ioChild);
+}
+
+void FeatureObject::LeaveStrays() noexcept
+{
+    if (m_strayOf != nullptr)
+        m_strayOf->RemoveStray(*this);
 }
 
 /// The caller holds this object.
@@ -301,25 +347,35 @@ void FeatureObject::LeaveOwner()
 
 void FeatureObject::TakeReferences(std::vector<FeatureObject*>& ioTaken)
 {
-    for (const FeatureKey* const key : Keys())
+    // What is still to come, since components may stand deep inside each other.
+    std::vector<FeatureObject*> coming{this};
+    while (!coming.empty())
     {
-        std::vector<FeatureObject*> entries;
-        if (key->Slot() == SlotKind::Object)
-            entries.push_back(ObjectAt(*key).object);
-        else if (key->IsListOfObjects())
-            entries = std::get<std::vector<FeatureObject*>>(List(*key).entries);
-        entries.erase(std::remove(entries.begin(), entries.end(), nullptr), entries.end());
-        if (key->Owns())
-        {
-            for (FeatureObject* const component : entries)
-                component->TakeReferences(ioTaken);
-            continue;
-        }
-        ioTaken.insert(ioTaken.end(), entries.begin(), entries.end());
-        if (key->Slot() == SlotKind::Object)
-            ObjectAt(*key).object = nullptr;
-        else if (key->IsListOfObjects())
-            std::get<std::vector<FeatureObject*>>(List(*key).entries).clear();
+        FeatureObject& object = *coming.back();
+        coming.pop_back();
+        for (const FeatureKey* const key : object.Keys())
+            object.TakeObjects(*key, key->Owns() ? coming : ioTaken);
+    }
+}
+
+/// Objects that are only referred to are taken out; components stay.
+void FeatureObject::TakeObjects(const FeatureKey& iKey, std::vector<FeatureObject*>& ioTaken)
+{
+    if (iKey.Slot() == SlotKind::Object)
+    {
+        FeatureObject*& object = ObjectAt(iKey).object;
+        if (object != nullptr)
+            ioTaken.push_back(object);
+        if (!iKey.Owns())
+            object = nullptr;
+    }
+    else if (iKey.IsListOfObjects())
+    {
+        std::vector<FeatureObject*>& entries = std::get<std::vector<FeatureObject*>>(List(iKey).entries);
+        std::copy_if(entries.begin(), entries.end(), std::back_inserter(ioTaken),
+                     [](const FeatureObject* iEntry) { return iEntry != nullptr; });
+        if (!iKey.Owns())
+            entries.clear();
     }
 }
 
@@ -401,7 +457,8 @@ ORXBaseUnknown* FeatureObject::ExtensionFacet(const IID& iInterface, const Exten
         return known;
     }
     // A start-up is shared between threads and lives for ever: nothing is attached to it.
-    if (iEntry == nullptr || m_isPrototype || m_isDying || m_extensions.IsUnderConstruction(*iEntry->extensionClass))
+    if (iEntry == nullptr || m_isPrototype || m_isDying || m_extensions.IsClearing() ||
+        m_extensions.IsUnderConstruction(*iEntry->extensionClass))
         return nullptr;
     return iEntry->creator(Root(), m_extensions.Find(*iEntry->extensionClass));
 }

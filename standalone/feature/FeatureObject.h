@@ -151,6 +151,8 @@ public:
     void Gained(FeatureObject& ioChild, const FeatureKey& iKey);
     /// One entry of this object's component attributes no longer holds the child; with the last it has no owner.
     void Lost(FeatureObject& ioChild) noexcept;
+    /// Of the container only: the one that keeps this object in mind although it has left the model.
+    void SetStrayOf(Container* iContainer) noexcept { m_strayOf = iContainer; }
     void SetContainer(Container* iContainer) noexcept { m_container = iContainer; }
     Container* OwnContainer() const noexcept { return m_container; }
     /// Takes the objects out that this object and its components refer to; they still count one reference each.
@@ -201,6 +203,9 @@ private:
     /// Makes a component after a start-up, itself a start-up if this object is one.
     void MakeComponent(const FeatureKey& iKey, FeatureObject& iAfter);
     void LeaveOwner();
+    void LeaveStrays() noexcept;
+    void TakeObjects(const FeatureKey& iKey, std::vector<FeatureObject*>& ioTaken);
+    void Die();
     /// A facet that is no extension; null when the object has none of that interface. No reference is added.
     ORXBaseUnknown* OwnFacet(const IID& iInterface) noexcept;
     /// New reference.
@@ -222,6 +227,7 @@ private:
     const FeatureKey* m_ownerKey = nullptr;
     /// Of a top-level object only.
     Container* m_container = nullptr;
+    Container* m_strayOf = nullptr;
     FeatureObject* m_startup;
     std::unique_ptr<AddedAttributes> m_added;
     std::unique_ptr<ObjectNames> m_names;

@@ -1,18 +1,25 @@
 #include "FeatureType.h"
 
+#include <algorithm>
+
 #include "FeatureObject.h"
 #include "ORXInterfaceIds.h"
 #include "SlotMaking.h"
 
 namespace VYRStandalone
 {
-FeatureType::FeatureType(const std::string& iName, const std::string& iCatalog, FeatureType* iBase)
-    : m_name(iName), m_catalog(iCatalog), m_base(iBase), m_depth(iBase != nullptr ? iBase->m_depth + 1 : 0),
-      m_slotBytes(0)
+FeatureType::FeatureType(const std::string& iName, FeatureType* iBase)
+    : m_name(iName), m_base(iBase), m_depth(iBase != nullptr ? iBase->m_depth + 1 : 0), m_slotBytes(0)
 {
     if (iBase != nullptr)
         m_ancestors = iBase->m_ancestors;
     m_ancestors.push_back(this);
+}
+
+void FeatureType::AddCatalog(const std::string& iCatalog)
+{
+    if (std::find(m_catalogs.begin(), m_catalogs.end(), iCatalog) == m_catalogs.end())
+        m_catalogs.push_back(iCatalog);
 }
 
 void FeatureType::Inherit()

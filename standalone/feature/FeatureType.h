@@ -23,12 +23,15 @@ class FeatureType
 {
 public:
     /// Without any attributes yet, so that types of one catalog may name each other.
-    FeatureType(const std::string& iName, const std::string& iCatalog, FeatureType* iBase);
+    FeatureType(const std::string& iName, FeatureType* iBase);
     FeatureType(const FeatureType&) = delete;
     FeatureType& operator=(const FeatureType&) = delete;
 
     const std::string& Name() const noexcept { return m_name; }
-    const std::string& Catalog() const noexcept { return m_catalog; }
+    /// The catalogs that say something of the type, in the order of their declaration.
+    const std::vector<std::string>& Catalogs() const noexcept { return m_catalogs; }
+    /// One that is there already stays where it is.
+    void AddCatalog(const std::string& iCatalog);
     FeatureType* Base() const noexcept { return m_base; }
 
     bool DerivesFrom(const FeatureType& iType) const noexcept
@@ -84,7 +87,7 @@ public:
 
 private:
     std::string m_name;
-    std::string m_catalog;
+    std::vector<std::string> m_catalogs;
     FeatureType* m_base;
     std::size_t m_depth;
     /// By depth, this type itself at its own.

@@ -4,6 +4,7 @@
 #include "CatalogPlan.h"
 #include "Dictionary.h"
 #include "FeatureObject.h"
+#include "StartupValues.h"
 
 namespace VYRStandalone
 {
@@ -27,51 +28,9 @@ void AddMissingAttributes(const TypeRegistry& iRegistry, FeatureType& ioType, co
                       iRegistry.Find(attribute.componentType));
     }
 }
-
-Scalar Stored(const KnowledgeType& iType, const DeclaredScalar& iValue)
-{
-    Scalar stored;
-    std::string why;
-    iType.FromDocument(iValue, stored, why);
-    return stored;
-}
-
-template <class Entry> void Fill(std::vector<Entry>& oEntries, const FeatureKey& iKey, const PrototypeValue& iValue)
-{
-    for (const DeclaredScalar& entry : iValue.entries)
-    {
-        const Scalar stored = Stored(*iKey.Knowledge(), entry);
-        if constexpr (std::is_same_v<Entry, int>)
-            oEntries.push_back(std::holds_alternative<bool>(stored) ? std::get<bool>(stored) : std::get<int>(stored));
-        else if constexpr (!std::is_same_v<Entry, FeatureObject*>)
-            oEntries.push_back(std::get<Entry>(stored));
-    }
-}
-
-/// The value has been checked by the plan.
-void ApplyValue(FeatureObject& ioPrototype, const PrototypeValue& iValue)
-{
-    FeatureObject* object = &ioPrototype;
-    for (std::size_t step = 0; step + 1 < iValue.path.size(); ++step)
-        object = object->Object(*object->FindKey(iValue.path[step]));
-    const FeatureKey& key = *object->FindKey(iValue.path.back());
-    if (!iValue.isList)
-    {
-        object->StoreValue(key, Stored(*key.Knowledge(), iValue.entries.front()));
-        return;
-    }
-    ListEntries entries = object->Entries(key);
-    std::visit(
-        [&](auto& ioList) {
-            ioList.clear();
-            Fill(ioList, key, iValue);
-        },
-        entries);
-    object->StoreEntries(key, std::move(entries));
-}
 } // namespace
 
-TypeRegistry::TypeRegistry() : m_columnType(new FeatureType(columnTypeName, {}, nullptr))
+TypeRegistry::TypeRegistry() : m_columnType(new FeatureType(columnTypeName, nullptr))
 {
     m_columnType->CompletePrototype();
     Declare(BuiltInCatalog());
@@ -100,7 +59,7 @@ void TypeRegistry::Declare(const CatalogDeclaration& iCatalog)
         const TypeDeclaration& declaration = iCatalog.types[index];
         if (Find(declaration.name) != nullptr)
             continue;
-        FeatureType* const type = new FeatureType(declaration.name, iCatalog.name, Find(declaration.base));
+        FeatureType* const type = new FeatureType(declaration.name, Find(declaration.base));
         m_types.push_back(type);
         m_byName.emplace(type->Name(), type);
         isNew[index] = true;
@@ -110,6 +69,7 @@ void TypeRegistry::Declare(const CatalogDeclaration& iCatalog)
         FeatureType& type = *Find(iCatalog.types[index].name);
         if (isNew[index])
             type.Inherit();
+        type.AddCatalog(iCatalog.name);
         AddMissingAttributes(*this, type, iCatalog.types[index]);
         if (iCatalog.types[index].isManaged)
             type.SetManaged();
@@ -121,7 +81,7 @@ void TypeRegistry::Declare(const CatalogDeclaration& iCatalog)
         FeatureType& type = *Find(declaration.name);
         type.CompletePrototype();
         for (const PrototypeValue& value : declaration.values)
-            ApplyValue(*type.Prototype(), value);
+            StartupValues::Apply(*type.Prototype(), value);
     }
     m_catalogs.insert(iCatalog.name);
     Dictionary::MarkStale();

@@ -212,10 +212,12 @@ bool KnowledgeType::FromText(const ORXUnicodeString& iText, Scalar& oValue) cons
 
 bool KnowledgeType::FromScalar(const KnowledgeType& iType, const Scalar& iValue, Scalar& oValue) const
 {
-    // The number of one enumeration's text means nothing in another.
+    // The number of one enumeration's text means nothing in another. Those that were added to two objects are one when
+    // their names and texts agree.
     if (iType.m_kind == ValueKind::Enumeration)
     {
-        if (&iType != this)
+        if (m_kind != ValueKind::Enumeration ||
+            (&iType != this && !(iType.m_name == m_name && iType.m_texts == m_texts)))
             return false;
         oValue = iValue;
         return true;

@@ -1,5 +1,7 @@
 #include "ORXKweInstanceAdapter.h"
 
+#include <utility>
+
 #include "FeatureObject.h"
 
 using namespace VYRStandalone;
@@ -32,6 +34,12 @@ ORXKweInstanceAdapter::~ORXKweInstanceAdapter() = default;
 HRESULT ORXKweInstanceAdapter::AdviseAttributeChanged(const ORXUnicodeString& iName, const ORXIValue_var& iValue)
 {
     return Tell(m_listeners, [&](ORXIInstance& ioListener) { ioListener.AdviseAttributeChanged(iName, iValue); });
+}
+
+void ORXKweInstanceAdapter::RemoveAllInstanceListeners()
+{
+    // Let go once they are out of the list.
+    const std::vector<ORXIInstance_var> gone = std::exchange(m_listeners, {});
 }
 
 ORXBaseUnknown_var ORXKweInstanceAdapter::GetOwner()
@@ -97,6 +105,8 @@ HRESULT ORXKweInstanceAdapter::RemoveInstanceListener(const ORXBaseUnknown_var& 
     for (auto listener = m_listeners.begin(); listener != m_listeners.end(); ++listener)
         if (iListener != NULL_var && *listener == iListener)
         {
+            // Let go once it is out of the list: its end may change the list again.
+            const ORXIInstance_var gone = *listener;
             m_listeners.erase(listener);
             return S_OK;
         }

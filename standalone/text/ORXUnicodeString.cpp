@@ -278,15 +278,17 @@ int ORXUnicodeString::ConvertToNum(double* oNumber, const char* iFormat) const
     if (oNumber == nullptr || iFormat == nullptr ||
         std::find(std::begin(Formats), std::end(Formats), iFormat) == std::end(Formats))
         return 0;
-    const char* text = CastToCharPtr();
-    char* end = nullptr;
     const int savedError = errno;
+    const locale_t savedLocale = uselocale(CLocale());
     errno = 0;
-    const double number = strtod_l(text, &end, CLocale());
+    double number = 0.0;
+    // All these formats scan alike.
+    const bool isRead = std::sscanf(CastToCharPtr(), "%le", &number) == 1;
     // A number too small for a double is read as what is next to it, one too large is none.
     const bool overflown = errno == ERANGE && std::isinf(number);
+    uselocale(savedLocale);
     errno = savedError;
-    if (end == text || overflown)
+    if (!isRead || overflown)
         return 0;
     *oNumber = number;
     return 1;
