@@ -62,6 +62,12 @@ TEST_P(CreatorTest, Creator_GivesTheInterfaceAsANewReference)
 }
 
 const Export exports[] = {
+    {"CreateBOAVYRIMpaDefaultManagementProtectedVYRECfdChoiceDefaultManagement", "choice",
+     "VYRIMpaDefaultManagementProtected", true},
+    {"CreateTIEVYRIMpaDefaultManagementVYRECfdChoiceDefaultManagement", "choice", "VYRIMpaDefaultManagement", false},
+    {"CreateTIEVYRICfdChoiceVYRECfdChoiceInstance", "choice", "VYRICfdChoice", true},
+    {"CreateTIEORXIInstanceVYRECfdChoiceInstance", "choice", "ORXIInstance", true},
+    {"CreateTIEVYRICfdConfigurableVYRECfdChoiceInstance", "choice", "VYRICfdConfigurable", true},
     {"CreateTIEORXIInstanceVYRECfdDefaultManagementInstance", "defaultManagement", "ORXIInstance", true},
     {"CreateBOAVYRIMpaDefaultManagementProtectedVYRECfdValuesDefaultManagement", "",
      "VYRIMpaDefaultManagementProtected", true},

@@ -106,6 +106,7 @@ TEST_P(InstanceTieTest, Listeners_AreToldAllKindsOfNews)
 const Extended extended[] = {
     {"Values", "", {"FlowTestSolver", "VYRCfdValues"}},
     {"DefaultManagement", "defaultManagement", {"VYRCfdDefaultManagement"}},
+    {"Choice", "choice", {"VYRCfdChoice"}},
 };
 
 INSTANTIATE_TEST_SUITE_P(Types, InstanceTieTest, testing::ValuesIn(extended),

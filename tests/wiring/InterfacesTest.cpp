@@ -5,6 +5,9 @@
 
 #include "FlowTest.h"
 #include "ORXIInstance.h"
+#include "VYRICfdChoice.h"
+#include "VYRICfdChoiceMgr.h"
+#include "VYRICfdConfigurable.h"
 #include "VYRIMpaDefaultManagement.h"
 
 namespace
@@ -15,10 +18,19 @@ struct Offer
     const char* type;
     bool hasDefaultManagement;
     bool hasInstance;
+    bool isChoice = false;
 };
 
 class InterfacesTest : public FlowTest, public testing::WithParamInterface<Offer>
 {
+protected:
+    void SetUp() override
+    {
+        FlowTest::SetUp();
+        Declare(R"({ "catalog": "WiringTest", "uses": ["VYRCfdBase"], "types": [
+            { "name": "WiringTestChoice", "base": "VYRCfdChoice" },
+            { "name": "WiringTestDeepChoice", "base": "WiringTestChoice" } ] })");
+    }
 };
 
 TEST_P(InterfacesTest, Feature_OffersWhatItsTypeIsExtendedBy)
@@ -27,6 +39,9 @@ TEST_P(InterfacesTest, Feature_OffersWhatItsTypeIsExtendedBy)
     EXPECT_EQ(!VYRIMpaDefaultManagement_var(object), !GetParam().hasDefaultManagement);
     EXPECT_EQ(!VYRIMpaDefaultManagementProtected_var(object), !GetParam().hasDefaultManagement);
     EXPECT_EQ(!ORXIInstance_var(object), !GetParam().hasInstance);
+    EXPECT_EQ(!VYRICfdChoice_var(object), !GetParam().isChoice);
+    EXPECT_EQ(!VYRICfdConfigurable_var(object), !GetParam().isChoice);
+    EXPECT_TRUE(!VYRICfdChoiceMgr_var(object)) << "no class of the module is a manager";
 }
 
 TEST_P(InterfacesTest, Feature_AnswersTheSameByClassName)
@@ -39,7 +54,10 @@ TEST_P(InterfacesTest, Feature_AnswersTheSameByClassName)
     } interfaces[] = {{"VYRIMpaDefaultManagement", GetParam().hasDefaultManagement},
                       {"VYRIMpaDefaultManagementProtected", GetParam().hasDefaultManagement},
                       {"ORXIInstance", GetParam().hasInstance},
-                      {"VYRICfdChoice", false},
+                      {"VYRICfdChoice", GetParam().isChoice},
+                      {"VYRICfdConfigurable", GetParam().isChoice},
+                      {"VYRICfdChoiceMgr", false},
+                      {"ORXISamAnalysisEntityInit", false},
                       {"ORXIParmPublisher", false}};
     for (const auto& asked : interfaces)
     {
@@ -55,6 +73,9 @@ const Offer offers[] = {
     {"Values", "VYRCfdValues", true, true},
     {"DerivedFromValues", "FlowTestSolver", true, true},
     {"DerivedTwice", "FlowTestSteadySolver", true, true},
+    {"Choice", "VYRCfdChoice", true, true, true},
+    {"DerivedFromChoice", "WiringTestChoice", true, true, true},
+    {"DerivedFromChoiceTwice", "WiringTestDeepChoice", true, true, true},
     // A sub-feature has no default management of its own.
     {"DefaultManagement", "VYRCfdDefaultManagement", false, true},
     {"Record", "VYRCfdConfigItem", false, false},
