@@ -106,15 +106,14 @@ TEST_F(ChoiceConfigureTest, SetValueThatIsNoChoiceAnyMore_BecomesTheFirstOfTheNe
     ASSERT_EQ(ChoiceOf(choice)->SetChoice("beta"), S_OK);
     ChoiceRecorder recorder;
     EXPECT_EQ(ChoiceOf(choice)->Configure(Texts({"gamma", "delta"}), "delta", ""), S_OK);
-    EXPECT_EQ(Only(recorder.Take(), {"write"}),
-              (Lines{
-                  "write Choice.1.choices = [gamma, delta]",
-                  "write Choice.1.value = gamma",
-                  "write Choice.1/defaultManagement.value_isset = false",
-                  "write Choice.1.Startups = []",
-                  "write Choice.1.value = delta",
-                  "write Choice.1/defaultManagement.value_isset = false",
-              }));
+    EXPECT_EQ(Only(recorder.Take(), {"write"}), (Lines{
+                                                    "write Choice.1.choices = [gamma, delta]",
+                                                    "write Choice.1.value = gamma",
+                                                    "write Choice.1/defaultManagement.value_isset = false",
+                                                    "write Choice.1.Startups = []",
+                                                    "write Choice.1.value = delta",
+                                                    "write Choice.1/defaultManagement.value_isset = false",
+                                                }));
     EXPECT_EQ(ValueOf(choice, "value"), "delta");
     EXPECT_EQ(SetFlagOf(choice, "value"), "false");
 }
@@ -171,9 +170,8 @@ TEST_F(ChoiceConfigureTest, WithoutAttributeAccess_TheChoicesAreWhatIsReported)
     Plant("QueryInterface", "ORXISpecAttrAccess", "Choice.1");
     ChoiceRecorder recorder;
     EXPECT_EQ(instance.Configure(Texts({"alpha"}), {}, "", "Kind"), E_FAIL);
-    EXPECT_EQ(Reported(),
-              (Records{Error("Null initialization c", "VYRCfdObjectAccess::SetStrings"),
-                       FailedCall("access[VYRCFDBASE(Choice, choices)].SetStrings(iChoices)", Configure)}));
+    EXPECT_EQ(Reported(), (Records{Error("Null initialization c", "VYRCfdObjectAccess::SetStrings"),
+                                   FailedCall("access[VYRCFDBASE(Choice, choices)].SetStrings(iChoices)", Configure)}));
     EXPECT_EQ(recorder.Take(), Lines{});
 }
 
@@ -182,9 +180,8 @@ TEST_F(ChoiceConfigureTest, DisplayThatCannotBeWritten_IsReportedAndTheListsStay
     const ORXISpecObject_var choice = MakeUpdated({{"alpha", "beta"}, {}, "beta", "Former", ""});
     Plant("GetParm", "display", "Choice.1");
     EXPECT_EQ(ChoiceOf(choice)->Configure(Texts({"gamma", "beta"}), "gamma", "Kind"), E_FAIL);
-    EXPECT_EQ(Reported(),
-              (Records{Assertion("spParm", "VYRCfdObjectAccess::SetString"),
-                       FailedCall("access[VYRCFDBASE(Choice, display)].SetString(iDisplay)", Configure)}));
+    EXPECT_EQ(Reported(), (Records{Assertion("spParm", "VYRCfdObjectAccess::SetString"),
+                                   FailedCall("access[VYRCFDBASE(Choice, display)].SetString(iDisplay)", Configure)}));
     EXPECT_EQ(TextsOf(choice, "choices"), (Lines{"gamma", "beta"}));
     EXPECT_EQ(AllowedOf(choice), (Lines{"gamma", "beta"})) << "the write's own update has run";
     EXPECT_EQ(ValueOf(choice, "display"), "Former");

@@ -100,10 +100,9 @@ TEST_F(ChoiceInstanceTest, SetChoice_WithoutParameter_ReportsTheCall)
     const ORXISpecObject_var choice = Make(ThreeChoices());
     Plant("GetParm", "value", "Choice.1");
     EXPECT_EQ(ChoiceOf(choice)->SetChoice("beta"), E_FAIL);
-    EXPECT_EQ(Reported(),
-              (Records{Assertion("spParm", "VYRCfdObjectAccess::SetString"),
-                       FailedCall("access[VYRCFDBASE(Choice, value)].SetString(iChoice)",
-                                  "VYRCfdChoiceInstanceAdp::SetChoice")}));
+    EXPECT_EQ(Reported(), (Records{Assertion("spParm", "VYRCfdObjectAccess::SetString"),
+                                   FailedCall("access[VYRCFDBASE(Choice, value)].SetString(iChoice)",
+                                              "VYRCfdChoiceInstanceAdp::SetChoice")}));
     EXPECT_EQ(ValueOf(choice, "value"), "alpha");
 }
 
@@ -224,24 +223,23 @@ TEST_F(ChoiceInstanceTest, SetChoice_BelowAnOwner_ChangesTheChoiceAndNotTheOwner
     ASSERT_EQ(ChoiceOf(choice)->Update(), S_OK);
     ChoiceRecorder recorder;
     EXPECT_EQ(ChoiceOf(choice)->SetChoice("gamma"), S_OK);
-    EXPECT_EQ(recorder.Take(),
-              (Lines{
-                  "write Owner.1/model.value = gamma",
-                  "advise Owner.1/model.value = gamma",
-                  "add Owner.1/model/defaultManagement.value_isset",
-                  "write Owner.1/model/defaultManagement.value_isset = true",
-                  "advise Owner.1/model/defaultManagement.value_isset = true",
-                  "done Owner.1/model/defaultManagement.value_isset",
-                  "data TypeGamma",
-                  "name TypeGamma",
-                  "create TypeGamma TypeGammaInst",
-                  "write Owner.1/model.Data = TypeGammaInst",
-                  "advise Owner.1/model.Data = TypeGammaInst",
-                  "done Owner.1/model.Data",
-                  "complete true true",
-                  "dispatch Owner.1/model",
-                  "done Owner.1/model.value",
-              }));
+    EXPECT_EQ(recorder.Take(), (Lines{
+                                   "write Owner.1/model.value = gamma",
+                                   "advise Owner.1/model.value = gamma",
+                                   "add Owner.1/model/defaultManagement.value_isset",
+                                   "write Owner.1/model/defaultManagement.value_isset = true",
+                                   "advise Owner.1/model/defaultManagement.value_isset = true",
+                                   "done Owner.1/model/defaultManagement.value_isset",
+                                   "data TypeGamma",
+                                   "name TypeGamma",
+                                   "create TypeGamma TypeGammaInst",
+                                   "write Owner.1/model.Data = TypeGammaInst",
+                                   "advise Owner.1/model.Data = TypeGammaInst",
+                                   "done Owner.1/model.Data",
+                                   "complete true true",
+                                   "dispatch Owner.1/model",
+                                   "done Owner.1/model.value",
+                               }));
     EXPECT_EQ(SetFlagOf(choice, "value"), "true");
     EXPECT_EQ(SetFlagOf(owner, "model"), "absent");
     EXPECT_EQ(SetFlagOf(owner, "value"), "absent");

@@ -42,9 +42,8 @@ TEST_F(ChoiceKeysTest, Choices_ThatCannotBeRead_AreReported)
                                               "VYRCfdChoiceInstanceAdp::GetListOfChoices")}));
     EXPECT_EQ(choices, Texts({"former"}));
     EXPECT_EQ(m_instance->Configure(Texts({"omega"}), {}, "", ""), E_FAIL);
-    EXPECT_EQ(Reported(),
-              (Records{Error("Null key", "VYRCfdObjectAccess::SetStrings"),
-                       FailedCall("access[VYRCFDBASE(Choice, choices)].SetStrings(iChoices)", Configure)}));
+    EXPECT_EQ(Reported(), (Records{Error("Null key", "VYRCfdObjectAccess::SetStrings"),
+                                   FailedCall("access[VYRCFDBASE(Choice, choices)].SetStrings(iChoices)", Configure)}));
     EXPECT_EQ(recorder.Take(), Lines{});
 }
 

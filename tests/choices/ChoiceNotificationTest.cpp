@@ -63,9 +63,8 @@ TEST_F(ChoiceNotificationTest, EachChange_SendsAnObjectOfItsOwn)
 {
     const ORXISpecObject_var choice = MakeUpdated({{"alpha", "beta"}, {}, "alpha", "", ""});
     std::vector<ORXBaseUnknown_var> kept;
-    const VYRStandalone::Subscription subscription(choice, [&](ORXNotification& ioNotification) {
-        kept.push_back(ORXBaseUnknown_var::Share(&ioNotification));
-    });
+    const VYRStandalone::Subscription subscription(
+        choice, [&](ORXNotification& ioNotification) { kept.push_back(ORXBaseUnknown_var::Share(&ioNotification)); });
     EXPECT_EQ(ChoiceOf(choice)->SetChoice("beta"), S_OK);
     EXPECT_EQ(ChoiceOf(choice)->SetChoice("alpha"), S_OK);
     ASSERT_EQ(kept.size(), 2U);

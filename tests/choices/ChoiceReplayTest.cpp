@@ -49,11 +49,20 @@ struct PathCase
 };
 
 const PathCase pathCases[] = {
-    {"Data", "Data", true},          {"LowerCase", "data", false},   {"UpperCase", "DATA", false},
-    {"Longer", "DataX", false},      {"Shorter", "Dat", false},      {"TrailingSlash", "Data/", false},
-    {"LeadingSlash", "/Data", false}, {"LeadingBlank", " Data", false}, {"TrailingBlank", "Data ", false},
-    {"Below", "Data/count", false},  {"Value", "alpha", false},      {"Empty", "", false},
-    {"None", nullptr, false},        {"OtherAttribute", "defaultManagement", false},
+    {"Data", "Data", true},
+    {"LowerCase", "data", false},
+    {"UpperCase", "DATA", false},
+    {"Longer", "DataX", false},
+    {"Shorter", "Dat", false},
+    {"TrailingSlash", "Data/", false},
+    {"LeadingSlash", "/Data", false},
+    {"LeadingBlank", " Data", false},
+    {"TrailingBlank", "Data ", false},
+    {"Below", "Data/count", false},
+    {"Value", "alpha", false},
+    {"Empty", "", false},
+    {"None", nullptr, false},
+    {"OtherAttribute", "defaultManagement", false},
 };
 
 class ChoiceReplayPathTest : public ReplayFixture, public testing::WithParamInterface<PathCase>
@@ -209,8 +218,7 @@ TEST_F(ChoiceReplayTest, OpenBracket_AppliesNothing)
     AddConfigRecord(choice, "Data", nullptr, "makeForty");
     ASSERT_EQ(ConfigurableOf(choice)->StartConfiguration(), S_OK);
     EXPECT_EQ(Applied([&] { EXPECT_EQ(ChoiceOf(choice)->SetChoice("beta"), S_OK); }), Lines{});
-    EXPECT_EQ(Applied([&] { EXPECT_EQ(ConfigurableOf(choice)->CompleteConfiguration(), S_OK); }),
-              (Lines{"makeForty"}));
+    EXPECT_EQ(Applied([&] { EXPECT_EQ(ConfigurableOf(choice)->CompleteConfiguration(), S_OK); }), (Lines{"makeForty"}));
 }
 
 TEST_F(ChoiceReplayTest, ChoiceWithoutData_AppliesNothing)
@@ -277,10 +285,9 @@ TEST_F(ChoiceReplayTest, FailingConfiguration_StopsNothing)
     AddConfigRecord(choice, "Data", nullptr, "makeNone");
     AddConfigRecord(choice, "Data", nullptr, "makeForty");
     EXPECT_EQ(ChoiceOf(choice)->Update(), S_OK);
-    EXPECT_EQ(Reported(),
-              (Records{Assertion("_spKey->GetType() == tk_list", "VYRCfdObjectAccess::SetStrings"),
-                       FailedCall("specAccess[path].SetStrings(valuesList)",
-                                  "VYRCfdConfigurator::ApplyConfiguration")}));
+    EXPECT_EQ(Reported(), (Records{Assertion("_spKey->GetType() == tk_list", "VYRCfdObjectAccess::SetStrings"),
+                                   FailedCall("specAccess[path].SetStrings(valuesList)",
+                                              "VYRCfdConfigurator::ApplyConfiguration")}));
     EXPECT_EQ(CountOf(choice), "40");
 }
 

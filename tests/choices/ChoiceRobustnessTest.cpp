@@ -29,7 +29,8 @@ protected:
     {
         TestChoice::Hooks() = {};
         m_model.Close();
-        EXPECT_EQ(VYRStandalone::LiveComponents(), m_alive) << testing::PrintToString(VYRStandalone::LiveComponentNames());
+        EXPECT_EQ(VYRStandalone::LiveComponents(), m_alive)
+            << testing::PrintToString(VYRStandalone::LiveComponentNames());
         ChoiceTest::TearDown();
     }
 
@@ -59,8 +60,8 @@ struct PlaceCase
 };
 
 const PlaceCase places[] = {
-    {"Listener", Place::Listener},     {"DataListener", Place::DataListener}, {"Subscriber", Place::Subscriber},
-    {"DataHook", Place::DataHook},     {"NameHook", Place::NameHook},         {"RepairHook", Place::RepairHook},
+    {"Listener", Place::Listener},         {"DataListener", Place::DataListener}, {"Subscriber", Place::Subscriber},
+    {"DataHook", Place::DataHook},         {"NameHook", Place::NameHook},         {"RepairHook", Place::RepairHook},
     {"CompleteHook", Place::CompleteHook},
 };
 
@@ -272,13 +273,13 @@ TEST_P(ChoicePlaceTest, BracketOpened_InsideAChangeOfTheValue)
 TEST_P(ChoicePlaceTest, ConfiguredAnew_InsideAChangeOfTheValue)
 {
     const ORXISpecObject_var choice = MakeUpdated(ThreeChoices());
-    const Culprit culprit(GetParam().place, choice,
-                          [&] { ChoiceOf(choice)->Configure(Texts({"one", "two"}), {}, "two", ""); });
+    const Culprit culprit(GetParam().place, choice, [&] {
+        ChoiceOf(choice)->Configure(Texts({"one", "two"}), {}, "two", "");
+    });
     EXPECT_EQ(ChoiceOf(choice)->SetChoice(ValueFor(GetParam().place)), S_OK);
     EXPECT_TRUE(culprit.HasActed());
     // The new choices beside the old startups.
-    EXPECT_EQ(Reported(),
-              (Records{Assertion("choices.size() == startups.size()", "VYRCfdChoiceInstanceAdp::Update")}));
+    EXPECT_EQ(Reported(), (Records{Assertion("choices.size() == startups.size()", "VYRCfdChoiceInstanceAdp::Update")}));
     EXPECT_EQ(ChoiceOf(choice)->Update(), S_OK);
     EXPECT_EQ(ValueOf(choice, "value"), "two");
     EXPECT_EQ(DataTypeOf(choice), "");

@@ -25,61 +25,79 @@ struct Scope
 
 // A Choice without choices, so that no more is entered than has to be.
 const Scope scopes[] = {
-    {"StartConfiguration", [](TestChoice& ioChoice) { ioChoice.StartConfiguration(); },
-     {"VYRCfdChoiceInstanceAdp::StartConfiguration [15]"}, true},
-    {"CompleteConfiguration", [](TestChoice& ioChoice) { ioChoice.CompleteConfiguration(); },
-     {"VYRCfdChoiceInstanceAdp::CompleteConfiguration [15]"}, true},
-    {"ConfigureThatIsRefused", [](TestChoice& ioChoice) { ioChoice.Configure({}, Texts({"TypeAlpha"}), "", ""); },
-     {"VYRCfdChoiceInstanceAdp::Configure [15]"}, true},
-    {"Configure", [](TestChoice& ioChoice) { ioChoice.Configure({}, {}, "", ""); },
+    {"StartConfiguration",
+     [](TestChoice& ioChoice) { ioChoice.StartConfiguration(); },
+     {"VYRCfdChoiceInstanceAdp::StartConfiguration [15]"},
+     true},
+    {"CompleteConfiguration",
+     [](TestChoice& ioChoice) { ioChoice.CompleteConfiguration(); },
+     {"VYRCfdChoiceInstanceAdp::CompleteConfiguration [15]"},
+     true},
+    {"ConfigureThatIsRefused",
+     [](TestChoice& ioChoice) { ioChoice.Configure({}, Texts({"TypeAlpha"}), "", ""); },
+     {"VYRCfdChoiceInstanceAdp::Configure [15]"},
+     true},
+    {"Configure",
+     [](TestChoice& ioChoice) { ioChoice.Configure({}, {}, "", ""); },
      {"VYRCfdChoiceInstanceAdp::Configure [15]", "VYRCfdChoiceInstanceAdp::AdviseAttributeChanged [15]",
-      "VYRCfdChoiceInstanceAdp::AdviseAttributeChanged [15]"}, true},
-    {"ShortConfigure", [](TestChoice& ioChoice) { ioChoice.Configure({}, "", ""); },
+      "VYRCfdChoiceInstanceAdp::AdviseAttributeChanged [15]"},
+     true},
+    {"ShortConfigure",
+     [](TestChoice& ioChoice) { ioChoice.Configure({}, "", ""); },
      {"VYRCfdChoiceInstanceAdp::Configure [15]", "VYRCfdChoiceInstanceAdp::Configure [15]",
       "VYRCfdChoiceInstanceAdp::AdviseAttributeChanged [15]", "VYRCfdChoiceInstanceAdp::AdviseAttributeChanged [15]"},
      true},
     {"AdviseAttributeChanged",
      [](TestChoice& ioChoice) { ioChoice.AdviseAttributeChanged("display", NULL_var); },
-     {"VYRCfdChoiceInstanceAdp::AdviseAttributeChanged [15]"}, true},
-    {"SetChoice", [](TestChoice& ioChoice) { ioChoice.SetChoice("alpha"); },
-     {"VYRCfdChoiceInstanceAdp::SetChoice [20]", "VYRCfdChoiceInstanceAdp::AdviseAttributeChanged [15]"}, true},
+     {"VYRCfdChoiceInstanceAdp::AdviseAttributeChanged [15]"},
+     true},
+    {"SetChoice",
+     [](TestChoice& ioChoice) { ioChoice.SetChoice("alpha"); },
+     {"VYRCfdChoiceInstanceAdp::SetChoice [20]", "VYRCfdChoiceInstanceAdp::AdviseAttributeChanged [15]"},
+     true},
     {"GetChoice",
      [](TestChoice& ioChoice) {
          ORXUnicodeString text;
          ioChoice.GetChoice(text);
      },
-     {"VYRCfdChoiceInstanceAdp::GetChoice [30]"}, true},
+     {"VYRCfdChoiceInstanceAdp::GetChoice [30]"},
+     true},
     {"GetDefaultDisplay",
      [](TestChoice& ioChoice) {
          ORXUnicodeString text;
          ioChoice.GetDefaultDisplay(text);
      },
-     {"VYRCfdChoiceInstanceAdp::GetDefaultDisplay [30]"}, true},
+     {"VYRCfdChoiceInstanceAdp::GetDefaultDisplay [30]"},
+     true},
     {"GetListOfChoices",
      [](TestChoice& ioChoice) {
          std::vector<ORXUnicodeString> texts;
          ioChoice.GetListOfChoices(texts);
      },
-     {"VYRCfdChoiceInstanceAdp::GetListOfChoices [30]"}, true},
+     {"VYRCfdChoiceInstanceAdp::GetListOfChoices [30]"},
+     true},
     {"GetListOfChoicesNLS",
      [](TestChoice& ioChoice) {
          std::vector<ORXUnicodeString> texts;
          ioChoice.GetListOfChoicesNLS(texts);
      },
-     {}, false},
+     {},
+     false},
     {"UpdateDataForStartup",
      [](TestChoice& ioChoice) {
          bool dataChange = false;
          ioChoice.BaseUpdateDataForStartup("", dataChange);
      },
-     {"VYRCfdChoiceInstanceAdp::UpdateDataForStartup [20]"}, true},
+     {"VYRCfdChoiceInstanceAdp::UpdateDataForStartup [20]"},
+     true},
     {"GetInstanceName",
      [](TestChoice& ioChoice) {
          ORXUnicodeString name;
          ioChoice.BaseGetInstanceName(VYRCfdObjectAccess(ORXBaseUnknown_var::Share(ioChoice.GetImpl(0))), "TypeAlpha",
                                       name);
      },
-     {"VYRCfdChoiceInstanceAdp::GetInstanceName [30]"}, true},
+     {"VYRCfdChoiceInstanceAdp::GetInstanceName [30]"},
+     true},
     {"CompleteUpdate", [](TestChoice& ioChoice) { ioChoice.BaseCompleteUpdate(true, true); }, {}, false},
     {"FixInvalidChoice", [](TestChoice& ioChoice) { ioChoice.BaseFixInvalidChoice(); }, {}, false},
     {"Update", [](TestChoice& ioChoice) { ioChoice.Update(""); }, {}, true},
@@ -89,7 +107,8 @@ const Scope scopes[] = {
          VYRFeaErrorManager::SetErrorStatus(3);
          ioChoice.Update("");
      },
-     {"VYRCfdChoiceInstanceAdp::StartConfiguration [15]"}, true},
+     {"VYRCfdChoiceInstanceAdp::StartConfiguration [15]"},
+     true},
 };
 
 class ChoiceScopeCasesTest : public ChoiceTest, public testing::WithParamInterface<Scope>

@@ -42,11 +42,10 @@ TEST_F(ChoiceSequencesTest, FirstUpdate_MakesTheDataAndPublishesTheChoices)
     const ORXISpecObject_var choice = Make(ThreeChoices());
     ChoiceRecorder recorder;
     EXPECT_EQ(ChoiceOf(choice)->Update(), S_OK);
-    EXPECT_EQ(recorder.Take(),
-              (Lines{"data TypeAlpha", "name TypeAlpha", "create TypeAlpha TypeAlphaInst",
-                     "write Choice.1.Data = TypeAlphaInst", "advise Choice.1.Data = TypeAlphaInst",
-                     "done Choice.1.Data", "allow Choice.1.value = [alpha, beta, gamma]", "complete false true",
-                     "dispatch Choice.1"}))
+    EXPECT_EQ(recorder.Take(), (Lines{"data TypeAlpha", "name TypeAlpha", "create TypeAlpha TypeAlphaInst",
+                                      "write Choice.1.Data = TypeAlphaInst", "advise Choice.1.Data = TypeAlphaInst",
+                                      "done Choice.1.Data", "allow Choice.1.value = [alpha, beta, gamma]",
+                                      "complete false true", "dispatch Choice.1"}))
         << "no flag and no custom default: the value is left to the type";
 }
 
@@ -60,19 +59,17 @@ TEST_F(ChoiceSequencesTest, UpdateOfWhatIsUpToDate_CompletesAndNothingElse)
 
 TEST_F(ChoiceSequencesTest, NewDefaultOfAChoiceThatIsNotSet_RunsTwiceInside)
 {
-    const ORXISpecObject_var choice =
-        MakeUpdated({{"alpha", "beta"}, {"TypeAlpha", "TypeBeta"}, "alpha", "", ""});
+    const ORXISpecObject_var choice = MakeUpdated({{"alpha", "beta"}, {"TypeAlpha", "TypeBeta"}, "alpha", "", ""});
     ChoiceRecorder recorder;
     EXPECT_EQ(TestChoice::Of(choice).Update("beta"), S_OK);
-    EXPECT_EQ(recorder.TakeSteps(),
-              Joined({{"data TypeAlpha"},
-                      // Within the write of the default into the value.
-                      Making("TypeBeta"),
-                      {"complete true true", "dispatch Choice.1"},
-                      // Told by default management that the default has changed.
-                      {"data TypeBeta", "complete false false"},
-                      // The outer run goes on with what it had read.
-                      {"complete false false"}}));
+    EXPECT_EQ(recorder.TakeSteps(), Joined({{"data TypeAlpha"},
+                                            // Within the write of the default into the value.
+                                            Making("TypeBeta"),
+                                            {"complete true true", "dispatch Choice.1"},
+                                            // Told by default management that the default has changed.
+                                            {"data TypeBeta", "complete false false"},
+                                            // The outer run goes on with what it had read.
+                                            {"complete false false"}}));
     EXPECT_EQ(ValueOf(choice, "value"), "beta");
     EXPECT_EQ(DataTypeOf(choice), "TypeBeta");
     EXPECT_EQ(SetFlagOf(choice, "value"), "false");
@@ -80,35 +77,33 @@ TEST_F(ChoiceSequencesTest, NewDefaultOfAChoiceThatIsNotSet_RunsTwiceInside)
 
 TEST_F(ChoiceSequencesTest, NewDefaultOfAChoiceThatIsNotSet_InAllItsCalls)
 {
-    const ORXISpecObject_var choice =
-        MakeUpdated({{"alpha", "beta"}, {"TypeAlpha", "TypeBeta"}, "alpha", "", ""});
+    const ORXISpecObject_var choice = MakeUpdated({{"alpha", "beta"}, {"TypeAlpha", "TypeBeta"}, "alpha", "", ""});
     ChoiceRecorder recorder;
     EXPECT_EQ(TestChoice::Of(choice).Update("beta"), S_OK);
-    EXPECT_EQ(recorder.Take(),
-              (Lines{
-                  "data TypeAlpha",
-                  "add Choice.1/defaultManagement.value_isset",
-                  "write Choice.1/defaultManagement.value_isset = false",
-                  "advise Choice.1/defaultManagement.value_isset = false",
-                  "done Choice.1/defaultManagement.value_isset",
-                  "write Choice.1.value = beta",
-                  "advise Choice.1.value = beta",
-                  "data TypeBeta",
-                  "name TypeBeta",
-                  "create TypeBeta TypeBetaInst",
-                  "write Choice.1.Data = TypeBetaInst",
-                  "advise Choice.1.Data = TypeBetaInst",
-                  "done Choice.1.Data",
-                  "complete true true",
-                  "dispatch Choice.1",
-                  "done Choice.1.value",
-                  "write Choice.1/defaultManagement.value_isset = false",
-                  "advise Choice.1/defaultManagement.value_isset = false",
-                  "done Choice.1/defaultManagement.value_isset",
-                  "data TypeBeta",
-                  "complete false false",
-                  "complete false false",
-              }));
+    EXPECT_EQ(recorder.Take(), (Lines{
+                                   "data TypeAlpha",
+                                   "add Choice.1/defaultManagement.value_isset",
+                                   "write Choice.1/defaultManagement.value_isset = false",
+                                   "advise Choice.1/defaultManagement.value_isset = false",
+                                   "done Choice.1/defaultManagement.value_isset",
+                                   "write Choice.1.value = beta",
+                                   "advise Choice.1.value = beta",
+                                   "data TypeBeta",
+                                   "name TypeBeta",
+                                   "create TypeBeta TypeBetaInst",
+                                   "write Choice.1.Data = TypeBetaInst",
+                                   "advise Choice.1.Data = TypeBetaInst",
+                                   "done Choice.1.Data",
+                                   "complete true true",
+                                   "dispatch Choice.1",
+                                   "done Choice.1.value",
+                                   "write Choice.1/defaultManagement.value_isset = false",
+                                   "advise Choice.1/defaultManagement.value_isset = false",
+                                   "done Choice.1/defaultManagement.value_isset",
+                                   "data TypeBeta",
+                                   "complete false false",
+                                   "complete false false",
+                               }));
 }
 
 TEST_F(ChoiceSequencesTest, NewDefaultOfAChoiceThatIsSet_LeavesTheValue)
@@ -130,24 +125,23 @@ TEST_F(ChoiceSequencesTest, SetChoice_MarksThenUpdatesThenTells)
     const ORXISpecObject_var choice = MakeUpdated(ThreeChoices());
     ChoiceRecorder recorder;
     EXPECT_EQ(ChoiceOf(choice)->SetChoice("beta"), S_OK);
-    EXPECT_EQ(recorder.Take(),
-              (Lines{
-                  "write Choice.1.value = beta",
-                  "advise Choice.1.value = beta",
-                  "add Choice.1/defaultManagement.value_isset",
-                  "write Choice.1/defaultManagement.value_isset = true",
-                  "advise Choice.1/defaultManagement.value_isset = true",
-                  "done Choice.1/defaultManagement.value_isset",
-                  "data TypeBeta",
-                  "name TypeBeta",
-                  "create TypeBeta TypeBetaInst",
-                  "write Choice.1.Data = TypeBetaInst",
-                  "advise Choice.1.Data = TypeBetaInst",
-                  "done Choice.1.Data",
-                  "complete true true",
-                  "dispatch Choice.1",
-                  "done Choice.1.value",
-              }));
+    EXPECT_EQ(recorder.Take(), (Lines{
+                                   "write Choice.1.value = beta",
+                                   "advise Choice.1.value = beta",
+                                   "add Choice.1/defaultManagement.value_isset",
+                                   "write Choice.1/defaultManagement.value_isset = true",
+                                   "advise Choice.1/defaultManagement.value_isset = true",
+                                   "done Choice.1/defaultManagement.value_isset",
+                                   "data TypeBeta",
+                                   "name TypeBeta",
+                                   "create TypeBeta TypeBetaInst",
+                                   "write Choice.1.Data = TypeBetaInst",
+                                   "advise Choice.1.Data = TypeBetaInst",
+                                   "done Choice.1.Data",
+                                   "complete true true",
+                                   "dispatch Choice.1",
+                                   "done Choice.1.value",
+                               }));
 }
 
 TEST_F(ChoiceSequencesTest, SameValueWrittenAgain_IsAChangeOfTheValueAndNotOfTheData)
@@ -181,10 +175,9 @@ TEST_F(ChoiceSequencesTest, ValueOutsideTheListThatIsSet_IsUnsetInAnInnerRun)
     ASSERT_EQ(ChoiceOf(choice)->SetChoice("beta"), S_OK);
     ChoiceRecorder recorder;
     EXPECT_EQ(ChoiceOf(choice)->SetChoice("omega"), S_OK);
-    EXPECT_EQ(recorder.TakeSteps(), Joined({{"fix"},
-                                            Making("TypeAlpha"),
-                                            {"complete true true", "dispatch Choice.1"},
-                                            {"complete false false"}}));
+    EXPECT_EQ(
+        recorder.TakeSteps(),
+        Joined({{"fix"}, Making("TypeAlpha"), {"complete true true", "dispatch Choice.1"}, {"complete false false"}}));
     EXPECT_EQ(ValueOf(choice, "value"), "alpha");
     EXPECT_EQ(SetFlagOf(choice, "value"), "false");
 }
@@ -195,8 +188,7 @@ TEST_F(ChoiceSequencesTest, ValueOutsideTheListThatIsNotSet_StaysWhenTheDefaultI
     KeepDefault(choice, "beta");
     ChoiceRecorder recorder;
     EXPECT_EQ(ChoiceOf(choice)->Update(), S_OK);
-    EXPECT_EQ(recorder.TakeSteps(),
-              (Lines{"allow Choice.1.value = [alpha, beta]", "fix", "complete false false"}));
+    EXPECT_EQ(recorder.TakeSteps(), (Lines{"allow Choice.1.value = [alpha, beta]", "fix", "complete false false"}));
     EXPECT_EQ(ValueOf(choice, "value"), "omega");
     EXPECT_EQ(DataTypeOf(choice), "");
 }
@@ -237,8 +229,8 @@ TEST_F(ChoiceSequencesTest, ChangeOfAValueThatStaysInvalid_ShowsInTheNextRunThat
     ASSERT_EQ(ChoiceOf(choice)->SetChoice("omega"), S_OK);
     ChoiceRecorder recorder;
     WriteTexts(choice, "choices", {"alpha", "omega"});
-    EXPECT_EQ(recorder.TakeSteps(), (Lines{"data", "allow Choice.1.value = [alpha, omega]", "complete true false",
-                                           "dispatch Choice.1"}));
+    EXPECT_EQ(recorder.TakeSteps(),
+              (Lines{"data", "allow Choice.1.value = [alpha, omega]", "complete true false", "dispatch Choice.1"}));
     EXPECT_EQ(ChoiceOf(choice)->Update(), S_OK);
     EXPECT_EQ(recorder.TakeSteps(), (Lines{"data", "complete false false"}));
 }
@@ -276,11 +268,10 @@ TEST_F(ChoiceSequencesTest, FreshConfigurationInABracket_UpdatesOnceAndForgetsTh
     ASSERT_EQ(configurable->StartConfiguration(), S_OK);
     ChoiceRecorder recorder;
     EXPECT_EQ(ChoiceOf(choice)->Configure(Texts({"alpha", "beta", "gamma"}), Texts(TypeNames), "beta", ""), S_FALSE);
-    EXPECT_EQ(recorder.Take(), (Lines{"write Choice.1.choices = [alpha, beta, gamma]",
-                                      "advise Choice.1.choices = [alpha, beta, gamma]", "done Choice.1.choices",
-                                      "write Choice.1.Startups = [TypeAlpha, TypeBeta, TypeGamma]",
-                                      "advise Choice.1.Startups = [TypeAlpha, TypeBeta, TypeGamma]",
-                                      "done Choice.1.Startups"}));
+    EXPECT_EQ(recorder.Take(),
+              (Lines{"write Choice.1.choices = [alpha, beta, gamma]", "advise Choice.1.choices = [alpha, beta, gamma]",
+                     "done Choice.1.choices", "write Choice.1.Startups = [TypeAlpha, TypeBeta, TypeGamma]",
+                     "advise Choice.1.Startups = [TypeAlpha, TypeBeta, TypeGamma]", "done Choice.1.Startups"}));
     EXPECT_EQ(configurable->CompleteConfiguration(), S_OK);
     EXPECT_EQ(recorder.TakeSteps(), Joined({{"allow Choice.1.value = [alpha, beta, gamma]"},
                                             Making("TypeAlpha"),
@@ -299,15 +290,15 @@ TEST_F(ChoiceSequencesTest, ConfigurationInAnotherOrder_MakesTheDataOfTheOldPlac
     EXPECT_EQ(ChoiceOf(choice)->Configure(Texts({"gamma", "alpha", "beta"}),
                                           Texts({"TypeGamma", "TypeAlpha", "TypeBeta"}), "", ""),
               S_OK);
-    EXPECT_EQ(recorder.TakeSteps(), Joined({
-                                        // The new choices beside the old startups.
-                                        Making("TypeGamma"),
-                                        {"allow Choice.1.value = [gamma, alpha, beta]", "complete false true",
-                                         "dispatch Choice.1"},
-                                        Making("TypeBeta"),
-                                        {"complete false true", "dispatch Choice.1"},
-                                        {"data TypeBeta", "complete false false"},
-                                    }));
+    EXPECT_EQ(recorder.TakeSteps(),
+              Joined({
+                  // The new choices beside the old startups.
+                  Making("TypeGamma"),
+                  {"allow Choice.1.value = [gamma, alpha, beta]", "complete false true", "dispatch Choice.1"},
+                  Making("TypeBeta"),
+                  {"complete false true", "dispatch Choice.1"},
+                  {"data TypeBeta", "complete false false"},
+              }));
     EXPECT_EQ(DataTypeOf(choice), "TypeBeta");
     EXPECT_FALSE(DataOf(choice) == data) << "what was set on the former object is lost";
 }
@@ -336,15 +327,14 @@ TEST_F(ChoiceSequencesTest, ChoiceThatStandsTwice_MakesTheDataOfEachPlaceAtEvery
         Make({{"alpha", "beta", "alpha"}, {"TypeAlpha", "TypeBeta", "TypeGamma"}, "alpha", "", ""});
     ChoiceRecorder recorder;
     EXPECT_EQ(ChoiceOf(choice)->Update(), S_OK);
-    EXPECT_EQ(recorder.TakeSteps(), Joined({Making("TypeAlpha"),
-                                            Making("TypeGamma"),
-                                            {"allow Choice.1.value = [alpha, beta, alpha]", "complete false true",
-                                             "dispatch Choice.1"}}));
+    EXPECT_EQ(recorder.TakeSteps(),
+              Joined({Making("TypeAlpha"),
+                      Making("TypeGamma"),
+                      {"allow Choice.1.value = [alpha, beta, alpha]", "complete false true", "dispatch Choice.1"}}));
     EXPECT_EQ(DataTypeOf(choice), "TypeGamma") << "the last place prevails";
     EXPECT_EQ(ChoiceOf(choice)->Update(), S_OK);
-    EXPECT_EQ(recorder.TakeSteps(), Joined({Making("TypeAlpha"),
-                                            Making("TypeGamma"),
-                                            {"complete false true", "dispatch Choice.1"}}));
+    EXPECT_EQ(recorder.TakeSteps(),
+              Joined({Making("TypeAlpha"), Making("TypeGamma"), {"complete false true", "dispatch Choice.1"}}));
 }
 
 TEST_F(ChoiceSequencesTest, ChoiceThatStandsTwiceWithoutStartups_IsAskedForNoDataTwice)
@@ -404,8 +394,7 @@ TEST_F(ChoiceSequencesTest, HookOfTheRepairThatWritesAndKeeps_LeavesItsValue)
     };
     ChoiceRecorder recorder;
     EXPECT_EQ(ChoiceOf(choice)->SetChoice("omega"), S_OK);
-    EXPECT_EQ(recorder.TakeSteps(),
-              Joined({{"fix"}, Making("TypeBeta"), {"complete true true", "dispatch Choice.1"}}));
+    EXPECT_EQ(recorder.TakeSteps(), Joined({{"fix"}, Making("TypeBeta"), {"complete true true", "dispatch Choice.1"}}));
     EXPECT_EQ(ValueOf(choice, "value"), "beta");
     EXPECT_EQ(SetFlagOf(choice, "value"), "true");
 }
@@ -417,8 +406,8 @@ TEST_F(ChoiceSequencesTest, FailingCompletion_SendsNothingAndForgetsTheChange)
     ChoiceRecorder recorder;
     EXPECT_EQ(ChoiceOf(choice)->SetChoice("beta"), S_OK) << "the update's status is dropped";
     EXPECT_EQ(recorder.TakeSteps(), Joined({Making("TypeBeta"), {"complete true true"}}));
-    EXPECT_EQ(Reported(), (Records{FailedCall("CompleteUpdate(wasValueChange, dataChange)",
-                                              "VYRCfdChoiceInstanceAdp::Update")}));
+    EXPECT_EQ(Reported(),
+              (Records{FailedCall("CompleteUpdate(wasValueChange, dataChange)", "VYRCfdChoiceInstanceAdp::Update")}));
     TestChoice::Hooks().complete = {};
     EXPECT_EQ(ChoiceOf(choice)->Update(), S_OK);
     EXPECT_EQ(recorder.TakeSteps(), (Lines{"data TypeBeta", "complete false false"}));
@@ -438,8 +427,8 @@ TEST_F(ChoiceSequencesTest, FailingDataOfTheSecondPlace_LeavesTheFirstDoneAndThe
     };
     ChoiceRecorder recorder;
     EXPECT_EQ(configurable->CompleteConfiguration(), E_FAIL);
-    EXPECT_EQ(Reported(), (Records{FailedCall("UpdateDataForStartup(startup, dataChange)",
-                                              "VYRCfdChoiceInstanceAdp::Update")}));
+    EXPECT_EQ(Reported(),
+              (Records{FailedCall("UpdateDataForStartup(startup, dataChange)", "VYRCfdChoiceInstanceAdp::Update")}));
     EXPECT_EQ(recorder.TakeSteps(), Joined({Making("TypeGamma"), {"data TypeBeta"}}));
     EXPECT_EQ(DataTypeOf(choice), "TypeGamma");
     EXPECT_EQ(AllowedOf(choice), (Lines{"alpha", "beta"}));
@@ -447,9 +436,9 @@ TEST_F(ChoiceSequencesTest, FailingDataOfTheSecondPlace_LeavesTheFirstDoneAndThe
     // The change of the value waits for a run that completes.
     TestChoice::Hooks().data = {};
     EXPECT_EQ(ChoiceOf(choice)->Update(), S_OK);
-    EXPECT_EQ(recorder.TakeSteps(), Joined({{"data TypeGamma"},
-                                            Making("TypeBeta"),
-                                            {"allow Choice.1.value = [beta, alpha, beta]", "complete true true",
-                                             "dispatch Choice.1"}}));
+    EXPECT_EQ(recorder.TakeSteps(),
+              Joined({{"data TypeGamma"},
+                      Making("TypeBeta"),
+                      {"allow Choice.1.value = [beta, alpha, beta]", "complete true true", "dispatch Choice.1"}}));
 }
 } // namespace

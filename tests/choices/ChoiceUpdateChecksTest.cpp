@@ -124,9 +124,8 @@ TEST_F(ChoiceUpdateChecksTest, ValueThatCannotBeRead_IsReported)
     PlantCall("GetParm", "value", 1);
     ChoiceRecorder recorder;
     EXPECT_EQ(instance.Update("beta"), E_FAIL);
-    EXPECT_EQ(Reported(),
-              (Records{Assertion("spParm", "VYRCfdObjectAccess::GetString"),
-                       FailedCall("access[VYRCFDBASE(Choice, value)].GetString(value)", Update)}));
+    EXPECT_EQ(Reported(), (Records{Assertion("spParm", "VYRCfdObjectAccess::GetString"),
+                                   FailedCall("access[VYRCFDBASE(Choice, value)].GetString(value)", Update)}));
     EXPECT_EQ(recorder.Take(), Lines{});
 }
 
@@ -218,8 +217,8 @@ TEST_F(ChoiceUpdateChecksTest, ManipulatorThatCannotBeFound_IsMadeAnewAndFilled)
     PlantCall("GetManipulator", "value", 1);
     ChoiceRecorder recorder;
     EXPECT_EQ(instance.Update(""), S_OK);
-    EXPECT_EQ(recorder.TakeSteps(), (Lines{"data TypeAlpha", "allow Choice.1.value = [alpha, beta, gamma]",
-                                           "complete false false"}));
+    EXPECT_EQ(recorder.TakeSteps(),
+              (Lines{"data TypeAlpha", "allow Choice.1.value = [alpha, beta, gamma]", "complete false false"}));
     EXPECT_EQ(AllowedOf(choice), (Lines{"alpha", "beta", "gamma"}));
 }
 
@@ -277,7 +276,8 @@ TEST_F(ChoiceUpdateChecksTest, DefaultManagementThatIsGoneAtTheRepair_IsReported
     ChoiceRecorder recorder;
     EXPECT_EQ(instance.Update(""), E_FAIL);
     EXPECT_EQ(Reported(), (Records{Assertion("spDefMgmt", Update)}));
-    EXPECT_EQ(recorder.TakeSteps(), (Lines{"allow Choice.1.value = [alpha, beta]"})) << "neither repaired nor completed";
+    EXPECT_EQ(recorder.TakeSteps(), (Lines{"allow Choice.1.value = [alpha, beta]"}))
+        << "neither repaired nor completed";
 }
 
 TEST_F(ChoiceUpdateChecksTest, DefaultManagementThatIsGoneAtTheRepair_LeavesTheNewDefault)
@@ -312,8 +312,8 @@ TEST_F(ChoiceUpdateChecksTest, AllowedValuesThatCannotBeRead_AreWritten)
     PlantCall("GetAllowedValues", "value", 1);
     ChoiceRecorder recorder;
     EXPECT_EQ(ChoiceOf(choice)->Update(), S_OK);
-    EXPECT_EQ(recorder.TakeSteps(), (Lines{"data TypeAlpha", "allow Choice.1.value = [alpha, beta, gamma]",
-                                           "complete false false"}));
+    EXPECT_EQ(recorder.TakeSteps(),
+              (Lines{"data TypeAlpha", "allow Choice.1.value = [alpha, beta, gamma]", "complete false false"}));
 }
 
 TEST_F(ChoiceUpdateChecksTest, DefaultThatCannotBeKept_StopsNothing)
@@ -322,10 +322,9 @@ TEST_F(ChoiceUpdateChecksTest, DefaultThatCannotBeKept_StopsNothing)
     MakeFail("GetVolatileFactory", "", E_FAIL, 1, 1);
     ChoiceRecorder recorder;
     EXPECT_EQ(TestChoice::Of(choice).Update("beta"), S_OK);
-    EXPECT_EQ(Reported(),
-              (Records{Assertion("spParmFactory", "VYRCfdDefaultManagementAdp::SetCustomDefault"),
-                       FailedCall("VYRCfdDefaultManagementAdp::SetCustomDefault(iAttrName, iValue)",
-                                  "VYRECfdChoiceDefaultManagement::SetCustomDefault")}));
+    EXPECT_EQ(Reported(), (Records{Assertion("spParmFactory", "VYRCfdDefaultManagementAdp::SetCustomDefault"),
+                                   FailedCall("VYRCfdDefaultManagementAdp::SetCustomDefault(iAttrName, iValue)",
+                                              "VYRECfdChoiceDefaultManagement::SetCustomDefault")}));
     EXPECT_EQ(recorder.TakeSteps(), (Lines{"data TypeAlpha", "complete false false"}));
     EXPECT_FALSE(HasCustomDefault(choice));
 }

@@ -22,12 +22,9 @@ struct AllowedCase
 };
 
 const AllowedCase allowedCases[] = {
-    {"SameOrder", {"alpha", "beta", "gamma"}, false},
-    {"OtherOrder", {"beta", "alpha", "gamma"}, true},
-    {"LastTwoSwapped", {"alpha", "gamma", "beta"}, true},
-    {"Fewer", {"alpha", "beta"}, true},
-    {"More", {"alpha", "beta", "gamma", "delta"}, true},
-    {"LastOneDiffers", {"alpha", "beta", "Gamma"}, true},
+    {"SameOrder", {"alpha", "beta", "gamma"}, false},      {"OtherOrder", {"beta", "alpha", "gamma"}, true},
+    {"LastTwoSwapped", {"alpha", "gamma", "beta"}, true},  {"Fewer", {"alpha", "beta"}, true},
+    {"More", {"alpha", "beta", "gamma", "delta"}, true},   {"LastOneDiffers", {"alpha", "beta", "Gamma"}, true},
     {"FirstOneDiffers", {"Alpha", "beta", "gamma"}, true},
 };
 
@@ -94,8 +91,7 @@ TEST_F(ChoiceUpdateTest, DefaultThatStandsOnlyInAnotherCase_IsNoChoice)
 
 TEST_F(ChoiceUpdateTest, StartUpWithoutValue_MakesTheFirstChoiceTheCustomDefault)
 {
-    const ORXISpecObject_var choice =
-        Make({{"beta", "alpha"}, {"TypeBeta", "TypeAlpha"}, std::nullopt, "", ""});
+    const ORXISpecObject_var choice = Make({{"beta", "alpha"}, {"TypeBeta", "TypeAlpha"}, std::nullopt, "", ""});
     EXPECT_EQ(DefaultOf(choice, "value"), "(none)");
     EXPECT_EQ(ChoiceOf(choice)->Update(), S_OK);
     EXPECT_EQ(DefaultOf(choice, "value"), "beta");
@@ -106,8 +102,7 @@ TEST_F(ChoiceUpdateTest, StartUpWithoutValue_MakesTheFirstChoiceTheCustomDefault
 
 TEST_F(ChoiceUpdateTest, StartUpWithoutValue_LeavesAValueThatIsSet)
 {
-    const ORXISpecObject_var choice =
-        Make({{"beta", "alpha"}, {"TypeBeta", "TypeAlpha"}, std::nullopt, "", ""});
+    const ORXISpecObject_var choice = Make({{"beta", "alpha"}, {"TypeBeta", "TypeAlpha"}, std::nullopt, "", ""});
     EXPECT_EQ(ChoiceOf(choice)->SetChoice("alpha"), S_OK);
     EXPECT_EQ(DefaultOf(choice, "value"), "beta");
     EXPECT_EQ(ValueOf(choice, "value"), "alpha");
@@ -186,7 +181,7 @@ struct InvalidCase
 };
 
 const InvalidCase invalidCases[] = {
-    {"Other", "omega"}, {"OtherCase", "Alpha"},      {"Empty", ""},
+    {"Other", "omega"},  {"OtherCase", "Alpha"},      {"Empty", ""},
     {"Blank", " alpha"}, {"BeginsAlike", "alphabet"}, {"CommaList", "alpha,beta"},
 };
 
@@ -275,8 +270,8 @@ TEST_F(ChoiceUpdateTest, ChoiceWithoutStartups_LosesTheDataOfEarlier)
     ASSERT_EQ(DataTypeOf(choice), "TypeAlpha");
     ChoiceRecorder recorder;
     WriteTexts(choice, "Startups", {});
-    EXPECT_EQ(recorder.TakeSteps(), (Lines{"data", "take Choice.1.Data = TypeAlphaInst", "complete false true",
-                                           "dispatch Choice.1"}));
+    EXPECT_EQ(recorder.TakeSteps(),
+              (Lines{"data", "take Choice.1.Data = TypeAlphaInst", "complete false true", "dispatch Choice.1"}));
     EXPECT_EQ(DataTypeOf(choice), "");
 }
 

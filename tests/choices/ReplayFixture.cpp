@@ -8,12 +8,23 @@
 namespace
 {
 constexpr const char* Files[] = {
-    "SolverConfigurations.json",      "SolverConfigurations_dxSlope.json", "conditionsConfig_Flow.json",
-    "conditionsConfig_Energy.json",   "conditionsConfig_Turbulence.json",  "conditionsConfig_Species.json",
-    "conditionsConfig_Phase.json",    "solverConfig_Flow.json",            "solverConfig_Energy.json",
-    "solverConfig_Turbulence.json",   "solverConfig_MultiSpecies.json",    "measurementsConfig.json",
-    "solverConfig_Radiation.json",    "conditionsConfig_Radiation.json",   "conditionsConfig_ECooling.json",
-    "solverConfig_MultiPhase.json",   "meshFYEConfig.json",
+    "SolverConfigurations.json",
+    "SolverConfigurations_dxSlope.json",
+    "conditionsConfig_Flow.json",
+    "conditionsConfig_Energy.json",
+    "conditionsConfig_Turbulence.json",
+    "conditionsConfig_Species.json",
+    "conditionsConfig_Phase.json",
+    "solverConfig_Flow.json",
+    "solverConfig_Energy.json",
+    "solverConfig_Turbulence.json",
+    "solverConfig_MultiSpecies.json",
+    "measurementsConfig.json",
+    "solverConfig_Radiation.json",
+    "conditionsConfig_Radiation.json",
+    "conditionsConfig_ECooling.json",
+    "solverConfig_MultiPhase.json",
+    "meshFYEConfig.json",
 };
 
 std::string Content()
@@ -25,8 +36,9 @@ std::string Content()
              Configuration("makeLabel", R"([ { "path": "label", "type": "string", "default": "made" } ])"),
              Configuration("makeWrong", R"([ { "path": "count", "value": "1, 2", "list": true } ])"),
              Configuration("makeNone", "[]"),
-             Configuration("recordAll", R"([ { "path": "Data", "condition": "value==beta", "config": "makeForty" },
-                                             { "path": "Data", "condition": "value==alpha", "config": "makeLabel" } ])"),
+             Configuration("recordAll", R"([
+                 { "path": "Data", "condition": "value==beta", "config": "makeForty" },
+                 { "path": "Data", "condition": "value==alpha", "config": "makeLabel" } ])"),
          })
         text += (text.empty() ? "" : ",\n") + configuration;
     return R"({ "configurations": [)" + text + "] }";

@@ -56,8 +56,8 @@ std::string Array(const Lines& iTexts)
 
 std::string StartupOf(const ChoiceDeclaration& iDeclaration)
 {
-    std::string startup = R"({ "choices": )" + Array(iDeclaration.choices) + R"(, "Startups": )" +
-                          Array(iDeclaration.startups);
+    std::string startup =
+        R"({ "choices": )" + Array(iDeclaration.choices) + R"(, "Startups": )" + Array(iDeclaration.startups);
     if (iDeclaration.value.has_value())
         startup += R"(, "value": )" + Quoted(*iDeclaration.value);
     if (!iDeclaration.display.empty())
