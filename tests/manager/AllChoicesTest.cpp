@@ -70,9 +70,8 @@ TEST_F(AllChoicesTest, ThatCannotBeRead_FailWithTheStatusOfTheRead)
     EXPECT_EQ(m_manager->GetAllChoices(choices, value), E_FAIL);
     EXPECT_TRUE(choices.empty());
     EXPECT_EQ(value, ORXUnicodeString("former"));
-    const Records reports = Reported();
-    ASSERT_FALSE(reports.empty());
-    EXPECT_EQ(reports.back(), FailedCall("startup[VYRCFDBASE(Choice, choices)].GetStrings(oChoices)", GetAll));
+    EXPECT_EQ(Reported(), (Records{Error("Null initialization c", "VYRCfdObjectAccess::GetStrings"),
+                                   FailedCall("startup[VYRCFDBASE(Choice, choices)].GetStrings(oChoices)", GetAll)}));
 }
 
 TEST_F(AllChoicesTest, WithADefaultThatCannotBeRead_FailHalfFilled)
