@@ -44,7 +44,7 @@ public:
      * Leaves the choices in their declared order, and drops those that are not declared.
      *
      * On a Choice whose start-up has startups, `choices` is afterwards left holding the startups' names, and `Startups`
-     * is left as it was. Models rely on what this has always done.
+     * is left as it was. It is kept as callers know it.
      * @return S_OK also when the update at the end fails
      */
     HRESULT AddChoices(std::set<ORXUnicodeString>& iAdded) override;

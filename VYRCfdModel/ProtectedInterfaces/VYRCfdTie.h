@@ -56,8 +56,8 @@ public:
         std::unique_ptr<Tie> tie(new (std::nothrow) Tie);
         if (tie == nullptr)
             return nullptr;
-        Tie_Construct(tie->m_record, tie.get(), MetaObject(), iExtended, Interface::ClassId(), Kind,
-                      Extension::MetaObject(), &Extension::s_sharedSlot, &Extension::Construct, iExtension);
+        Tie_Construct(tie->m_record, tie.get(), MetaObject(), iExtended, Interface::ClassId(),
+                      Extension::MetaObject()->Kind(), &Extension::s_sharedSlot, &Extension::Construct, iExtension);
         return tie.release();
     }
 

@@ -16,8 +16,6 @@ enum ENUMTypeOfClass
 {
     ORXInterfaceClass = 1,
     ORXExtensionClass = 2,
-    /// A class of its own that extends nothing.
-    ORXImplementationClass = 3,
     /// A tie that is made anew at each request.
     ORXTieClass = 6,
     /// A tie that is shared by all requests on one object, as long as somebody holds it.
@@ -32,7 +30,7 @@ class ORXHostExport ORXMetaClass
 {
 public:
     ORXMetaClass(const char* iClassName, ENUMTypeOfClass iKind, const IID& iInterface, ORXMetaClass* iBase,
-                 const char* iLateType);
+                 const char* iLateType, ORXMetaClass* iServed = nullptr);
 
     const char* ClassName() const noexcept { return m_className; }
     ENUMTypeOfClass Kind() const noexcept { return m_kind; }
@@ -41,6 +39,9 @@ public:
     ORXMetaClass* Base() const noexcept { return m_base; }
     /// Name of the feature type that an extension class extends; empty for everything else.
     const char* LateType() const noexcept { return m_lateType; }
+
+    /// Of a tie, the extension class that it forwards to; null for everything else.
+    ORXMetaClass* Served() const noexcept { return m_served; }
 
     /// Nonzero when the class or one of its bases bears the name.
     int IsAKindOf(const char* iClassName) const noexcept;
@@ -54,6 +55,7 @@ private:
     IID m_interface;
     ORXMetaClass* m_base;
     const char* m_lateType;
+    ORXMetaClass* m_served;
 };
 
 namespace qlx::internal

@@ -39,17 +39,15 @@ ORXHostExport ORXBaseUnknown* ToCreateBOA(ORXBaseUnknown* iExtended, ORXBaseUnkn
 ORXHostExport ORXBaseUnknown* Tie_Link(ORXBaseUnknown* iExtended, ORXBaseUnknown* iExtension, const IID& iInterface);
 
 /**
- * Links a new tie to an object: fills the record, adds a reference on the object, finds the extension instance or
- * makes it through `iConstructor`, and for a shared tie makes it known to the object. The tie starts with one
- * reference.
- * @param iKind kind of the tie
- * @param iClass meta class of the extension class
+ * Links a new tie to an object: fills the record, adds a reference on the object, finds the instance of the extension
+ * class that the tie's meta class names, or makes it through `iConstructor`, and makes a tie whose meta class says that
+ * it is shared known to the object. The tie starts with one reference.
+ * @param iKind kind of the extension class, as its meta class holds it
  * @param ioSharedSlot a static of the extension class; kept for hosts that chain their ties, not used here
  */
 ORXHostExport void Tie_Construct(ORXTieRecord& ioTie, ORXBaseUnknown* iTie, ORXMetaClass* iTieMeta,
                                  ORXBaseUnknown* iExtended, const IID& iInterface, ENUMTypeOfClass iKind,
-                                 ORXMetaClass* iClass, void** ioSharedSlot, ORXInstanceConstructor iConstructor,
-                                 ORXBaseUnknown* iExtension);
+                                 void** ioSharedSlot, ORXInstanceConstructor iConstructor, ORXBaseUnknown* iExtension);
 
 /// `QueryInterface` of a tie: the interface's own identifier gives the tie, everything else asks the object.
 ORXHostExport HRESULT Tie_Query(ORXTieRecord& ioTie, const IID& iInterface, void** oInterface);

@@ -38,8 +38,6 @@ public:
     HRESULT AddInstanceListener(const ORXBaseUnknown_var& iListener);
     /// @return S_OK; S_FALSE when the listener is not subscribed
     HRESULT RemoveInstanceListener(const ORXBaseUnknown_var& iListener);
-    /// Lets all listeners go, as when the object's model is closed.
-    void RemoveAllInstanceListeners();
     HRESULT AdviseDynamicAttributeAdded(const ORXUnicodeString& iName);
     HRESULT AdviseDynamicAttributeRemoved(const ORXUnicodeString& iName);
     HRESULT AdviseDynamicAttributeRenamed(const ORXUnicodeString& iOldName, const ORXUnicodeString& iNewName);
@@ -54,6 +52,9 @@ protected:
     ORXKweInstanceAdapter();
 
 private:
+    /// The host's way to let listeners go when it closes a model.
+    friend class ORXInstanceListeners;
+
     ORXUnicodeString m_logicalName;
     /// The listeners are held.
     std::vector<ORXIInstance_var> m_listeners;

@@ -15,12 +15,8 @@ public:
     VYRCfdAttributeNotification();
     ~VYRCfdAttributeNotification() override;
 
-    ORXMetaClass* GetMetaObject() const override;
     const char* IsA() const override;
     int IsAKindOf(const char* iClassName) const override;
-
-    /// Borrowed, valid until the process ends.
-    static ORXMetaClass* MetaObject();
 };
 
 #endif

@@ -4,6 +4,7 @@
 
 #include "Census.h"
 #include "ORXComponentLink.h"
+#include "ORXInstanceListeners.h"
 #include "ORXKweInstanceAdapter.h"
 
 namespace VYRStandalone
@@ -93,7 +94,7 @@ void ExtensionTable::DropListeners()
     // By position: what a listener lets go may change the table.
     for (std::size_t index = 0; index < m_instances.size(); ++index)
         if (ORXKweInstanceAdapter* const adapter = dynamic_cast<ORXKweInstanceAdapter*>(m_instances[index].instance))
-            adapter->RemoveAllInstanceListeners();
+            ORXInstanceListeners::LetGo(*adapter);
 }
 
 void ExtensionTable::Forget(const ORXMetaClass& iClass) noexcept

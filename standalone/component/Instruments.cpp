@@ -5,6 +5,7 @@
 #include "FeatureKey.h"
 #include "FeatureObject.h"
 #include "InstrumentState.h"
+#include "InterfaceNames.h"
 #include "PerThread.h"
 #include "VYRStandaloneInstruments.h"
 
@@ -68,6 +69,14 @@ bool Instruments::Fails(const char* iOperation, std::string_view iSubject, const
 bool Instruments::Fails(const char* iOperation, ORXISpecAttrKey* iKey, const FeatureObject* iObject, HRESULT& oStatus)
 {
     return s_faults && Fails(iOperation, std::string_view(NameOf(iKey)), iObject, oStatus);
+}
+
+bool Instruments::FailsCast(const IID& iInterface, void** oInterface, HRESULT& oStatus)
+{
+    if (!Fails("QueryInterface", std::string_view(InterfaceNames::Of(iInterface)), nullptr, oStatus))
+        return false;
+    *oInterface = nullptr;
+    return true;
 }
 
 std::string Instruments::NameOf(ORXISpecAttrKey* iKey)

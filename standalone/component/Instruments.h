@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "ORXGuid.h"
 #include "ORXStatus.h"
 
 class ORXISpecAttrKey;
@@ -37,6 +38,9 @@ public:
         HRESULT status = S_OK;
         return Fails(iOperation, iSubject, iObject, status);
     }
+
+    /// For casts of components that are no objects. Gives null when it is true.
+    static bool FailsCast(const IID& iInterface, void** oInterface, HRESULT& oStatus);
 
     /// Adds a line to every recorder of this thread.
     static void Record(const std::string& iLine);

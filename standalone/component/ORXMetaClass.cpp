@@ -24,9 +24,9 @@ ORXMetaClass* Keep(ORXMetaClass* iMeta)
 } // namespace
 
 ORXMetaClass::ORXMetaClass(const char* iClassName, ENUMTypeOfClass iKind, const IID& iInterface, ORXMetaClass* iBase,
-                           const char* iLateType)
+                           const char* iLateType, ORXMetaClass* iServed)
     : m_className(iClassName), m_kind(iKind), m_interface(iInterface), m_base(iBase),
-      m_lateType(iLateType != nullptr ? iLateType : "")
+      m_lateType(iLateType != nullptr ? iLateType : ""), m_served(iServed)
 {
 }
 
@@ -49,9 +49,9 @@ ORXMetaClass* fct_RetrieveMetaObject(const char* iClassName, ENUMTypeOfClass iKi
 }
 
 ORXMetaClass* Tie_InitMetaObject(const GUID& iInterfaceId, const char* iInterfaceName, ORXMetaClass* iInterface,
-                                 ORXMetaClass*, ENUMTypeOfClass iKind)
+                                 ORXMetaClass* iClass, ENUMTypeOfClass iKind)
 {
-    return Keep(new ORXMetaClass(iInterfaceName, iKind, iInterfaceId, iInterface, nullptr));
+    return Keep(new ORXMetaClass(iInterfaceName, iKind, iInterfaceId, iInterface, nullptr, iClass));
 }
 
 om_guard::om_guard()

@@ -34,15 +34,16 @@ ORXBaseUnknown* Tie_Link(ORXBaseUnknown* iExtended, ORXBaseUnknown*, const IID& 
 }
 
 void Tie_Construct(ORXTieRecord& ioTie, ORXBaseUnknown* iTie, ORXMetaClass* iTieMeta, ORXBaseUnknown* iExtended,
-                   const IID& iInterface, ENUMTypeOfClass iKind, ORXMetaClass* iClass, void**,
-                   ORXInstanceConstructor iConstructor, ORXBaseUnknown* iExtension)
+                   const IID& iInterface, ENUMTypeOfClass, void**, ORXInstanceConstructor iConstructor,
+                   ORXBaseUnknown* iExtension)
 {
     FeatureObject* const object = FeatureObject::Of(iExtended);
-    if (object == nullptr || iTie == nullptr || iTieMeta == nullptr || iClass == nullptr)
+    if (object == nullptr || iTie == nullptr || iTieMeta == nullptr || iTieMeta->Served() == nullptr)
         ORXOmx::Internals::NullPointerAssertion();
     ORXBaseUnknown& root = *object->Root();
     // First, since a constructor may throw: then nothing of the tie has been linked.
-    ioTie.instance = iExtension != nullptr ? iExtension : object->Extensions().FindOrMake(root, *iClass, iConstructor);
+    ioTie.instance =
+        iExtension != nullptr ? iExtension : object->Extensions().FindOrMake(root, *iTieMeta->Served(), iConstructor);
     object->AddReference();
     Census::Born(Census::Tie);
     ORXComponentLink::Link(*iTie, root);
@@ -50,7 +51,7 @@ void Tie_Construct(ORXTieRecord& ioTie, ORXBaseUnknown* iTie, ORXMetaClass* iTie
     ioTie.extended = &root;
     ioTie.meta = iTieMeta;
     ioTie.count = 1;
-    if (iKind == ORXSharedTieClass)
+    if (iTieMeta->Kind() == ORXSharedTieClass)
         object->Extensions().AddLink(iInterface, *iTie);
 }
 

@@ -1,6 +1,7 @@
 #include "AddedAttribute.h"
 
 #include "FeatureObject.h"
+#include "Instruments.h"
 #include "SlotMaking.h"
 
 namespace VYRStandalone
@@ -22,6 +23,9 @@ AddedAttribute::~AddedAttribute()
 
 HRESULT AddedAttribute::QueryInterface(const IID& iInterface, void** oInterface)
 {
+    HRESULT planted = S_OK;
+    if (Instruments::Active() && Instruments::FailsCast(iInterface, oInterface, planted))
+        return planted;
     const bool isOffered = iInterface == IID_ORXISpecAttribute || iInterface == IID_ORXBaseUnknown;
     *oInterface = isOffered ? this : nullptr;
     if (!isOffered)

@@ -112,6 +112,9 @@ void Container::Close()
 
 HRESULT Container::QueryInterface(const IID& iInterface, void** oInterface)
 {
+    HRESULT planted = S_OK;
+    if (Instruments::Active() && Instruments::FailsCast(iInterface, oInterface, planted))
+        return planted;
     if (!(iInterface == IID_ORXIContainer))
         return ORXIContainer::QueryInterface(iInterface, oInterface);
     *oInterface = this;

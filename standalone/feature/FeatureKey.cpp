@@ -3,6 +3,7 @@
 #include <typeinfo>
 
 #include "Census.h"
+#include "Instruments.h"
 
 namespace VYRStandalone
 {
@@ -56,6 +57,9 @@ bool FeatureKey::SameKind(const Traits& iLeft, const Traits& iRight)
 
 HRESULT FeatureKey::QueryInterface(const IID& iInterface, void** oInterface)
 {
+    HRESULT planted = S_OK;
+    if (Instruments::Active() && Instruments::FailsCast(iInterface, oInterface, planted))
+        return planted;
     const bool isOffered = iInterface == IID_ORXISpecAttrKey || iInterface == IID_ORXBaseUnknown;
     *oInterface = isOffered ? this : nullptr;
     if (!isOffered)

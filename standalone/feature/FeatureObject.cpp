@@ -32,7 +32,6 @@ FeatureObject::FeatureObject(FeatureType& iType, const ORXUnicodeString& iName, 
 FeatureObject::~FeatureObject()
 {
     m_isDying = true;
-    LeaveStrays();
     // While the attributes are still there, since destructors of extensions may look at them.
     m_extensions.Clear();
     DropSlots();
@@ -88,16 +87,16 @@ FeatureObject* FeatureObject::Of(const ORXBaseUnknown* iComponent)
 Container* FeatureObject::Home() const noexcept
 {
     const FeatureObject* object = this;
-    while (object->m_owner != nullptr)
-        object = object->m_owner;
+    while (object->Owner() != nullptr)
+        object = object->Owner();
     return object->m_container;
 }
 
 std::string FeatureObject::Path() const
 {
     std::vector<const FeatureObject*> owners{this};
-    while (owners.back()->m_owner != nullptr)
-        owners.push_back(owners.back()->m_owner);
+    while (owners.back()->Owner() != nullptr)
+        owners.push_back(owners.back()->Owner());
     const FeatureObject& top = *owners.back();
     std::string path = top.m_isPrototype ? '[' + top.m_type->Name() + ']' : std::string(top.m_name.View());
     for (auto object = owners.rbegin() + 1; object != owners.rend(); ++object)
@@ -266,8 +265,7 @@ unsigned int FeatureObject::DropReference()
 
 namespace
 {
-/// The objects whose end has been found while another one ends on this thread. An object that ends has no owner any
-/// more, so that the chain goes by its link upward.
+/// The objects that have lost their last reference while another one ends on this thread.
 struct Dying
 {
     bool isBusy = false;
@@ -279,8 +277,9 @@ thread_local constinit Dying dying;
 /// One after the other, since a deep tree of components would end the stack.
 void FeatureObject::Die()
 {
+    m_isDying = true;
     LeaveStrays();
-    m_owner = dying.first;
+    m_nextDying = dying.first;
     dying.first = this;
     if (dying.isBusy)
         return;
@@ -288,7 +287,7 @@ void FeatureObject::Die()
     while (dying.first != nullptr)
     {
         FeatureObject* const object = dying.first;
-        dying.first = std::exchange(object->m_owner, nullptr);
+        dying.first = object->m_nextDying;
         delete object;
     }
     dying.isBusy = false;
@@ -512,9 +511,9 @@ ORXISpecObject* FeatureObject::GetOwner()
 {
     if (Instruments::Active() && Instruments::Fails("GetOwner", std::string_view(m_type->Name()), this))
         return nullptr;
-    if (m_owner != nullptr)
-        m_owner->AddReference();
-    return m_owner;
+    if (Owner() != nullptr)
+        Owner()->AddReference();
+    return Owner();
 }
 
 ORXBaseUnknown_var FeatureObject::GetContainer()

@@ -55,7 +55,8 @@ public:
     FeatureType& Type() const noexcept { return *m_type; }
     const ORXUnicodeString& Name() const noexcept { return m_name; }
     bool IsPrototype() const noexcept { return m_isPrototype; }
-    FeatureObject* Owner() const noexcept { return m_owner; }
+    /// An owner that has come to its end is none.
+    FeatureObject* Owner() const noexcept { return m_owner != nullptr && !m_owner->m_isDying ? m_owner : nullptr; }
     /// The owner's attribute that holds this object; null without an owner.
     const FeatureKey* OwnerKey() const noexcept { return m_ownerKey; }
     /// The object's container, or its owner's; null outside every model.
@@ -228,6 +229,7 @@ private:
     /// Of a top-level object only.
     Container* m_container = nullptr;
     Container* m_strayOf = nullptr;
+    FeatureObject* m_nextDying = nullptr;
     FeatureObject* m_startup;
     std::unique_ptr<AddedAttributes> m_added;
     std::unique_ptr<ObjectNames> m_names;

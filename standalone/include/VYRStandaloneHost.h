@@ -28,8 +28,10 @@
  *
  * - Callbacks go to the subscribers of an object in the order of subscription. A configuration transaction starts and
  *   completes whatever the start answers.
- *
- * Not here yet: units, optional attributes.
+ * - Units. A real that measures something is kept in SI; a text may carry a unit of its quantity, and the value as text
+ *   carries the SI unit. An optional attribute has a key on every object, and is carried once `AddAttribute` has made
+ * it.
+ * - Objects that hold each other, by references or by listening, die with their model, also when they have left it.
  */
 
 #include "VYRStandaloneCatalog.h"

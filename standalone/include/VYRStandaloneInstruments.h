@@ -26,7 +26,8 @@ namespace VYRStandalone
 struct Fault
 {
     /// Name of the operation, such as "SetBoolean", "ListObjects", "GetParm" (`ORXCke_GetParm`), "GetValue",
-    /// "GetParmDictionary", "CreateParm", "QueryInterface"; empty meets any.
+    /// "GetParmDictionary", "CreateParm", "QueryInterface"; those of an adapter bear the names of its operations, those
+    /// of free functions their own without the prefix, as "GetEnv" and "FindPath". Empty meets any.
     std::string operation;
     /// Attribute name of attribute operations; feature type of creations; interface name of "QueryInterface";
     /// type name or file name elsewhere. Empty meets any.

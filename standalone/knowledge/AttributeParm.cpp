@@ -57,6 +57,9 @@ void AttributeParm::Write(Scalar&& iValue)
 
 HRESULT AttributeParm::QueryInterface(const IID& iInterface, void** oInterface)
 {
+    HRESULT planted = S_OK;
+    if (Instruments::Active() && Instruments::FailsCast(iInterface, oInterface, planted))
+        return planted;
     const bool isOffered = iInterface == IID_ORXICkeParm || iInterface == IID_ORXBaseUnknown;
     *oInterface = isOffered ? this : nullptr;
     if (!isOffered)

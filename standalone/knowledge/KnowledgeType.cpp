@@ -7,6 +7,7 @@
 #include <mutex>
 #include <typeinfo>
 
+#include "Instruments.h"
 #include "ORXTypeCode.h"
 #include "Quantity.h"
 
@@ -307,6 +308,9 @@ ORXUnicodeString KnowledgeType::ToText(const Scalar& iValue) const
 
 HRESULT KnowledgeType::QueryInterface(const IID& iInterface, void** oInterface)
 {
+    HRESULT planted = S_OK;
+    if (Instruments::Active() && Instruments::FailsCast(iInterface, oInterface, planted))
+        return planted;
     const bool isOffered = iInterface == IID_ORXICkeType || iInterface == IID_ORXBaseUnknown;
     *oInterface = isOffered ? this : nullptr;
     return isOffered ? S_OK : E_NOINTERFACE;

@@ -20,6 +20,9 @@ Manipulator::~Manipulator()
 
 HRESULT Manipulator::QueryInterface(const IID& iInterface, void** oInterface)
 {
+    HRESULT planted = S_OK;
+    if (Instruments::Active() && Instruments::FailsCast(iInterface, oInterface, planted))
+        return planted;
     if (!(iInterface == IID_ORXICkeManipulator))
         return ORXICkeManipulator::QueryInterface(iInterface, oInterface);
     *oInterface = this;

@@ -3,6 +3,8 @@
 #include <utility>
 
 #include "FeatureObject.h"
+#include "Instruments.h"
+#include "ORXInstanceListeners.h"
 
 using namespace VYRStandalone;
 
@@ -25,6 +27,11 @@ template <class Advise> HRESULT Tell(std::vector<ORXIInstance_var> iListeners, c
         iAdvise(*listener.Pointer());
     return S_OK;
 }
+/// Whether a planted fault meets an operation of an extension's adapter.
+bool IsStopped(const char* iOperation, const ORXBaseUnknown& iExtension, std::string_view iSubject, HRESULT& oStatus)
+{
+    return Instruments::Active() && Instruments::Fails(iOperation, iSubject, FeatureObject::Of(&iExtension), oStatus);
+}
 } // namespace
 
 ORXKweInstanceAdapter::ORXKweInstanceAdapter() = default;
@@ -33,23 +40,32 @@ ORXKweInstanceAdapter::~ORXKweInstanceAdapter() = default;
 
 HRESULT ORXKweInstanceAdapter::AdviseAttributeChanged(const ORXUnicodeString& iName, const ORXIValue_var& iValue)
 {
+    HRESULT planted = S_OK;
+    if (IsStopped("AdviseAttributeChanged", *this, iName.View(), planted))
+        return planted;
     return Tell(m_listeners, [&](ORXIInstance& ioListener) { ioListener.AdviseAttributeChanged(iName, iValue); });
 }
 
-void ORXKweInstanceAdapter::RemoveAllInstanceListeners()
+void ORXInstanceListeners::LetGo(ORXKweInstanceAdapter& ioAdapter)
 {
     // Let go once they are out of the list.
-    const std::vector<ORXIInstance_var> gone = std::exchange(m_listeners, {});
+    const std::vector<ORXIInstance_var> gone = std::exchange(ioAdapter.m_listeners, {});
 }
 
 ORXBaseUnknown_var ORXKweInstanceAdapter::GetOwner()
 {
+    HRESULT planted = S_OK;
+    if (IsStopped("GetOwner", *this, {}, planted))
+        return {};
     const ORXISpecObject_var object = ORXISpecObject_var::Cast(GetImpl(0));
     return !object ? ORXBaseUnknown_var() : ORXBaseUnknown_var::Adopt(object->GetOwner());
 }
 
 HRESULT ORXKweInstanceAdapter::GetLogicalName(ORXUnicodeString& oName)
 {
+    HRESULT planted = S_OK;
+    if (IsStopped("GetLogicalName", *this, {}, planted))
+        return planted;
     oName = m_logicalName;
     if (!oName.IsEmpty())
         return S_OK;
@@ -62,6 +78,9 @@ HRESULT ORXKweInstanceAdapter::GetLogicalName(ORXUnicodeString& oName)
 
 HRESULT ORXKweInstanceAdapter::SetLogicalName(const ORXUnicodeString& iName)
 {
+    HRESULT planted = S_OK;
+    if (IsStopped("SetLogicalName", *this, iName.View(), planted))
+        return planted;
     m_logicalName = iName;
     return S_OK;
 }
@@ -83,6 +102,9 @@ ORXCke::Boolean ORXKweInstanceAdapter::IsSupporting(const ORXICkeType_var&)
 
 HRESULT ORXKweInstanceAdapter::ListSupportedTypes(ORXListValORXUnicodeString& oTypes)
 {
+    HRESULT planted = S_OK;
+    if (IsStopped("ListSupportedTypes", *this, {}, planted))
+        return planted;
     const FeatureObject* const object = FeatureObject::Of(this);
     if (object == nullptr)
         return E_FAIL;
@@ -93,6 +115,9 @@ HRESULT ORXKweInstanceAdapter::ListSupportedTypes(ORXListValORXUnicodeString& oT
 
 HRESULT ORXKweInstanceAdapter::AddInstanceListener(const ORXBaseUnknown_var& iListener)
 {
+    HRESULT planted = S_OK;
+    if (IsStopped("AddInstanceListener", *this, {}, planted))
+        return planted;
     const ORXIInstance_var listener = iListener;
     if (!listener)
         return E_FAIL;
@@ -102,6 +127,9 @@ HRESULT ORXKweInstanceAdapter::AddInstanceListener(const ORXBaseUnknown_var& iLi
 
 HRESULT ORXKweInstanceAdapter::RemoveInstanceListener(const ORXBaseUnknown_var& iListener)
 {
+    HRESULT planted = S_OK;
+    if (IsStopped("RemoveInstanceListener", *this, {}, planted))
+        return planted;
     for (auto listener = m_listeners.begin(); listener != m_listeners.end(); ++listener)
         if (iListener != NULL_var && *listener == iListener)
         {
@@ -115,38 +143,59 @@ HRESULT ORXKweInstanceAdapter::RemoveInstanceListener(const ORXBaseUnknown_var& 
 
 HRESULT ORXKweInstanceAdapter::AdviseDynamicAttributeAdded(const ORXUnicodeString& iName)
 {
+    HRESULT planted = S_OK;
+    if (IsStopped("AdviseDynamicAttributeAdded", *this, iName.View(), planted))
+        return planted;
     return Tell(m_listeners, [&](ORXIInstance& ioListener) { ioListener.AdviseDynamicAttributeAdded(iName); });
 }
 
 HRESULT ORXKweInstanceAdapter::AdviseDynamicAttributeRemoved(const ORXUnicodeString& iName)
 {
+    HRESULT planted = S_OK;
+    if (IsStopped("AdviseDynamicAttributeRemoved", *this, iName.View(), planted))
+        return planted;
     return Tell(m_listeners, [&](ORXIInstance& ioListener) { ioListener.AdviseDynamicAttributeRemoved(iName); });
 }
 
 HRESULT ORXKweInstanceAdapter::AdviseDynamicAttributeRenamed(const ORXUnicodeString& iOldName,
                                                              const ORXUnicodeString& iNewName)
 {
+    HRESULT planted = S_OK;
+    if (IsStopped("AdviseDynamicAttributeRenamed", *this, iOldName.View(), planted))
+        return planted;
     return Tell(m_listeners,
                 [&](ORXIInstance& ioListener) { ioListener.AdviseDynamicAttributeRenamed(iOldName, iNewName); });
 }
 
 HRESULT ORXKweInstanceAdapter::AdviseRemoved()
 {
+    HRESULT planted = S_OK;
+    if (IsStopped("AdviseRemoved", *this, {}, planted))
+        return planted;
     return Tell(m_listeners, [](ORXIInstance& ioListener) { ioListener.AdviseRemoved(); });
 }
 
 HRESULT ORXKweInstanceAdapter::AdviseModification()
 {
+    HRESULT planted = S_OK;
+    if (IsStopped("AdviseModification", *this, {}, planted))
+        return planted;
     return Tell(m_listeners, [](ORXIInstance& ioListener) { ioListener.AdviseModification(); });
 }
 
 HRESULT ORXKweInstanceAdapter::AdviseTypeChanged(const ORXICkeType_var& iType)
 {
+    HRESULT planted = S_OK;
+    if (IsStopped("AdviseTypeChanged", *this, {}, planted))
+        return planted;
     return Tell(m_listeners, [&](ORXIInstance& ioListener) { ioListener.AdviseTypeChanged(iType); });
 }
 
 HRESULT ORXKweInstanceAdapter::SetValue(const ORXUnicodeString& iName, const ORXIValue_var& iValue)
 {
+    HRESULT planted = S_OK;
+    if (IsStopped("SetValue", *this, iName.View(), planted))
+        return planted;
     const ORXICkeParm_var parm = ParmOf(*this, iName);
     if (!parm)
         return E_FAIL;
@@ -156,11 +205,17 @@ HRESULT ORXKweInstanceAdapter::SetValue(const ORXUnicodeString& iName, const ORX
 
 ORXIValue_var ORXKweInstanceAdapter::GetValue(const ORXUnicodeString& iName)
 {
+    HRESULT planted = S_OK;
+    if (IsStopped("GetValue", *this, iName.View(), planted))
+        return {};
     const ORXICkeParm_var parm = ParmOf(*this, iName);
     return !parm ? ORXIValue_var() : parm->GetValue();
 }
 
 HRESULT ORXKweInstanceAdapter::AdviseSpecificEvent(const ORXUnicodeString& iEvent)
 {
+    HRESULT planted = S_OK;
+    if (IsStopped("AdviseSpecificEvent", *this, iEvent.View(), planted))
+        return planted;
     return Tell(m_listeners, [&](ORXIInstance& ioListener) { ioListener.AdviseSpecificEvent(iEvent); });
 }

@@ -2,6 +2,8 @@
 
 #include <typeinfo>
 
+#include "Instruments.h"
+
 namespace VYRStandalone
 {
 ObjectValue* ObjectValue::OfObject(bool iIsValuated)
@@ -18,6 +20,9 @@ bool ObjectValue::Is(const ORXICkeInst& iValue) noexcept
 
 HRESULT ObjectValue::QueryInterface(const IID& iInterface, void** oInterface)
 {
+    HRESULT planted = S_OK;
+    if (Instruments::Active() && Instruments::FailsCast(iInterface, oInterface, planted))
+        return planted;
     const bool isOffered =
         iInterface == IID_ORXIValue || iInterface == IID_ORXICkeInst || iInterface == IID_ORXBaseUnknown;
     *oInterface = isOffered ? this : nullptr;

@@ -23,6 +23,9 @@ ParmDictionary& ParmDictionary::Instance()
 
 HRESULT ParmDictionary::QueryInterface(const IID& iInterface, void** oInterface)
 {
+    HRESULT planted = S_OK;
+    if (Instruments::Active() && Instruments::FailsCast(iInterface, oInterface, planted))
+        return planted;
     const bool isOffered = iInterface == IID_ORXIParmDictionary || iInterface == IID_ORXBaseUnknown;
     *oInterface = isOffered ? this : nullptr;
     return isOffered ? S_OK : E_NOINTERFACE;

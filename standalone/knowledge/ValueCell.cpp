@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "Census.h"
+#include "Instruments.h"
 #include "SlotBlock.h"
 
 namespace VYRStandalone
@@ -90,6 +91,9 @@ void ValueCell::Bury()
 
 HRESULT ValueCell::QueryInterface(const IID& iInterface, void** oInterface)
 {
+    HRESULT planted = S_OK;
+    if (Instruments::Active() && Instruments::FailsCast(iInterface, oInterface, planted))
+        return planted;
     const bool isOffered =
         iInterface == IID_ORXIValue || iInterface == IID_ORXICkeInst || iInterface == IID_ORXBaseUnknown;
     *oInterface = isOffered ? this : nullptr;

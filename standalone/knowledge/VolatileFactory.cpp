@@ -13,6 +13,9 @@ VolatileFactory& VolatileFactory::Instance()
 
 HRESULT VolatileFactory::QueryInterface(const IID& iInterface, void** oInterface)
 {
+    HRESULT planted = S_OK;
+    if (Instruments::Active() && Instruments::FailsCast(iInterface, oInterface, planted))
+        return planted;
     const bool isOffered = iInterface == IID_ORXICkeParmFactory || iInterface == IID_ORXBaseUnknown;
     *oInterface = isOffered ? this : nullptr;
     return isOffered ? S_OK : E_NOINTERFACE;

@@ -37,6 +37,9 @@ void VolatileParm::Store(Scalar&& iValue)
 
 HRESULT VolatileParm::QueryInterface(const IID& iInterface, void** oInterface)
 {
+    HRESULT planted = S_OK;
+    if (Instruments::Active() && Instruments::FailsCast(iInterface, oInterface, planted))
+        return planted;
     if (!(iInterface == IID_ORXICkeParm))
         return ORXICkeParm::QueryInterface(iInterface, oInterface);
     *oInterface = this;

@@ -46,7 +46,11 @@ bool IsRegularFile(const std::string& iPath)
 
 const char* ORXGetEnv(const char* iName)
 {
-    return iName != nullptr ? std::getenv(iName) : nullptr;
+    if (iName == nullptr)
+        return nullptr;
+    if (Instruments::Active() && Instruments::Fails("GetEnv", std::string_view(iName), nullptr))
+        return nullptr;
+    return std::getenv(iName);
 }
 
 const char* ORXGetOfficialVariable(const char* iName)

@@ -1,29 +1,17 @@
 #include "VYRCfdAttributeNotification.h"
 
-#include "ORXMetaClass.h"
+#include <cstring>
 
 VYRCfdAttributeNotification::VYRCfdAttributeNotification() = default;
 
 VYRCfdAttributeNotification::~VYRCfdAttributeNotification() = default;
 
-ORXMetaClass* VYRCfdAttributeNotification::GetMetaObject() const
-{
-    return MetaObject();
-}
-
 const char* VYRCfdAttributeNotification::IsA() const
 {
-    return MetaObject()->ClassName();
+    return "VYRCfdAttributeNotification";
 }
 
 int VYRCfdAttributeNotification::IsAKindOf(const char* iClassName) const
 {
-    return MetaObject()->IsAKindOf(iClassName);
-}
-
-ORXMetaClass* VYRCfdAttributeNotification::MetaObject()
-{
-    static ORXMetaClass* const meta =
-        new ORXMetaClass("VYRCfdAttributeNotification", ORXImplementationClass, IID_ORXBaseUnknown, nullptr, nullptr);
-    return meta;
+    return iClassName != nullptr && std::strcmp(iClassName, "VYRCfdAttributeNotification") == 0 ? 1 : 0;
 }

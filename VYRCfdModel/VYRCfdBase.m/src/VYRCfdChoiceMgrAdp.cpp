@@ -174,7 +174,7 @@ HRESULT VYRCfdChoiceMgrAdp::AddChoices(std::set<ORXUnicodeString>& iAdded)
     const VYRCfdConfigurableTransaction transaction(VYRICfdConfigurable_var::Cast(GetImpl(0)));
     access[VYRCFDBASE(Choice, choices)].SetStrings(kept.choices);
     // The key is that of `choices`, here as well: the startups' names take the place of the choices. It looks like a
-    // slip, but models have come to depend on it.
+    // slip, and is kept: callers know it so.
     if (!originalStartups.empty())
         access[VYRCFDBASE(Choice, choices)].SetStrings(kept.startups);
     return S_OK;

@@ -1,5 +1,7 @@
 #include "VYRCfdDefaultManagementAdp.h"
 
+#include <exception>
+
 #include "ORXCkeGlobalFunctions.h"
 #include "ORXISpecAttribute.h"
 #include "ORXKeySetVYRCfdBase.h"
@@ -9,6 +11,27 @@ namespace
 {
 constexpr const char* SetSuffix = "_isset";
 constexpr const char* AutoSuffix = "_isauto";
+
+/// Lowers a guard when an exception from a listener ends the write under it; otherwise it would mark nothing any more.
+class LoweredByException
+{
+public:
+    explicit LoweredByException(ORXBoolean& ioGuard) noexcept
+        : m_guard(ioGuard), m_exceptions(std::uncaught_exceptions())
+    {
+    }
+    ~LoweredByException()
+    {
+        if (std::uncaught_exceptions() > m_exceptions)
+            m_guard = ORXFalse;
+    }
+    LoweredByException(const LoweredByException&) = delete;
+    LoweredByException& operator=(const LoweredByException&) = delete;
+
+private:
+    ORXBoolean& m_guard;
+    int m_exceptions;
+};
 
 /// Reads a record's text into a free-standing parameter. A text that is no number leaves it without a value; types
 /// other than integer, real and string are not read.
@@ -163,7 +186,8 @@ HRESULT VYRCfdDefaultManagementAdp::SetIsAuto(const ORXUnicodeString& iAttrName,
         const ORXISpecAttrAccess_var& spAttr = companion.spAttr;
         const ORXISpecAttrKey_var& spKey = companion.spKey;
         m_updating = ORXTrue;
-        // No scoped guard: after a failed write the guard stays up, and this instance marks nothing any more.
+        const LoweredByException lowered(m_updating);
+        // Not lowered on every exit: after a failed write the guard stays up, and this instance marks nothing any more.
         VYRCFD_CHECK(spAttr->SetBoolean(spKey, iIsAuto));
         if (iIsAuto != ORXFalse)
             Unset(iAttrName);
@@ -174,6 +198,7 @@ HRESULT VYRCfdDefaultManagementAdp::SetIsAuto(const ORXUnicodeString& iAttrName,
     const ORXISpecAttribute_var pAttr = ORXISpecAttribute_var::Adopt(companion.spSpec->AddAttribute(companion.attrName, tk_boolean, 1));
     VYRCFD_ASSERT(pAttr);
     m_updating = ORXTrue;
+    const LoweredByException lowered(m_updating);
     pAttr->SetBoolean(iIsAuto, 0);
     m_updating = ORXFalse;
     return S_OK;
@@ -340,6 +365,7 @@ HRESULT VYRCfdDefaultManagementAdp::Unset(const ORXUnicodeString& iAttrName)
         // Raised and lowered plainly: within SetIsAuto this lowers the outer guard as well, so that the flag below is
         // cleared.
         m_updating = ORXTrue;
+        const LoweredByException lowered(m_updating);
         spParm->ValuateFromValue(spDefault);
         m_updating = ORXFalse;
     }
