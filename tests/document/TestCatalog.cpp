@@ -30,7 +30,20 @@ void Declare()
                 {"name": "parts", "kind": "list", "of": "component"},
                 {"name": "other", "kind": "reference"},
                 {"name": "others", "kind": "list", "of": "reference"}],
-             "startup": {"part": {"label": "of the owner"}}}]})",
+             "startup": {"part": {"label": "of the owner"}}},
+            {"name": "Rich", "base": "Everything", "attributes": [
+                {"name": "length", "kind": "real", "unit": "m", "default": "5 mm"},
+                {"name": "lengths", "kind": "list", "of": "real", "unit": "m", "default": [1, "2 cm"]},
+                {"name": "pressure", "kind": "real", "unit": "Pa"},
+                {"name": "mayReal", "kind": "real", "optional": true, "default": 1.5},
+                {"name": "mayLength", "kind": "real", "unit": "m", "optional": true},
+                {"name": "mayInteger", "kind": "integer", "optional": true},
+                {"name": "mayBoolean", "kind": "boolean", "optional": true},
+                {"name": "mayEnumeration", "kind": "enumeration", "values": ["low", "high"], "optional": true},
+                {"name": "mayString", "kind": "string", "optional": true, "default": ""},
+                {"name": "mayReference", "kind": "reference", "optional": true},
+                {"name": "mayStrings", "kind": "list", "of": "string", "optional": true, "default": ["a"]},
+                {"name": "mayOthers", "kind": "list", "of": "reference", "optional": true}]}]})",
                                   "DocumentTest");
 }
 

@@ -10,8 +10,8 @@
 
 namespace TestCatalog
 {
-/// Declares the catalog "DocumentTest": "Part" (`size`, `label`), "SubPart", which derives from it (`extra`), and
-/// "Everything", with an attribute of each kind.
+/// Declares the catalog "DocumentTest": "Part" (`size`, `label`, `inside`), "SubPart", which derives from it (`extra`),
+/// "Everything", with an attribute of each kind, and "Rich", which adds units and optional attributes to that.
 void Declare();
 
 /// A model document with these objects.
