@@ -6,14 +6,19 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <optional>
+#include <string_view>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
+#include <vector>
 
 namespace
 {
 constexpr mode_t NewFileMode = 0666; // as the process's mask leaves it
 constexpr mode_t PermissionBits = 07777;
+constexpr std::string_view TemporaryPrefix = ".vyrcfd-";
+constexpr std::string_view TemporarySuffix = ".tmp";
 
 std::string Failure(int iError)
 {
@@ -43,6 +48,15 @@ public:
     WrittenFile& operator=(const WrittenFile&) = delete;
 
     bool IsOpen() const noexcept { return m_descriptor >= 0; }
+
+    /// Locks the file, so that other saves see that somebody is at work on it; the system unlocks it when the process
+    /// is stopped. False when one of them has taken it for left over and removed it just before.
+    bool Hold() const
+    {
+        struct stat status = {};
+        flock(m_descriptor, LOCK_EX);
+        return fstat(m_descriptor, &status) != 0 || status.st_nlink != 0;
+    }
 
     /// The operations answer 0 or the system's error.
     int Write(const std::string& iText) const
@@ -94,14 +108,50 @@ std::optional<std::filesystem::path> FollowLinks(std::filesystem::path iPath)
 std::string TemporaryPath(const std::filesystem::path& iFile)
 {
     static std::atomic<unsigned> count{0};
-    const std::string name = ".vyrcfd-" + std::to_string(getpid()) + "-" + std::to_string(count++) + ".tmp";
-    return (iFile.parent_path() / name).string();
+    const std::string name = std::string(TemporaryPrefix) + std::to_string(getpid()) + "-" + std::to_string(count++);
+    return (iFile.parent_path() / name).string().append(TemporarySuffix);
+}
+
+bool IsTemporaryName(const std::string& iName)
+{
+    return iName.size() > TemporaryPrefix.size() + TemporarySuffix.size() &&
+           iName.compare(0, TemporaryPrefix.size(), TemporaryPrefix) == 0 &&
+           iName.compare(iName.size() - TemporarySuffix.size(), TemporarySuffix.size(), TemporarySuffix) == 0;
+}
+
+/// Removes a regular file unless a save is at work on it.
+void RemoveUnlessHeld(const std::string& iPath)
+{
+    const int descriptor = open(iPath.c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    struct stat status = {};
+    if (fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && flock(descriptor, LOCK_EX | LOCK_NB) == 0)
+        unlink(iPath.c_str());
+    close(descriptor);
+}
+
+/// What saves into the folder have left there that were stopped: each goes with the next save, so that they do not pile
+/// up. What cannot be looked at or removed stays.
+void RemoveLeftOvers(const std::filesystem::path& iFolder)
+{
+    std::error_code error;
+    std::vector<std::string> found;
+    for (std::filesystem::directory_iterator entry(iFolder, error), end; !error && entry != end; entry.increment(error))
+        if (IsTemporaryName(entry->path().filename().string()))
+            found.push_back(entry->path().string());
+    for (const std::string& path : found)
+        RemoveUnlessHeld(path);
+}
+
+std::filesystem::path FolderOf(const std::filesystem::path& iFile)
+{
+    return iFile.has_parent_path() ? iFile.parent_path() : ".";
 }
 
 void SynchroniseFolder(const std::filesystem::path& iFile)
 {
-    const std::filesystem::path folder = iFile.has_parent_path() ? iFile.parent_path() : ".";
-    const int descriptor = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int descriptor = open(FolderOf(iFile).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor < 0)
         return;
     // The file is whole either way; only after a crash could the old one be there again.
@@ -120,12 +170,14 @@ std::string WriteInPlace(const std::string& iPath, const std::string& iText)
 std::string WriteAndRename(const std::filesystem::path& iTarget, const std::string& iText, const mode_t* iMode)
 {
     constexpr int MostTries = 100;
+    // First, since the disk may be full of them.
+    RemoveLeftOvers(FolderOf(iTarget));
     std::optional<WrittenFile> file;
     for (int i = 0; i < MostTries; ++i)
     {
         file.emplace(TemporaryPath(iTarget), O_CREAT | O_EXCL, true);
-        // A name may be left over from a process that was stopped.
-        if (file->IsOpen() || errno != EEXIST)
+        // A name may be left over from a process that was stopped, and that could not be removed.
+        if (file->IsOpen() ? file->Hold() : errno != EEXIST)
             break;
     }
     if (!file->IsOpen())

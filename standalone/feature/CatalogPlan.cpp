@@ -197,7 +197,7 @@ void CatalogPlan::CheckAttribute(std::size_t iType, std::size_t iAttribute) cons
                                : "texts of the attribute " + Quoted(attribute.name) + ", which is no enumeration");
     if (texts.size() != attribute.texts.size())
         refuse("enumeration " + Quoted(attribute.name) + " has a text twice");
-    if (attribute.isOptional && code == tk_component)
+    if (attribute.isOptional && attribute.type == tk_component)
         refuse("a component comes into being with its owner and cannot be optional: " + Quoted(attribute.name));
     if (!attribute.unit.empty() && code != tk_double)
         refuse("only reals have a unit: " + Quoted(attribute.name));

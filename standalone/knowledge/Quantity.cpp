@@ -1,6 +1,8 @@
 #include "Quantity.h"
 
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -20,12 +22,38 @@ struct FreeUnit
 };
 using UnitPtr = std::unique_ptr<ut_unit, FreeUnit>;
 
-/// A number in a unit is `factor` times it plus `offset` in SI.
+/// How a number in a unit becomes one in SI: the origin is added, then it is multiplied and divided.
 struct Conversion
 {
-    double factor;
-    double offset;
+    double origin = 0.0;
+    double multiplier = 1.0;
+    double divisor = 1.0;
 };
+
+/// A number that is short in decimal, up to the rounding that it has gone through; 0 for any other.
+double Short(double iNumber)
+{
+    char text[32];
+    std::snprintf(text, sizeof text, "%.13g", iNumber);
+    const double rounded = std::strtod(text, nullptr);
+    std::snprintf(text, sizeof text, "%.11g", iNumber);
+    return rounded == std::strtod(text, nullptr) ? rounded : 0.0;
+}
+
+/// The factor that the units library keeps is rounded. What an engineer types should be what is read, so that the short
+/// one of the factor and its inverse is used: 5 um are 5 / 1e6 m, and not 5 * 1e-6 m, which is 4.9999999999999996e-06.
+Conversion ConversionBy(double iFactor, double iOrigin)
+{
+    Conversion conversion;
+    conversion.origin = iOrigin;
+    const double factor = Short(iFactor);
+    const double inverse = Short(1.0 / iFactor);
+    if (inverse != 0.0 && (factor == 0.0 || std::fabs(iFactor) < 1.0))
+        conversion.divisor = inverse;
+    else
+        conversion.multiplier = factor != 0.0 ? factor : iFactor;
+    return conversion;
+}
 
 constexpr std::size_t MostRemembered = 4096;
 
@@ -62,7 +90,7 @@ UnitTable& Table()
 struct Parts
 {
     UnitPtr coherent;
-    Conversion conversion{1.0, 0.0};
+    Conversion conversion;
 };
 
 ut_status TakeWhole(const ut_unit* iUnit, void* oParts)
@@ -85,7 +113,7 @@ ut_status TakeScaled(const ut_unit*, double iScale, const ut_unit* iUnderlying, 
 {
     Parts& parts = *static_cast<Parts*>(oParts);
     parts.coherent.reset(ut_clone(iUnderlying));
-    parts.conversion = {iScale, iScale * iOrigin};
+    parts.conversion = ConversionBy(iScale, iOrigin);
     return UT_SUCCESS;
 }
 
@@ -143,7 +171,8 @@ const Quantity* Quantity::OfUnit(const std::string& iUnit, std::string& oWhy)
         oWhy = "unknown unit \"" + iUnit + '"';
         return nullptr;
     }
-    const bool isCoherent = parts.conversion.factor == 1.0 && parts.conversion.offset == 0.0;
+    const Conversion& conversion = parts.conversion;
+    const bool isCoherent = conversion.multiplier == 1.0 && conversion.divisor == 1.0 && conversion.origin == 0.0;
     const bool isNumber = ut_is_dimensionless(parts.coherent.get()) != 0 &&
                           Formatted(parts.coherent.get(), UT_ASCII | UT_DEFINITION) == "1";
     // A named unit for a named one, as "Pa" for "kPa"; but "kJ/kg" has nothing to do with the name for its dimension.
@@ -192,7 +221,8 @@ bool Quantity::Convert(std::string_view iUnit, double iNumber, double& oValue) c
             table.conversions.clear();
         known = table.conversions.emplace(entry, parts.conversion).first;
     }
-    const double value = iNumber * known->second.factor + known->second.offset;
+    const Conversion& conversion = known->second;
+    const double value = (iNumber + conversion.origin) * conversion.multiplier / conversion.divisor;
     if (!std::isfinite(value))
         return false;
     oValue = value;
