@@ -3,6 +3,8 @@
  * What a Choice does when it is told that one of its attributes has changed.
  */
 
+#include <ostream>
+
 #include "ActingListener.h"
 #include "ChoiceTest.h"
 
@@ -52,6 +54,11 @@ struct AdviseCase
     Lines lines;
     std::string flag;
 };
+
+void PrintTo(const AdviseCase& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.test;
+}
 
 // The Choice is up to date and holds "beta", which is set; its default is "alpha".
 const AdviseCase adviseCases[] = {

@@ -3,6 +3,8 @@
  * What a Choice sends when it has changed: the object that is sent, to whom, and when.
  */
 
+#include <ostream>
+
 #include "ChoiceTest.h"
 #include "VYRCfdAttributeNotification.h"
 
@@ -115,6 +117,11 @@ struct SendingCase
     bool isDataTaken;
     int notifications;
 };
+
+void PrintTo(const SendingCase& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 const SendingCase sendingCases[] = {
     {"Nothing", false, false, 0},

@@ -3,6 +3,8 @@
  * The configurations that a Choice has recorded for its data object, and applies again.
  */
 
+#include <ostream>
+
 #include "ActingListener.h"
 #include "ReplayFixture.h"
 #include "VYRCfdConfigurator.h"
@@ -48,6 +50,11 @@ struct PathCase
     bool isApplied;
 };
 
+void PrintTo(const PathCase& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
+
 const PathCase pathCases[] = {
     {"Data", "Data", true},
     {"LowerCase", "data", false},
@@ -87,6 +94,11 @@ struct ConditionCase
     const char* condition;
     bool isApplied;
 };
+
+void PrintTo(const ConditionCase& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 // The Choice's value is "alpha", its display text "Shown".
 const ConditionCase conditionCases[] = {

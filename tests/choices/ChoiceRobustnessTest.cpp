@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <ostream>
 #include <utility>
 
 #include "ActingListener.h"
@@ -58,6 +59,11 @@ struct PlaceCase
     const char* name;
     Place place;
 };
+
+void PrintTo(const PlaceCase& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 const PlaceCase places[] = {
     {"Listener", Place::Listener},         {"DataListener", Place::DataListener}, {"Subscriber", Place::Subscriber},

@@ -4,6 +4,7 @@
  */
 
 #include <functional>
+#include <ostream>
 
 #include "ChannelSwap.h"
 #include "ChoiceTest.h"
@@ -22,6 +23,11 @@ struct Scope
     Lines scopes;
     bool isResetting;
 };
+
+void PrintTo(const Scope& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 // A Choice without choices, so that no more is entered than has to be.
 const Scope scopes[] = {

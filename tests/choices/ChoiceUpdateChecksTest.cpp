@@ -3,6 +3,8 @@
  * What an update reports, and what it does not look at.
  */
 
+#include <ostream>
+
 #include "ChoiceTest.h"
 
 namespace
@@ -73,6 +75,11 @@ struct Lists
     Lines startups;
     const char* text;
 };
+
+void PrintTo(const Lists& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 const Lists badLists[] = {
     {"NoChoices", {}, {}, "choices.size() > 0"},

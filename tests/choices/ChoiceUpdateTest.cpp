@@ -3,6 +3,8 @@
  * What an update makes of values, defaults and lists.
  */
 
+#include <ostream>
+
 #include "ChoiceTest.h"
 
 namespace
@@ -20,6 +22,11 @@ struct AllowedCase
     /// Whether the allowed values are written, from [alpha, beta, gamma].
     bool isWritten;
 };
+
+void PrintTo(const AllowedCase& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 const AllowedCase allowedCases[] = {
     {"SameOrder", {"alpha", "beta", "gamma"}, false},      {"OtherOrder", {"beta", "alpha", "gamma"}, true},
@@ -179,6 +186,11 @@ struct InvalidCase
     const char* name;
     const char* value;
 };
+
+void PrintTo(const InvalidCase& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 const InvalidCase invalidCases[] = {
     {"Other", "omega"},  {"OtherCase", "Alpha"},      {"Empty", ""},

@@ -3,6 +3,8 @@
  * Putting choices back.
  */
 
+#include <ostream>
+
 #include "ManagerTest.h"
 
 namespace
@@ -45,6 +47,11 @@ struct NothingToAdd
     const char* name;
     std::set<ORXUnicodeString> added;
 };
+
+void PrintTo(const NothingToAdd& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 class NothingToAddTest : public AddChoicesTest, public testing::WithParamInterface<NothingToAdd>
 {

@@ -3,6 +3,8 @@
  * Restricting a Choice to some of its declared choices.
  */
 
+#include <ostream>
+
 #include "ManagerTest.h"
 
 namespace
@@ -137,6 +139,11 @@ struct Refused
     const char* defaultChoice;
     Record report;
 };
+
+void PrintTo(const Refused& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 class RefusedConfigurationTest : public ManagerTest, public testing::WithParamInterface<Refused>
 {

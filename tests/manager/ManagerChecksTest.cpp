@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <ostream>
 
 #include "EnteredScopes.h"
 #include "ManagerTest.h"
@@ -29,6 +30,11 @@ struct Checked
     /// Calls the operation with arguments that break all checks from the one numbered so.
     std::function<HRESULT(VYRICfdChoiceMgr& ioManager, std::size_t iFirst)> call;
 };
+
+void PrintTo(const Checked& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 /// Breaks what is broken outside of the arguments.
 void Break(const Lines& iChecks, std::size_t iFirst)
@@ -136,6 +142,11 @@ struct Scope
     std::function<void(VYRICfdChoiceMgr&)> call;
     Lines entered;
 };
+
+void PrintTo(const Scope& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 class ManagerScopesTest : public ManagerTest, public testing::WithParamInterface<Scope>
 {

@@ -3,6 +3,8 @@
  * How data objects are named.
  */
 
+#include <ostream>
+
 #include "StartupTest.h"
 
 namespace
@@ -19,6 +21,11 @@ struct Naming
     const char* startup;
     const char* instance;
 };
+
+void PrintTo(const Naming& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 class NamingTest : public StartupTest, public testing::WithParamInterface<Naming>
 {

@@ -3,6 +3,8 @@
  * What becomes of the data object for each startup and each object that stands there.
  */
 
+#include <ostream>
+
 #include "StartupTest.h"
 
 namespace
@@ -17,6 +19,11 @@ struct Transition
     bool dataChange;
     Lines calls;
 };
+
+void PrintTo(const Transition& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 class TransitionTest : public StartupTest, public testing::WithParamInterface<Transition>
 {

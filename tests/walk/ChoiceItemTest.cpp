@@ -4,6 +4,7 @@
  */
 
 #include <optional>
+#include <ostream>
 
 #include "ChoiceTest.h"
 #include "Configurations.h"
@@ -174,6 +175,11 @@ struct Path
     std::string recorded;
 };
 
+void PrintTo(const Path& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
+
 class ChoicePathTest : public ChoiceItemTest, public testing::WithParamInterface<Path>
 {
 };
@@ -228,6 +234,11 @@ struct ListText
     Lines choices;
     Lines startups;
 };
+
+void PrintTo(const ListText& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 class ChoiceListsTest : public ChoiceItemTest, public testing::WithParamInterface<ListText>
 {
@@ -361,6 +372,11 @@ struct FailedItem
     Lines choices;
 };
 
+void PrintTo(const FailedItem& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
+
 class FailedChoiceTest : public ChoiceItemTest, public testing::WithParamInterface<FailedItem>
 {
 };
@@ -439,6 +455,11 @@ struct FailedWrite
     const char* attribute;
     const char* call;
 };
+
+void PrintTo(const FailedWrite& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.attribute;
+}
 
 class ChoiceRecordWriteTest : public ChoiceItemTest, public testing::WithParamInterface<FailedWrite>
 {

@@ -3,6 +3,8 @@
  * Which of its keys decide what an item does. One item never does two things.
  */
 
+#include <ostream>
+
 #include "WalkTest.h"
 
 namespace
@@ -171,6 +173,11 @@ struct ChoiceItem
     const char* name;
     const char* item;
 };
+
+void PrintTo(const ChoiceItem& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 class ChoiceDispatchTest : public WalkTest, public testing::WithParamInterface<ChoiceItem>
 {

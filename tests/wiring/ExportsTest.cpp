@@ -3,6 +3,8 @@
  * What the object model and a loader find in the library by name.
  */
 
+#include <ostream>
+
 #include <dlfcn.h>
 
 #include "FlowTest.h"
@@ -37,6 +39,11 @@ struct Export
     /// Whether two calls give one pointer.
     bool isShared;
 };
+
+void PrintTo(const Export& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 class CreatorTest : public ExportsTest, public testing::WithParamInterface<Export>
 {

@@ -3,6 +3,8 @@
  * Every operation of the ties to an instance reaches the operation of the same name.
  */
 
+#include <ostream>
+
 #include "FlowTest.h"
 #include "ORXCkeGlobalFunctions.h"
 #include "ORXIInstance.h"
@@ -20,6 +22,11 @@ struct Extended
     const char* path;
     Lines types;
 };
+
+void PrintTo(const Extended& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 class InstanceTieTest : public FlowTest, public testing::WithParamInterface<Extended>
 {

@@ -3,6 +3,8 @@
  * Which interfaces features of the late types give, beyond their own.
  */
 
+#include <ostream>
+
 #include "FlowTest.h"
 #include "ORXIInstance.h"
 #include "VYRICfdChoice.h"
@@ -20,6 +22,11 @@ struct Offer
     bool hasInstance;
     bool isChoice = false;
 };
+
+void PrintTo(const Offer& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 class InterfacesTest : public FlowTest, public testing::WithParamInterface<Offer>
 {
