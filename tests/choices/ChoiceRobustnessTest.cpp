@@ -3,146 +3,15 @@
  * Listeners and subscribers that do what they should not: nothing breaks, and nothing stays behind.
  */
 
-#include <functional>
-#include <memory>
-#include <ostream>
-#include <utility>
-
-#include "ActingListener.h"
 #include "BoundedStack.h"
-#include "ChoiceTest.h"
+#include "Culprit.h"
 #include "ORXISpecAttribute.h"
 #include "ORXTypeCode.h"
 
 namespace
 {
-/// Holds every test to leaving nothing alive but what was there before it.
-class ChoiceRobustnessTest : public ChoiceTest
+class ChoiceRobustnessTest : public ChoiceLeakTest
 {
-protected:
-    void SetUp() override
-    {
-        ChoiceTest::SetUp();
-        m_alive = VYRStandalone::LiveComponents();
-    }
-
-    void TearDown() override
-    {
-        TestChoice::Hooks() = {};
-        m_model.Close();
-        EXPECT_EQ(VYRStandalone::LiveComponents(), m_alive)
-            << testing::PrintToString(VYRStandalone::LiveComponentNames());
-        ChoiceTest::TearDown();
-    }
-
-private:
-    int m_alive = 0;
-};
-
-/// Where the model is closed, or the data thrown away, or the value written again: how the culprit is told.
-enum class Place
-{
-    /// A listener of the Choice's instance, which is told last.
-    Listener,
-    /// A listener of the Choice's instance, when it is told of the data object.
-    DataListener,
-    /// A subscriber to its notifications.
-    Subscriber,
-    DataHook,
-    NameHook,
-    RepairHook,
-    CompleteHook,
-};
-
-struct PlaceCase
-{
-    const char* name;
-    Place place;
-};
-
-void PrintTo(const PlaceCase& iCase, std::ostream* ioStream)
-{
-    *ioStream << iCase.name;
-}
-
-const PlaceCase places[] = {
-    {"Listener", Place::Listener},         {"DataListener", Place::DataListener}, {"Subscriber", Place::Subscriber},
-    {"DataHook", Place::DataHook},         {"NameHook", Place::NameHook},         {"RepairHook", Place::RepairHook},
-    {"CompleteHook", Place::CompleteHook},
-};
-
-/// Does something at a place, the first time that the place is reached.
-class Culprit
-{
-public:
-    Culprit(Place iPlace, const ORXISpecObject_var& iChoice, std::function<void()> iAction)
-        : m_action(std::move(iAction))
-    {
-        ChoiceHooks& hooks = TestChoice::Hooks();
-        switch (iPlace)
-        {
-        case Place::Listener:
-            ListenFor(iChoice, "value");
-            break;
-        case Place::DataListener:
-            ListenFor(iChoice, "Data");
-            break;
-        case Place::Subscriber:
-            m_subscription =
-                std::make_unique<VYRStandalone::Subscription>(iChoice, [this](ORXNotification&) { Act(); });
-            break;
-        case Place::DataHook:
-            hooks.data = [this](TestChoice& ioSelf, const ORXUnicodeString& iStartup, bool& oDataChange) {
-                Act();
-                return ioSelf.BaseUpdateDataForStartup(iStartup, oDataChange);
-            };
-            break;
-        case Place::NameHook:
-            hooks.name = [this](TestChoice&, const ORXUnicodeString& iStartup, ORXUnicodeString& oName) {
-                Act();
-                oName = iStartup;
-                return S_OK;
-            };
-            break;
-        case Place::RepairHook:
-            hooks.fix = [this](TestChoice&) {
-                Act();
-                return true;
-            };
-            break;
-        case Place::CompleteHook:
-            hooks.complete = [this](TestChoice&, bool, bool) {
-                Act();
-                return S_OK;
-            };
-            break;
-        }
-    }
-
-    ~Culprit() { TestChoice::Hooks() = {}; }
-    Culprit(const Culprit&) = delete;
-    Culprit& operator=(const Culprit&) = delete;
-
-    bool HasActed() const { return m_hasActed; }
-
-private:
-    void ListenFor(const ORXISpecObject_var& iChoice, const char* iName)
-    {
-        Listen(iChoice, [this, iName](const ORXUnicodeString& iChanged, const ORXIValue_var&) {
-            if (iChanged == iName)
-                Act();
-        });
-    }
-
-    void Act()
-    {
-        if (!std::exchange(m_hasActed, true))
-            m_action();
-    }
-
-    std::function<void()> m_action;
-    bool m_hasActed = false;
-    std::unique_ptr<VYRStandalone::Subscription> m_subscription;
 };
 
 /// The value whose writing reaches a place: a choice, or none for the repair.
@@ -155,7 +24,7 @@ class ChoicePlaceTest : public ChoiceRobustnessTest, public testing::WithParamIn
 {
 };
 
-INSTANTIATE_TEST_SUITE_P(Places, ChoicePlaceTest, testing::ValuesIn(places),
+INSTANTIATE_TEST_SUITE_P(Places, ChoicePlaceTest, testing::ValuesIn(Places),
                          [](const auto& iInfo) { return std::string(iInfo.param.name); });
 
 // ---- who closes the model -------------------------------------------------------------------------------------------
@@ -198,8 +67,11 @@ TEST_P(ChoicePlaceTest, ModelClosed_InsideAFreshConfiguration)
 {
     const ORXISpecObject_var choice = Create("ChoiceTestHooked", "Choice.1");
     const Culprit culprit(GetParam().place, choice, [this] { m_model.Close(); });
-    ChoiceOf(choice)->Configure(Texts({"alpha", "beta"}), Texts({"TypeAlpha", "TypeBeta"}), "beta", "Kind");
+    EXPECT_EQ(ChoiceOf(choice)->Configure(Texts({"alpha", "beta"}), Texts({"TypeAlpha", "TypeBeta"}), "beta", "Kind"),
+              S_OK);
     EXPECT_TRUE(culprit.HasActed());
+    // Data objects are made in the model: what has been made before its end goes with the next value.
+    EXPECT_EQ(DataTypeOf(choice), "");
     EXPECT_EQ(ValueOf(choice, "value"), "beta");
     EXPECT_EQ(ValueOf(choice, "display"), "Kind");
 }
@@ -259,10 +131,9 @@ TEST_P(ChoicePlaceTest, ChoicesTakenAway_InsideAChangeOfTheValue)
     });
     EXPECT_EQ(ChoiceOf(choice)->SetChoice(ValueFor(GetParam().place)), S_OK);
     EXPECT_TRUE(culprit.HasActed());
-    const Records reports = Reported();
-    ASSERT_FALSE(reports.empty());
-    for (const Record& report : reports)
-        EXPECT_EQ(report, Assertion("choices.size() > 0", "VYRCfdChoiceInstanceAdp::Update"));
+    // The write of the choices, and behind a repair the default that is written back.
+    EXPECT_EQ(Reported(), Records(GetParam().place == Place::RepairHook ? 2 : 1,
+                                  Assertion("choices.size() > 0", "VYRCfdChoiceInstanceAdp::Update")));
 }
 
 TEST_P(ChoicePlaceTest, BracketOpened_InsideAChangeOfTheValue)
