@@ -27,26 +27,30 @@ void EntityInit::Register()
         { "name": "StartupTestEntity", "base": "VYRCfdValues" },
         { "name": "StartupTestDerivedEntity", "base": "StartupTestEntity" } ] })");
     ORXFillDictionary::Register(MetaObject(), BaseMeta(), &Create, nullptr, 1);
+    Steps() = {};
 }
 
-HRESULT& EntityInit::Answer()
+EntitySteps& EntityInit::Steps()
 {
-    static HRESULT answer = S_OK;
-    return answer;
+    static EntitySteps steps;
+    return steps;
 }
 
 HRESULT EntityInit::Init()
 {
-    return Note("init ");
+    return Take("init ", Steps().init);
 }
 
 HRESULT EntityInit::PostInit()
 {
-    return Note("postinit ");
+    return Take("postinit ", Steps().postInit);
 }
 
-HRESULT EntityInit::Note(const char* iStep)
+HRESULT EntityInit::Take(const char* iLine, const std::function<void()>& iStep)
 {
-    VYRStandalone::RecordLine(iStep + VYRStandalone::PathOf(ORXISpecObject_var::Cast(GetImpl(0))));
-    return Answer();
+    VYRStandalone::RecordLine(iLine + VYRStandalone::PathOf(ORXISpecObject_var::Cast(GetImpl(0))));
+    const HRESULT answer = Steps().answer;
+    if (iStep)
+        iStep();
+    return answer;
 }

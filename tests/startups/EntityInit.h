@@ -6,8 +6,18 @@
  * A feature type that takes steps of its own while it gets its place.
  */
 
+#include <functional>
+
 #include "ORXISamAnalysisEntityInit.h"
 #include "VYRCfdExtension.h"
+
+/// What the steps of all objects do besides showing themselves, and what they answer.
+struct EntitySteps
+{
+    std::function<void()> init;
+    std::function<void()> postInit;
+    HRESULT answer = S_OK;
+};
 
 /**
  * Extends "StartupTestEntity". Each step adds a line with where the object stands to every
@@ -21,17 +31,16 @@ public:
     static constexpr const char* Framework = "Test";
     static ORXMetaClass* BaseMeta();
 
-    /// Declares the type and enters the class into the dictionary. May be called again.
+    /// Declares the type, enters the class into the dictionary, and makes the steps do nothing. May be called again.
     static void Register();
 
-    /// What both steps answer.
-    static HRESULT& Answer();
+    static EntitySteps& Steps();
 
     HRESULT Init() override;
     HRESULT PostInit() override;
 
 private:
-    HRESULT Note(const char* iStep);
+    HRESULT Take(const char* iLine, const std::function<void()>& iStep);
 };
 
 #endif

@@ -15,13 +15,6 @@ protected:
     {
         StartupTest::SetUp();
         EntityInit::Register();
-        EntityInit::Answer() = S_OK;
-    }
-
-    void TearDown() override
-    {
-        EntityInit::Answer() = S_OK;
-        StartupTest::TearDown();
     }
 };
 
@@ -47,7 +40,7 @@ TEST_F(EntityInitTest, OfADerivedType_TakesTheSameSteps)
 
 TEST_F(EntityInitTest, StepsThatFail_StopNobody)
 {
-    EntityInit::Answer() = E_FAIL;
+    EntityInit::Steps().answer = E_FAIL;
     VYRStandalone::CallRecorder calls;
     EXPECT_EQ(UpdateTo("StartupTestEntity"), (Outcome{S_OK, true}));
     EXPECT_EQ(Only(calls.Take(), {"init", "postinit"}),
