@@ -141,6 +141,8 @@ struct Scope
     const char* name;
     std::function<void(VYRICfdChoiceMgr&)> call;
     Lines entered;
+    /// What stops it, without a start-up to look at.
+    Records reports;
 };
 
 void PrintTo(const Scope& iCase, std::ostream* ioStream)
@@ -157,36 +159,44 @@ TEST_P(ManagerScopesTest, Operation_EntersAtTheLevelOfItsKind)
     MakeFail("GetStartup", "");
     const Lines entered = EnteredScopes(15, [this] { GetParam().call(*m_manager); });
     EXPECT_EQ(entered, GetParam().entered);
-    EXPECT_LE(Reported().size(), 1U);
+    EXPECT_EQ(Reported(), GetParam().reports);
     EXPECT_EQ(EnteredScopes(14, [this] { GetParam().call(*m_manager); }), Lines{});
-    VYRStandalone::TakeReports();
+    EXPECT_EQ(Reported(), GetParam().reports);
 }
 
 // None of these gets as far as an update.
 const Scope scopes[] = {
     {"ConfigureChoiceMgr",
      [](VYRICfdChoiceMgr& ioManager) { ioManager.ConfigureChoiceMgr({}, "", ""); },
-     {"> VYRCfdChoiceMgrAdp::ConfigureChoiceMgr [15]"}},
-    {"Reset", [](VYRICfdChoiceMgr& ioManager) { ioManager.Reset(ORXFalse); }, {"> VYRCfdChoiceMgrAdp::Reset [15]"}},
+     {"> VYRCfdChoiceMgrAdp::ConfigureChoiceMgr [15]"},
+     {Assertion("iChoices.size() > 0", Manage)}},
+    {"Reset",
+     [](VYRICfdChoiceMgr& ioManager) { ioManager.Reset(ORXFalse); },
+     {"> VYRCfdChoiceMgrAdp::Reset [15]"},
+     {Assertion("spStartupSpec", ResetChoices)}},
     {"GetAllChoices",
      [](VYRICfdChoiceMgr& ioManager) {
          std::vector<ORXUnicodeString> choices;
          ORXUnicodeString value;
          ioManager.GetAllChoices(choices, value);
      },
-     {"> VYRCfdChoiceMgrAdp::GetAllChoices [15]"}},
+     {"> VYRCfdChoiceMgrAdp::GetAllChoices [15]"},
+     {Assertion("spStartupSpec", GetAll)}},
     {"ProhibitChoice",
      [](VYRICfdChoiceMgr& ioManager) { ioManager.ProhibitChoice("delta"); },
-     {"> VYRCfdChoiceMgrAdp::ProhibitChoice [15]", "  > VYRCfdChoiceMgrAdp::ProhibitChoices [15]"}},
+     {"> VYRCfdChoiceMgrAdp::ProhibitChoice [15]", "  > VYRCfdChoiceMgrAdp::ProhibitChoices [15]"},
+     {}},
     {"ProhibitChoices",
      [](VYRICfdChoiceMgr& ioManager) { ioManager.ProhibitChoices({}); },
-     {"> VYRCfdChoiceMgrAdp::ProhibitChoices [15]"}},
+     {"> VYRCfdChoiceMgrAdp::ProhibitChoices [15]"},
+     {}},
     {"AddChoices",
      [](VYRICfdChoiceMgr& ioManager) {
          std::set<ORXUnicodeString> added;
          ioManager.AddChoices(added);
      },
-     {"> VYRCfdChoiceMgrAdp::AddChoices [15]"}},
+     {"> VYRCfdChoiceMgrAdp::AddChoices [15]"},
+     {Assertion("spStartupSpec", Add)}},
 };
 
 INSTANTIATE_TEST_SUITE_P(Operations, ManagerScopesTest, testing::ValuesIn(scopes),
@@ -224,17 +234,37 @@ TEST_F(ManagerIdentityTest, Manager_HoldsNothing)
     EXPECT_EQ(TextsOf(m_choice, "choices"), (Lines{"alpha", "beta"}));
 }
 
-/// `GetStartup` gives a reference that each operation gives back.
-TEST_F(ManagerIdentityTest, Operations_KeepNoReference)
+/// What each operation asks the host for, it gives back. Start-ups count nothing, so it is the Choice and its ties that
+/// tell.
+TEST_F(ManagerIdentityTest, Operations_LeaveNoObjectTieOrReferenceBehind)
 {
+    const auto changeAndChangeBack = [this] {
+        EXPECT_EQ(Configure({"gamma", "beta"}, "beta", "Kind"), S_OK);
+        EXPECT_EQ(DataTypeOf(m_choice), "TypeBeta");
+        EXPECT_EQ(m_manager->ProhibitChoice("beta"), S_OK);
+        EXPECT_EQ(DataTypeOf(m_choice), "TypeGamma");
+        EXPECT_EQ(m_manager->Reset(ORXTrue), S_OK);
+        EXPECT_EQ(ProhibitAll({"alpha", "gamma"}), S_OK);
+        EXPECT_EQ(DataTypeOf(m_choice), "TypeBeta");
+        EXPECT_EQ(AddAll({"gamma"}), S_OK);
+        EXPECT_EQ(TextsOf(m_choice, "choices"), (Lines{"TypeBeta", "TypeGamma"}));
+        EXPECT_EQ(m_manager->Reset(ORXFalse), S_OK);
+        std::vector<ORXUnicodeString> choices;
+        ORXUnicodeString value;
+        EXPECT_EQ(m_manager->GetAllChoices(choices, value), S_OK);
+        EXPECT_EQ(choices, Texts(TextsOf(m_choice, "choices")));
+        EXPECT_EQ(value, ORXUnicodeString(ValueOf(m_choice, "value").c_str()));
+        VYRStandalone::TakeReports();
+    };
+    // The first round makes what stays: flags, and the default that is kept.
+    changeAndChangeBack();
     const unsigned int before = VYRStandalone::ReferenceCount(m_choice);
-    const int alive = VYRStandalone::LiveComponents();
-    EXPECT_EQ(AddAll({}), S_OK);
-    std::vector<ORXUnicodeString> choices;
-    ORXUnicodeString value;
-    EXPECT_EQ(m_manager->GetAllChoices(choices, value), S_OK);
-    EXPECT_EQ(ProhibitAll({"delta"}), S_OK);
-    EXPECT_EQ(VYRStandalone::ReferenceCount(m_choice), before);
-    EXPECT_EQ(VYRStandalone::LiveComponents(), alive);
+    const Lines alive = VYRStandalone::LiveComponentNames();
+    for (int round = 0; round < 3; ++round)
+    {
+        changeAndChangeBack();
+        EXPECT_EQ(VYRStandalone::ReferenceCount(m_choice), before);
+        EXPECT_EQ(VYRStandalone::LiveComponentNames(), alive);
+    }
 }
 } // namespace
