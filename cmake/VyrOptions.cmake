@@ -4,6 +4,7 @@ option(VYRCFD_BUILD_TOOLS "Build the command-line tool; needs CLI11 and GNU read
 option(VYRCFD_BUILD_TESTS "Build the tests; needs GoogleTest and Python 3" ${PROJECT_IS_TOP_LEVEL})
 option(VYRCFD_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 set(VYRCFD_SANITIZE "" CACHE STRING "Sanitizers for the whole tree, as -fsanitize= takes them; clang")
+option(VYRCFD_COVERAGE "Measure which lines and branches of the two libraries run; clang" OFF)
 set(VYRCFD_HOST VYRStandaloneHost CACHE STRING
   "The host that VYRCfdBase is linked with: a target of this tree, or the path of a shared library")
 

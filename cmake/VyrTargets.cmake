@@ -33,6 +33,10 @@ function(vyr_library_defaults target)
     CXX_VISIBILITY_PRESET hidden
     VISIBILITY_INLINES_HIDDEN ON)
   target_link_libraries(${target} PRIVATE vyr_warnings)
+  if(VYRCFD_COVERAGE)
+    target_compile_options(${target} PRIVATE -fprofile-instr-generate -fcoverage-mapping)
+    target_link_options(${target} PRIVATE -fprofile-instr-generate)
+  endif()
   # Under clang a sanitizer's runtime is linked into the executable only, so a library must leave its symbols open.
   if(NOT VYRCFD_SANITIZE)
     target_link_options(${target} PRIVATE LINKER:--no-undefined)

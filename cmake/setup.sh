@@ -20,6 +20,7 @@ is_there() {
         libreadline-dev) has_header readline/readline.h && has_library libreadline.so ;;
         libgtest-dev) has_header gtest/gtest.h && has_library libgtest.a ;;
         libclang-rt-14-dev) command -v clang++ >/dev/null && [ -f "$(clang++ -print-runtime-dir)/libclang_rt.asan-$(uname -m).a" ] ;;
+        llvm-14) command -v llvm-cov-14 >/dev/null ;;
         binutils) command -v nm >/dev/null ;;
         *) command -v "$1" >/dev/null ;;
     esac
