@@ -256,9 +256,10 @@ TEST_F(ManagerIdentityTest, Operations_LeaveNoObjectTieOrReferenceBehind)
         EXPECT_EQ(value, ORXUnicodeString(ValueOf(m_choice, "value").c_str()));
         VYRStandalone::TakeReports();
     };
+    const unsigned int before = VYRStandalone::ReferenceCount(m_choice);
     // The first round makes what stays: flags, and the default that is kept.
     changeAndChangeBack();
-    const unsigned int before = VYRStandalone::ReferenceCount(m_choice);
+    EXPECT_EQ(VYRStandalone::ReferenceCount(m_choice), before);
     const Lines alive = VYRStandalone::LiveComponentNames();
     for (int round = 0; round < 3; ++round)
     {
