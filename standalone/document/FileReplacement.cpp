@@ -199,6 +199,9 @@ std::string WriteAndRename(const std::filesystem::path& iTarget, const std::stri
 
 std::string ReplaceFile(const std::string& iPath, const std::string& iText)
 {
+    // The system would take what stands in front of it for the whole name.
+    if (iPath.find('\0') != std::string::npos)
+        return Failure(EINVAL);
     struct stat status = {};
     const bool exists = stat(iPath.c_str(), &status) == 0;
     if (exists && S_ISDIR(status.st_mode))

@@ -64,6 +64,8 @@ CatalogPlan::CatalogPlan(const TypeRegistry& iRegistry, const CatalogDeclaration
     for (const std::size_t type : m_basesFirst)
         AddAttributes(type);
     OrderByParts();
+    for (const std::size_t type : m_partsFirst)
+        CountObjects(type);
     for (std::size_t type = 0; type < m_catalog.types.size(); ++type)
         for (std::size_t value = 0; value < m_catalog.types[type].values.size(); ++value)
         {
@@ -257,6 +259,34 @@ void CatalogPlan::OrderByParts()
                 throw DeclarationError(index, none, none, "type " + Quoted(next) + " contains itself");
         }
     }
+}
+
+/// Components multiply: ten of a type that has ten of another are a hundred, and a small catalog could fill the memory.
+void CatalogPlan::CountObjects(std::size_t iType)
+{
+    constexpr std::size_t most = 1000;
+    const std::string& name = m_catalog.types[iType].name;
+    std::size_t count = 1;
+    const auto add = [&](const std::string& iPart) {
+        const auto known = m_objectCounts.find(iPart);
+        count += known != m_objectCounts.end() ? known->second : m_registry.Find(iPart)->ObjectCount();
+    };
+    for (const Type* type = Find(name); type != nullptr; type = type->base.empty() ? nullptr : Find(type->base))
+    {
+        for (const auto& [attribute, traits] : type->attributes)
+            if (!traits.componentType.empty())
+                add(traits.componentType);
+        if (type->declared == nullptr)
+            continue;
+        for (const FeatureKey* const key : type->declared->Keys())
+            if (key->Declaring() == type->declared && key->ComponentType() != nullptr)
+                add(key->ComponentType()->Name());
+    }
+    if (count > most)
+        throw DeclarationError(iType, none, none,
+                               "more than " + std::to_string(most) + " objects come into being with one of type " +
+                                   Quoted(name) + ", since its components have components");
+    m_objectCounts[name] = count;
 }
 
 void CatalogPlan::CheckValue(std::size_t iType, std::size_t iValue) const

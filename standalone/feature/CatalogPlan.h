@@ -28,6 +28,8 @@ public:
     const std::vector<std::size_t>& BasesFirst() const noexcept { return m_basesFirst; }
     /// Indices of the catalog's types, bases and component types before those that use them.
     const std::vector<std::size_t>& PartsFirst() const noexcept { return m_partsFirst; }
+    /// How many objects come into being with one of a type of the catalog.
+    std::size_t ObjectCount(const std::string& iName) const { return m_objectCounts.at(iName); }
 
 private:
     /// An attribute of a type as it will stand.
@@ -62,6 +64,7 @@ private:
     static const KnowledgeType* KnowledgeOf(const AttributeDeclaration& iAttribute, std::string& oWhy);
     void CheckAttribute(std::size_t iType, std::size_t iAttribute) const;
     void OrderByParts();
+    void CountObjects(std::size_t iType);
     void CheckValue(std::size_t iType, std::size_t iValue) const;
     /// What a start-up in use holds must not change any more.
     void CheckStartupInUse(std::size_t iType, std::size_t iValue) const;
@@ -80,6 +83,7 @@ private:
     mutable std::unordered_map<std::string, Type> m_types;
     std::vector<std::size_t> m_basesFirst;
     std::vector<std::size_t> m_partsFirst;
+    std::unordered_map<std::string, std::size_t> m_objectCounts;
 };
 } // namespace VYRStandalone
 

@@ -58,7 +58,7 @@ void Container::Remove(FeatureObject& ioObject)
     const auto found = std::find(m_objects.rbegin(), m_objects.rend(), &ioObject);
     if (found == m_objects.rend())
         return;
-    m_objects.erase(std::next(found).base());
+    m_objects.erase(std::prev(found.base()));
     ioObject.SetContainer(nullptr);
     ioObject.DropReference();
 }

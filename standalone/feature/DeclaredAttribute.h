@@ -26,6 +26,13 @@ public:
         return S_OK;
     }
 
+    /// Made at each request: object and key decide.
+    int IsEqual(const ORXBaseUnknown* iOther) const override
+    {
+        const DeclaredAttribute* const other = dynamic_cast<const DeclaredAttribute*>(iOther);
+        return other != nullptr && other->m_object == m_object && &other->m_key == &m_key ? 1 : 0;
+    }
+
     HRESULT SetBoolean(ORXBoolean iValue, int iIndex) override { return m_access.SetBoolean(&m_key, iValue, iIndex); }
 
 private:

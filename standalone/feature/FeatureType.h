@@ -59,6 +59,10 @@ public:
             m_frozen.store(true, std::memory_order_relaxed);
     }
 
+    /// How many objects come into being with one of the type, that one included.
+    std::size_t ObjectCount() const noexcept { return m_objectCount; }
+    void SetObjectCount(std::size_t iCount) noexcept { m_objectCount = iCount; }
+
     bool IsManaged() const noexcept { return m_isManaged; }
     void SetManaged() noexcept { m_isManaged = true; }
 
@@ -96,6 +100,7 @@ private:
     NameTable m_names;
     std::size_t m_slotBytes;
     std::atomic<bool> m_frozen{false};
+    std::size_t m_objectCount = 1;
     bool m_isManaged = false;
     FeatureObject* m_prototype = nullptr;
     std::vector<ExtensionEntry> m_extensions;

@@ -79,6 +79,7 @@ void TypeRegistry::Declare(const CatalogDeclaration& iCatalog)
     {
         const TypeDeclaration& declaration = iCatalog.types[index];
         FeatureType& type = *Find(declaration.name);
+        type.SetObjectCount(plan.ObjectCount(declaration.name));
         type.CompletePrototype();
         for (const PrototypeValue& value : declaration.values)
             StartupValues::Apply(*type.Prototype(), value);

@@ -1,9 +1,15 @@
 #include "StrictJson.h"
 
 #include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
 #include <cstdlib>
 
+#include <rapidjson/encodedstream.h>
 #include <rapidjson/error/en.h>
+#include <rapidjson/memorystream.h>
+#include <rapidjson/reader.h>
 
 namespace
 {
@@ -47,6 +53,77 @@ std::size_t FindLoneSurrogate(std::string_view iText)
     }
     return at;
 }
+
+/// Whether a number that a double cannot hold is too large for it, and not too small. The number is valid JSON and not
+/// 0.
+bool IsTooLarge(std::string_view iNumber)
+{
+    const std::size_t mark = std::min(iNumber.find_first_of("eE"), iNumber.size());
+    const std::string_view mantissa = iNumber.substr(0, mark);
+    const auto first = static_cast<std::int64_t>(mantissa.find_first_of("123456789"));
+    const auto point = static_cast<std::int64_t>(std::min(mantissa.find('.'), mantissa.size()));
+    std::string_view digits = iNumber.substr(std::min(mark + 1, iNumber.size()));
+    const bool isNegative = !digits.empty() && digits.front() == '-';
+    if (!digits.empty() && digits.front() == '+')
+        digits.remove_prefix(1);
+    std::int64_t exponent = 0;
+    const std::errc error = std::from_chars(digits.data(), digits.data() + digits.size(), exponent).ec;
+    if (error == std::errc::result_out_of_range)
+        return !isNegative;
+    return point - first + exponent > 0;
+}
+
+/// Builds a document, and reads the numbers itself: the parser's own reading of reals is not always the nearest one,
+/// and at the edges infinite or no number at all.
+class DocumentBuilder
+{
+public:
+    explicit DocumentBuilder(rapidjson::Document& oDocument) : m_document(oDocument) {}
+
+    bool Null() { return m_document.Null(); }
+    bool Bool(bool iValue) { return m_document.Bool(iValue); }
+    bool Int(int iValue) { return m_document.Int(iValue); }
+    bool Uint(unsigned iValue) { return m_document.Uint(iValue); }
+    bool Int64(std::int64_t iValue) { return m_document.Int64(iValue); }
+    bool Uint64(std::uint64_t iValue) { return m_document.Uint64(iValue); }
+    bool Double(double iValue) { return m_document.Double(iValue); }
+    bool String(const char* iText, rapidjson::SizeType iLength, bool iCopy)
+    {
+        return m_document.String(iText, iLength, iCopy);
+    }
+    bool Key(const char* iText, rapidjson::SizeType iLength, bool iCopy)
+    {
+        return m_document.Key(iText, iLength, iCopy);
+    }
+    bool StartObject() { return m_document.StartObject(); }
+    bool EndObject(rapidjson::SizeType iMembers) { return m_document.EndObject(iMembers); }
+    bool StartArray() { return m_document.StartArray(); }
+    bool EndArray(rapidjson::SizeType iElements) { return m_document.EndArray(iElements); }
+
+    /// False, which ends the parsing, only for a number that a double cannot hold.
+    bool RawNumber(const char* iText, rapidjson::SizeType iLength, bool /*iCopy*/)
+    {
+        const std::string_view number(iText, iLength);
+        const char* const end = iText + iLength;
+        if (number.find_first_of(".eE") == std::string_view::npos)
+        {
+            std::int64_t whole = 0;
+            if (std::from_chars(iText, end, whole).ec == std::errc())
+                return m_document.Int64(whole);
+            std::uint64_t large = 0;
+            if (number.front() != '-' && std::from_chars(iText, end, large).ec == std::errc())
+                return m_document.Uint64(large);
+        }
+        double real = 0.0;
+        const bool isHeld = std::from_chars(iText, end, real).ec == std::errc() && std::isfinite(real);
+        if (!isHeld && IsTooLarge(number))
+            return false;
+        return m_document.Double(isHeld ? real : number.front() == '-' ? -0.0 : 0.0);
+    }
+
+private:
+    rapidjson::Document& m_document;
+};
 } // namespace
 
 namespace StrictJson
@@ -60,10 +137,23 @@ std::optional<SyntaxError> Parse(std::string_view iText, rapidjson::Document& oD
         return ErrorAt(iText, zero, "A zero byte has no place in JSON.");
 
     constexpr unsigned Flags =
-        rapidjson::kParseFullPrecisionFlag | rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag;
-    oDocument.Parse<Flags>(iText.empty() ? "" : iText.data(), iText.size());
-    if (oDocument.HasParseError())
-        return ErrorAt(iText, oDocument.GetErrorOffset(), rapidjson::GetParseError_En(oDocument.GetParseError()));
+        rapidjson::kParseNumbersAsStringsFlag | rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag;
+    rapidjson::ParseResult result;
+    const auto generate = [&](rapidjson::Document& oBuilt) {
+        rapidjson::MemoryStream bytes(iText.empty() ? "" : iText.data(), iText.size());
+        rapidjson::EncodedInputStream<rapidjson::UTF8<>, rapidjson::MemoryStream> stream(bytes);
+        DocumentBuilder builder(oBuilt);
+        rapidjson::Reader reader;
+        result = reader.Parse<Flags>(stream, builder);
+        return !result.IsError();
+    };
+    oDocument.Populate(generate);
+    if (result.IsError())
+    {
+        const bool isNumber = result.Code() == rapidjson::kParseErrorTermination;
+        return ErrorAt(iText, result.Offset(),
+                       rapidjson::GetParseError_En(isNumber ? rapidjson::kParseErrorNumberTooBig : result.Code()));
+    }
     if (const std::size_t half = FindLoneSurrogate(iText); half != std::string_view::npos)
         return ErrorAt(iText, half, "The surrogate pair in string is invalid.");
     return std::nullopt;

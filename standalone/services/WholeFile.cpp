@@ -34,6 +34,9 @@ std::string LastError()
 
 std::string ReadWholeFile(const std::string& iPath, std::string& oText)
 {
+    // The system would take what stands in front of it for the whole name.
+    if (iPath.find('\0') != std::string::npos)
+        return "cannot be opened: " + std::generic_category().message(EINVAL);
     const OpenFile file(iPath);
     if (file.Descriptor() < 0)
         return "cannot be opened: " + LastError();

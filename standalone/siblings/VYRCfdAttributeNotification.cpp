@@ -13,5 +13,7 @@ const char* VYRCfdAttributeNotification::IsA() const
 
 int VYRCfdAttributeNotification::IsAKindOf(const char* iClassName) const
 {
-    return iClassName != nullptr && std::strcmp(iClassName, "VYRCfdAttributeNotification") == 0 ? 1 : 0;
+    if (iClassName != nullptr && std::strcmp(iClassName, "VYRCfdAttributeNotification") == 0)
+        return 1;
+    return ORXNotification::IsAKindOf(iClassName);
 }
