@@ -3,8 +3,8 @@
     coverage.py EXCLUDED LCOV...    the checked-in list of exceptions, and what llvm-cov exports for each library
 
 Every line of EXCLUDED that is not empty and no comment is "FILE | SOURCE TEXT | REASON": the lines of that file whose
-text, without blanks around it, is the source text need not run, nor their branches. A line that does run is no
-exception, so that the list cannot grow old.
+text, without blanks around it, is the source text need not run, nor their branches; "*" is every line. A line that does
+run is no exception, so that the list cannot grow old.
 
 Prints what falls short, the figures, and the summary as its last line. Exit status 1 when a goal is missed.
 """
@@ -61,7 +61,7 @@ def excluded_lines(path, exceptions, sources, root):
             complaints.append(f"{path}:{number}: no such source file: {name}")
             continue
         with open(root + name, encoding="utf-8") as source:
-            places = {place for place, line in enumerate(source, 1) if line.strip() == text}
+            places = {place for place, line in enumerate(source, 1) if text in ("*", line.strip())}
         source = sources[name]
         idle = {place for place in places if source.lines.get(place) == 0 or 0 in source.branches.get(place, [])}
         if not places:
