@@ -1,10 +1,8 @@
 /**
  * @file
- * Notifications from an object to those who have subscribed to it.
+ * Subscriptions as objects: moved, assigned to, and made on what publishes nothing.
  */
 
-#include <memory>
-#include <optional>
 #include <utility>
 
 #include "HostTypes.h"
@@ -41,120 +39,6 @@ protected:
     Lines m_told;
 };
 
-TEST_F(Subscriptions, AreToldInTheOrderOfSubscription)
-{
-    const Subscription first(m_object, Note("first"));
-    const Subscription second(m_object, Note("second"));
-    const Subscription third(m_object, Note("third"));
-    Dispatch(m_object);
-    EXPECT_EQ(Told(), (Lines{"first", "second", "third"}));
-    Dispatch(m_object);
-    EXPECT_EQ(Told(), (Lines{"first", "second", "third"})) << "a subscription lasts";
-}
-
-TEST_F(Subscriptions, OfTheSameCallback_AreTwo)
-{
-    const Subscription::Callback note = Note("told");
-    const Subscription first(m_object, note);
-    const Subscription second(m_object, note);
-    Dispatch(m_object);
-    EXPECT_EQ(Told(), (Lines{"told", "told"}));
-}
-
-TEST_F(Subscriptions, OfOtherObjects_AreNotTold)
-{
-    const ORXISpecObject_var other = Make("HostPlain", "Q");
-    const Subscription mine(m_object, Note("P"));
-    const Subscription theirs(other, Note("Q"));
-    const Subscription part(ObjectOf(m_object, "part"), Note("P/part"));
-    Dispatch(m_object);
-    EXPECT_EQ(Told(), (Lines{"P"}));
-    Dispatch(ObjectOf(m_object, "part"));
-    EXPECT_EQ(Told(), (Lines{"P/part"})) << "an owner is not told of its components";
-}
-
-TEST_F(Subscriptions, BelongToTheObject_WhateverFacetSubscribesOrPublishes)
-{
-    const Subscription byAccess(ORXISpecAttrAccess_var(m_object), Note("access"));
-    const Subscription byRoot(ORXBaseUnknown_var::Share(m_object->GetImpl(0)), Note("root"));
-    Dispatch(m_object->GetImpl(0));
-    EXPECT_EQ(Told(), (Lines{"access", "root"}));
-    Dispatch(ORXISpecAttrAccess_var(m_object));
-    EXPECT_EQ(Told(), (Lines{"access", "root"}));
-}
-
-TEST_F(Subscriptions, ReceiveTheNotificationItself)
-{
-    ORXNotification* received = nullptr;
-    const Subscription subscription(m_object, [&](ORXNotification& ioNotification) { received = &ioNotification; });
-    ORXNotification* const notification = new VYRCfdAttributeNotification;
-    DispatchCallbacks(m_object, notification);
-    EXPECT_EQ(received, notification);
-    EXPECT_EQ(notification->Release(), 0U) << "nobody has kept it";
-}
-
-TEST_F(Subscriptions, MadeWhileOthersAreTold_AreToldOfTheNextNotification)
-{
-    std::optional<Subscription> late;
-    const Subscription first(m_object, [&](ORXNotification&) {
-        m_told.emplace_back("first");
-        if (!late)
-            late.emplace(m_object, Note("late"));
-    });
-    const Subscription second(m_object, Note("second"));
-    Dispatch(m_object);
-    EXPECT_EQ(Told(), (Lines{"first", "second"}));
-    Dispatch(m_object);
-    EXPECT_EQ(Told(), (Lines{"first", "second", "late"}));
-}
-
-TEST_F(Subscriptions, EndedWhileOthersAreTold_AreNotToldAnyMore)
-{
-    std::optional<Subscription> second;
-    const Subscription first(m_object, [&](ORXNotification&) {
-        m_told.emplace_back("first");
-        second.reset();
-    });
-    second.emplace(m_object, Note("second"));
-    const Subscription third(m_object, Note("third"));
-    Dispatch(m_object);
-    EXPECT_EQ(Told(), (Lines{"first", "third"}));
-    Dispatch(m_object);
-    EXPECT_EQ(Told(), (Lines{"first", "third"}));
-}
-
-TEST_F(Subscriptions, MayEndThemselvesFromTheirCallback)
-{
-    std::optional<Subscription> own;
-    const std::shared_ptr<int> held = std::make_shared<int>(7);
-    own.emplace(m_object, [&own, this, held](ORXNotification&) {
-        own.reset();
-        // What the callback holds must outlive the call in which it ends.
-        m_told.push_back("own " + std::to_string(*held));
-    });
-    Dispatch(m_object);
-    Dispatch(m_object);
-    EXPECT_EQ(Told(), (Lines{"own 7"}));
-    EXPECT_EQ(held.use_count(), 1);
-}
-
-TEST_F(Subscriptions, Nested_AreToldInsideTheOuterNotification)
-{
-    int depth = 0;
-    const Subscription first(m_object, [&](ORXNotification&) {
-        m_told.push_back("first at " + std::to_string(depth));
-        if (depth > 0)
-            return;
-        ++depth;
-        Dispatch(m_object);
-        --depth;
-    });
-    const Subscription second(m_object,
-                              [&](ORXNotification&) { m_told.push_back("second at " + std::to_string(depth)); });
-    Dispatch(m_object);
-    EXPECT_EQ(Told(), (Lines{"first at 0", "first at 1", "second at 1", "second at 0"}));
-}
-
 TEST_F(Subscriptions, Moved_StayInTheirPlace)
 {
     Subscription first(m_object, Note("first"));
@@ -183,79 +67,5 @@ TEST_F(Subscriptions, OnNothingOrOnWhatIsNoFeatureObject_ReceiveNothing)
     Dispatch(m_model.Container());
     Dispatch(notification);
     EXPECT_EQ(Told(), Lines{});
-}
-
-TEST_F(Subscriptions, OfNoNotification_AreNotTold)
-{
-    const Subscription subscription(m_object, Note("told"));
-    DispatchCallbacks(m_object, nullptr);
-    DispatchCallbacks(nullptr, nullptr);
-    EXPECT_EQ(Told(), Lines{});
-}
-
-TEST_F(Subscriptions, DoNotHoldTheirObject)
-{
-    const int before = VYRStandalone::LiveComponents();
-    std::optional<Subscription> subscription;
-    {
-        VYRStandalone::Model model;
-        const ORXISpecObject_var object = model.Create("HostPlain", "Q");
-        const unsigned int references = CountOf(object);
-        subscription.emplace(object, Note("told"));
-        EXPECT_EQ(CountOf(object), references);
-    }
-    EXPECT_EQ(VYRStandalone::LiveComponents(), before) << "the object has died, and its subscription lives";
-    subscription.reset();
-    EXPECT_EQ(Told(), Lines{});
-}
-
-TEST_F(Subscriptions, OfAnObjectThatDiesWhileTheyAreTold_AreToldOnAndFindItAlive)
-{
-    const int before = VYRStandalone::LiveComponents();
-    {
-        VYRStandalone::Model model;
-        ORXBaseUnknown* const root = model.Create("HostPlain", "Q")->GetImpl(0);
-        const ORXBaseUnknown_var borrowed = ORXBaseUnknown_var::Share(root);
-        const Subscription first(borrowed, [&](ORXNotification&) {
-            m_told.emplace_back("first");
-            model.Close();
-        });
-        const Subscription second(borrowed, [&](ORXNotification&) {
-            m_told.push_back("second, of " + Narrow(ORXISpecObject_var::Cast(root)->GetName()));
-        });
-        Dispatch(root);
-        EXPECT_EQ(Told(), (Lines{"first", "second, of Q"}));
-    }
-    EXPECT_EQ(VYRStandalone::LiveComponents(), before);
-}
-
-TEST_F(Subscriptions, OfAnObjectThatNobodyHolds_MayLetItGoAndAreToldOn)
-{
-    VYRStandalone::Model model;
-    const int before = VYRStandalone::LiveComponents();
-    ORXBaseUnknown* const root = model.Create("HostPlain", "Q")->GetImpl(0);
-    const Subscription first(ORXBaseUnknown_var::Share(root), [&](ORXNotification&) {
-        m_told.emplace_back("first");
-        model.Close();
-        EXPECT_EQ(VYRStandalone::LiveComponents(), before + 1) << "the notification alone";
-    });
-    const Subscription second(ORXBaseUnknown_var::Share(root), Note("second"));
-    Dispatch(root);
-    EXPECT_EQ(Told(), (Lines{"first", "second"}));
-    EXPECT_EQ(VYRStandalone::LiveComponents(), before);
-}
-
-TEST_F(Subscriptions, AttributeNotification_TellsItsClassAndCountsItself)
-{
-    const int before = VYRStandalone::LiveComponents();
-    ORXNotification* const notification = new VYRCfdAttributeNotification;
-    EXPECT_STREQ(notification->IsA(), "VYRCfdAttributeNotification");
-    EXPECT_NE(notification->IsAKindOf("VYRCfdAttributeNotification"), 0);
-    EXPECT_EQ(notification->IsAKindOf("VYRICfdChoice"), 0);
-    EXPECT_EQ(VYRStandalone::LiveComponents(), before + 1);
-    EXPECT_EQ(notification->AddRef(), 2U);
-    EXPECT_EQ(notification->Release(), 1U);
-    EXPECT_EQ(notification->Release(), 0U);
-    EXPECT_EQ(VYRStandalone::LiveComponents(), before);
 }
 } // namespace

@@ -24,6 +24,11 @@ RIGHT = {
                              "#include <CLI/CLI.hpp>\n",
     "tests/support/Fixture.h": '#include "Standalone.h"\n#include <gtest/gtest.h>\n',
     "tests/cursor/helpers/Table.h": "",
+    "tests/support/TemporaryFolder.h": "#include <string>\n",
+    "tests/contract/HostUnderTest.h": '#include "Root.h"\n',
+    "tests/contract/text/TextTest.cpp": '#include "HostUnderTest.h"\n#include "TemporaryFolder.h"\n#include "Text.h"\n'
+                                        "#include <gtest/gtest.h>\n",
+    "tests/contract/StandaloneHostUnderTest.cpp": '#include "HostUnderTest.h"\n#include "Standalone.h"\n',
     "tests/cursor/Cursor_test.cpp": '#include "Fixture.h"\n#include "helpers/Table.h"\n#include "Root.h"\n',
 }
 
@@ -74,6 +79,17 @@ WRONG = [
      "tests/ may not include tests/cursor/helpers/Table.h"),
     ("test includes a tool", "tests/text/Bad_test.cpp", '#include "Commands.h"\n', 1,
      "tests/ may not include tools/vyrcfd/Commands.h"),
+    ("contract suite includes the stand-alone host's face", "tests/contract/text/Bad.cpp",
+     '#include "Text.h"\n#include "Standalone.h"\n', 2, "tests/ may not include standalone/include/Standalone.h"),
+    ("contract suite's seam includes the stand-alone host's face", "tests/contract/Bad.h",
+     '#include "Standalone.h"\n', 1, "tests/ may not include standalone/include/Standalone.h"),
+    ("contract suite includes the module's face", "tests/contract/text/Bad.cpp", '#include "Cursor.h"\n', 1,
+     "tests/ may not include VYRCfdModel/ProtectedInterfaces/Cursor.h"),
+    ("contract suite includes a test helper", "tests/contract/text/Bad.cpp", '#include "Fixture.h"\n', 1,
+     "tests/ may not include tests/support/Fixture.h"),
+    ("implementation of the contract suite's seam includes the host's inside",
+     "tests/contract/StandaloneHostUnderTest.cpp", '#include "Store.h"\n', 1,
+     "tests/ may not include standalone/text/Store.h"),
     ("benchmark includes the stand-alone host's inside", "bench/cursor/Bad.cpp", '#include "Store.h"\n', 1,
      "bench/ may not include standalone/text/Store.h"),
     ("fuzz target includes the module's inside", "fuzz/cursor/Bad.cpp", '#include "Checks.h"\n', 1,
@@ -162,12 +178,12 @@ class IncludeRules(unittest.TestCase):
         self.assertEqual(
             output,
             "host/feature/Bad.h:1: host/ may not include VYRCfdModel/ProtectedInterfaces/Cursor.h\n"
-            "14 files read, 1 violations\n",
+            "18 files read, 1 violations\n",
         )
 
     def test_main_on_right_tree_succeeds(self):
         with tree(RIGHT) as root:
-            self.assertEqual(self.run_main(str(root)), (0, "13 files read, 0 violations\n"))
+            self.assertEqual(self.run_main(str(root)), (0, "17 files read, 0 violations\n"))
 
     def test_main_on_tree_without_sources_is_wrong_use(self):
         with tree({"README.md": ""}) as root:
