@@ -36,7 +36,7 @@ ITEM_SHAPES = {  # keys that an item must hold, and keys that it may hold
     "default": ({"path", "type", "default"}, {"defaultAutoKey"}),
     "nested": ({"path", "config"}, {"condition"}),
     "choice": ({"choices", "default"}, {"Startups", "display"})}  # a path would only shape the record
-ATTRIBUTE_KEYS = {"name", "kind", "default", "values", "type", "of"}
+ATTRIBUTE_KEYS = {"name", "kind", "default", "values", "type", "of", "unit", "optional"}
 CHOICE = "VYRCfdChoice"
 HOST_TYPES = {
     "VYRCfdValues": [{"name": "defaultManagement", "kind": "component", "type": "VYRCfdDefaultManagement"}],
@@ -77,17 +77,17 @@ def read_files(root, findings):
 
 # --- values ----------------------------------------------------------------------------------------------------------
 
+REAL = r"[+-]?(\d+\.?\d*|\.\d+)([eE][+-]?\d+)?"
+
+
 def text_fits(text, attribute):
-    """Whether a default's text is a value of the attribute's kind."""
+    """Whether a default's text is a value of the attribute's kind, now and when it is read from its record: records
+    know no units, and give no booleans and no enumerations."""
     kind = attribute["kind"]
     if kind == "integer":
         return bool(re.fullmatch(r"[+-]?\d+", text)) and -2**31 <= int(text) < 2**31
     if kind == "real":
-        return bool(re.fullmatch(r"[+-]?(\d+\.?\d*|\.\d+)([eE][+-]?\d+)?", text))
-    if kind == "boolean":
-        return text.lower() in ("true", "false", "0", "1")
-    if kind == "enumeration":
-        return text in attribute["values"]
+        return bool(re.fullmatch(REAL, text))
     return kind == "string"
 
 
@@ -96,13 +96,14 @@ def value_fits(value, kind, attribute):
     if value is None:
         return True
     if kind == "real":
-        return isinstance(value, (int, float)) and not isinstance(value, bool)
+        return isinstance(value, (int, float)) and not isinstance(value, bool) or \
+            isinstance(value, str) and "unit" in attribute and bool(re.fullmatch(REAL + r" \S.*", value))
     if kind == "integer":
         return isinstance(value, int) and not isinstance(value, bool) and -2**31 <= value < 2**31
     if kind == "boolean":
         return isinstance(value, bool)
     if kind == "enumeration":
-        return value in attribute["values"]
+        return value in attribute.get("values", [])
     return isinstance(value, str)
 
 
@@ -303,8 +304,13 @@ class Types:
         if (values is not None) != (entry_kind == "enumeration") or len(values or []) != len(set(values or [])):
             self.findings.append(f'{where}: an enumeration, and nothing else, has "values", each once')
             return
-        if kind == "component" and not self.known_from(attribute.get("type", ""), catalog):
-            self.findings.append(f'{where}: type "{attribute.get("type", "")}" is not known here')
+        unit = attribute.get("unit", "-")
+        if ("unit" in attribute and entry_kind != "real") or not isinstance(unit, str) or not unit.strip():
+            self.findings.append(f'{where}: "unit" is a text, and for reals')
+        if attribute.get("optional", True) is not True or ("optional" in attribute and kind == "component"):
+            self.findings.append(f'{where}: "optional" is true, and for everything but components')
+        if "type" in attribute and not (kind == "component" and self.known_from(attribute["type"], catalog)):
+            self.findings.append(f'{where}: type "{attribute["type"]}" is not known here')
         if "default" in attribute:
             self.check_value(where, attribute["default"], attribute)
 
@@ -376,9 +382,12 @@ class Model:
             self.findings.append(f'{where}: type "{type_}" is not in the catalogs of the model')
             return
         attributes = self.types.attributes(type_)
+        self.check_added(where, one.get("added", {}), attributes)
         for name, value in one.get("values", {}).items():
             if name not in attributes:
                 self.findings.append(f'{where}: {type_} has no attribute "{name}"')
+            elif attributes[name].get("optional"):
+                self.findings.append(f'{where}: "{name}" is optional, so its value belongs to "added"')
             elif name != "defaultManagement":
                 self.check_value(f"{where}.{name}", value, attributes[name], startup.get(name))
         if self.types.derives(type_, "VYRCfdValues"):
@@ -386,6 +395,23 @@ class Model:
         elif self.types.derives(type_, CHOICE):
             self.check_flags(where, one, attributes, ("value",))
             self.check_choice(where, one.get("values", {}), startup)
+
+    def check_added(self, where, added, attributes):
+        """Nothing but optional attributes is added to the sample's objects; flags stand in their default management."""
+        for name, content in added.items():
+            attribute = attributes.get(name, {})
+            if not attribute.get("optional") or set(content) != {"kind", "value"} or \
+                    content["kind"] != attribute["kind"]:
+                self.findings.append(f'{where}: "{name}" in "added" is no optional attribute of its kind')
+            else:
+                self.check_value(f"{where}.{name}", content["value"], attribute, None)
+
+    def check_column(self, where, column, attribute):
+        """A table column stands where the catalog names no type."""
+        rows = column["column"]
+        are_numbers = isinstance(rows, list) and all(value_fits(row, "real", {}) and row is not None for row in rows)
+        if "type" in attribute or set(column) != {"column"} or not are_numbers:
+            self.findings.append(f"{where}: no table column, which is a list of numbers in place of an object")
 
     def check_choice(self, where, values, startup):
         """The lists of a model's Choice are those of its start-up unless it states its own."""
@@ -404,7 +430,9 @@ class Model:
             return
         for entry in entries:
             if kind == "component":
-                if isinstance(entry, dict):
+                if isinstance(entry, dict) and "column" in entry:
+                    self.check_column(where, entry, attribute)
+                elif isinstance(entry, dict):
                     self.check_object(where, entry, attribute.get("type", ""), startup or {})
                 else:
                     self.findings.append(f"{where}: not an object")
@@ -416,7 +444,7 @@ class Model:
 
     def check_flags(self, where, one, attributes, flagged):
         """What somebody wrote carries a set flag; components come with their owner and carry none."""
-        values = one.get("values", {})
+        values = {**one.get("values", {}), **one.get("added", {})}
         flags = values.get("defaultManagement", {}).get("added", {})
         for flag, content in flags.items():
             name = re.sub("_(isset|isauto)$", "", flag)
@@ -466,7 +494,7 @@ def parse_condition(text):
 
 
 def exclude_each_other(first, second):
-    """Whether two conditions, each with the path of the object it is asked of, compare one path with different texts."""
+    """Whether two conditions, each with the path of its object, compare one path with different texts."""
     one, two = parse_condition(first[1]), parse_condition(second[1])
     return bool(one and two and first[0] == second[0] and one[0] == two[0] and one[2] != two[2]
                 and {one[1], two[1]} <= {"=", "=="})
@@ -517,6 +545,7 @@ class Walk:
                 self.check_default_item(where, item, place)
             elif kind == "choice":
                 self.check_choice_item(where, item, place)
+                self.check_shared_data(where, self.configurations[name], place)
             elif kind == "nested":
                 self.follow_nested(where, item, place, path, trail + [name], conditions)
 
@@ -544,6 +573,16 @@ class Walk:
         elif not given and has_data and len(choices) != len(declared):
             self.findings.append(f"{where}: leaves out choices of a Choice with startups, which reports in between")
 
+    def check_shared_data(self, where, items, place):
+        """A choice that takes the data object over from one that is configured is configured itself."""
+        pairs = pairs_of(place.startup)
+        configured = {choice for item in items if item.get("path") == "Data"
+                      for choice, _ in holding(pairs, item.get("condition", ""))}
+        for choice, startup in pairs:
+            if startup and choice not in configured and \
+                    any(other in configured and startup == same for other, same in pairs):
+                self.findings.append(f'{where}: "{choice}" would keep the data of the choice before, so configured')
+
     def check_values_item(self, where, item, place):
         attribute = self.types.attributes(place.type).get(item["path"], {})
         if (attribute.get("kind"), attribute.get("of")) != ("list", "string"):
@@ -558,6 +597,8 @@ class Walk:
             self.findings.append(f'{where}: "{item["path"]}" is no attribute that can have a default')
         elif item["type"] != attribute["kind"]:
             self.findings.append(f'{where}: "{item["path"]}" is of kind {attribute["kind"]}, not {item["type"]}')
+        elif "defaultAutoKey" in item and any(item["path"] in o.get("values", {}) for _, o in place.objects):
+            self.findings.append(f'{where}: "{item["path"]}" is set in a model; a second application takes that back')
         elif not text_fits(item["default"], attribute):
             self.findings.append(f'{where}: "{item["default"]}" is no {attribute["kind"]} for "{item["path"]}"')
 
@@ -624,7 +665,7 @@ class Walk:
         kind, entry_kind = attribute["kind"], attribute.get("of")
         held = [(m, o["values"][name]) for m, o in place.objects if o.get("values", {}).get(name) is not None]
         if kind == "component":
-            return [Place(attribute["type"], held, startup=place.startup.get(name) or {})]
+            return [Place(attribute.get("type", ""), held, startup=place.startup.get(name) or {})]
         if kind == "reference":
             return self.by_type([(m, m.target(value)) for m, value in held])
         if entry_kind == "component":
@@ -722,12 +763,21 @@ def type_of(documents, name):
     return next(t for f, d in documents.items() if f.startswith("catalogs/") for t in d["types"] if t["name"] == name)
 
 
+def attribute_of(documents, type_, name):
+    return next(a for a in type_of(documents, type_)["attributes"] if a["name"] == name)
+
+
 def declared(documents, name):
     return type_of(documents, name)["startup"]
 
 
 def choice_item(documents, name):
     return next(item for item in configuration_of(documents, name)["config"] if "choices" in item)
+
+
+def column_of(documents):
+    fan = object_of(documents, "internalFlow", "Fan.1")
+    return fan["values"]["operation"]["values"]["Data"]["values"]["pressureRises"]
 
 
 def object_of(documents, model, name):
@@ -767,7 +817,7 @@ BREAKS = [  # what is broken, what the finding must say
     (lambda d: configuration_of(d, "inlet")["config"].append({"path": "massFlowRate", "type": "real", "default": "1"})
      or type_of(d, "InletCondition").update(configurations=[]), "meant for no type"),
     (lambda d: configuration_of(d, "flowConvergence").update(name="convergence"), "define different names"),
-    (lambda d: type_of(d, "FluidModel")["attributes"][0].update(default="AIR"), "is no value of kind enumeration"),
+    (lambda d: attribute_of(d, "FlowSolver", "unitSystem").update(default="CGS"), "is no value of kind enumeration"),
     (lambda d: type_of(d, "FluidModel")["attributes"][1].update(kind="float"), "unknown key or kind"),
     (lambda d: type_of(d, "FluidModel")["attributes"][1].update(name="gas/constant"), "bad attribute name"),
     (lambda d: type_of(d, "FluidModel").update(base="VYRCfdConfigItem"), "no default management"),
@@ -788,6 +838,49 @@ BREAKS = [  # what is broken, what the finding must say
     (lambda d: object_of(d, "externalFlow", "FarField.1").update(type="InletCondition"), "not in the catalogs"),
     (lambda d: object_of(d, "externalFlow", "Mesh.1").update(id=1), "ids are numbers"),
     (lambda d: object_of(d, "internalFlow", "Wall.2").update(alias="Heater"), "leads to no object on any type"),
+    # defaults that come back otherwise from their records
+    (lambda d: item_of(d, "refinementZone", path="radius").update(default="150 mm"), "is no real"),
+    (lambda d: configuration_of(d, "multigridAcceleration")["config"].append(
+        {"path": "multigridCycle", "type": "enumeration", "default": "W_CYCLE"}), "is no enumeration"),
+    (lambda d: configuration_of(d, "cflAdaptation")["config"].append(
+        {"path": "enabled", "type": "boolean", "default": "true"}), "is no boolean"),
+    (lambda d: item_of(d, "referenceValues", path="referenceArea").update(defaultAutoKey="fromGeometry"),
+     "a second application takes that back"),
+    # units
+    (lambda d: attribute_of(d, "RefinementZone", "radius").update(unit=""), '"unit" is a text, and for reals'),
+    (lambda d: attribute_of(d, "RefinementZone", "radius").update(unit=1), '"unit" is a text, and for reals'),
+    (lambda d: attribute_of(d, "Multigrid", "preSmoothing").update(unit="m"), '"unit" is a text, and for reals'),
+    (lambda d: attribute_of(d, "RefinementZone", "cellSize").pop("unit"), '"20 mm" is no value of kind real'),
+    (lambda d: attribute_of(d, "RefinementZone", "cellSize").update(default="fine"), '"fine" is no value of kind real'),
+    (lambda d: attribute_of(d, "FlowMesh", "boxLengths").update(default=["1 m", "m"]), "is no value of kind list"),
+    (lambda d: object_of(d, "externalFlow", "Mesh.1")["values"]["zones"][0]["values"].update(radius="mm 100"),
+     "no value of kind real"),
+    (lambda d: object_of(d, "externalFlow", "Mesh.1")["values"].update(growthRate="1.2 m"), "no value of kind real"),
+    # optional attributes
+    (lambda d: attribute_of(d, "FlowSolver", "remark").update(optional=False), '"optional" is true'),
+    (lambda d: attribute_of(d, "FlowSolver", "fluid").update(optional=True), '"optional" is true'),
+    (lambda d: attribute_of(d, "FlowSolver", "remark").pop("optional"), '"remark" in "added" is no optional'),
+    (lambda d: attribute_of(d, "FlowSolver", "remark").update(kind="real"), '"remark" in "added" is no optional'),
+    (lambda d: object_of(d, "externalFlow", "Symmetry.1")["values"].update(comment="x"), "is optional, so its value"),
+    (lambda d: object_of(d, "externalFlow", "Symmetry.1")["added"].update(note={"kind": "string", "value": "x"}),
+     '"note" in "added" is no optional'),
+    (lambda d: object_of(d, "externalFlow", "Symmetry.1")["added"]["comment"].update(value=1),
+     "no value of kind string"),
+    (lambda d: object_of(d, "externalFlow", "Symmetry.1")["values"]["defaultManagement"]["added"].pop("comment_isset"),
+     '"comment" has a value but no set flag'),
+    (lambda d: object_of(d, "internalFlow", "Solver.1")["added"]["solutionMesh"].update(value={"ref": 70}),
+     "does not name one object"),
+    # table columns
+    (lambda d: column_of(d).update(column=[1.0, "2"]), "no table column"),
+    (lambda d: column_of(d).update(column=1.0), "no table column"),
+    (lambda d: column_of(d).update(type="FanCurve"), "no table column"),
+    (lambda d: attribute_of(d, "FanCurve", "pressureRises").update(type="FanCurve"), "no table column"),
+    # lists of every kind
+    (lambda d: attribute_of(d, "MeshDeformation", "fixedDirections").update(default=[0, 1, 0]),
+     "is no value of kind list"),
+    (lambda d: object_of(d, "internalFlow", "Solver.1")["values"].update(surfaceAverages=["MASS"]),
+     "no value of kind enumeration"),
+    (lambda d: attribute_of(d, "FlowSolver", "surfaceAverages").pop("values"), "nothing else, has"),
     # Choices in catalogs
     (lambda d: declared(d, "TurbulenceModelChoice")["choices"].pop(), "7 choices and 8 Startups"),
     (lambda d: declared(d, "TurbulenceModelChoice")["choices"].__setitem__(1, "SST"), 'choice "SST" stands twice'),
@@ -822,7 +915,7 @@ BREAKS = [  # what is broken, what the finding must say
     (lambda d: object_of(d, "internalFlow", "Solver.1")["values"]["energy"]["values"].pop("defaultManagement"),
      '"value" has a value but no set flag'),
     (lambda d: object_of(d, "internalFlow", "Solver.1")["values"]["energy"]["values"]["Data"]["values"].update(
-        initialTemperature=300.0), "no set flag"),
+        referenceTemperature=300.0), "no set flag"),
     # Choice items
     (lambda d: choice_item(d, "turbulenceModel").update(choices="NONE, SA"), "2 choices and 8 Startups"),
     (lambda d: choice_item(d, "turbulenceModel").update(Startups="NONE, SpalartAllmaras"), "8 choices and 2 Startups"),
@@ -860,13 +953,15 @@ BREAKS = [  # what is broken, what the finding must say
      "leads to no object on any"),
     (lambda d: item_of(d, "energyEquation", config="heatTransfer").update(condition="value==adiabatic"),
      "configured twice"),
+    (lambda d: configuration_of(d, "solidMaterial")["config"].remove(
+        item_of(d, "solidMaterial", condition="value==SILICON")), "would keep the data of the choice before"),
     (lambda d: item_of(d, "turbulenceModel", condition="value==SA").update(config="shearStressTransport"),
      '"a1" is no attribute that can have a default'),
     (lambda d: item_of(d, "energyEquation", config="heatTransfer").pop("condition"),
-     '"thermalConductivity" is no attribute that can have a default'),
+     '"referenceTemperature" is no attribute that can have a default'),
     (lambda d: item_of(d, "energyEquation", config="heatTransfer").update(condition="value!=adiabatic") or
      declared(d, "FlowSolver")["energy"]["Startups"].__setitem__(0, "EnergyEquation"),
-     '"thermalConductivity" is no attribute that can have a default'),
+     '"referenceTemperature" is no attribute that can have a default'),
 ]
 
 

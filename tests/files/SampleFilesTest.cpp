@@ -73,7 +73,7 @@ TEST_F(SampleFilesTest, TheMap_HoldsWhatStandsInTheFiles)
     for (const auto& [name, items] : m_map)
         loaded.emplace(name.View(), ItemsOf(items));
     EXPECT_EQ(loaded, expected);
-    EXPECT_GE(loaded.size(), 30U);
+    EXPECT_GE(loaded.size(), 120U);
     EXPECT_TRUE(loaded.contains("externalFlow"));
     EXPECT_TRUE(loaded.contains("internalFlow"));
 }

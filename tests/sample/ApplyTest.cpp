@@ -7,9 +7,9 @@
 
 #include "FlowTest.h"
 #include "ModelLines.h"
+#include "SampleGoldens.h"
 #include "SampleManagers.h"
 #include "SampleTest.h"
-#include "TemporaryFolder.h"
 #include "VYRICfdChoice.h"
 #include "VYRICfdChoiceMgr.h"
 #include "VYRStandaloneCatalog.h"
@@ -20,21 +20,20 @@ class ApplyTest : public SampleTest
 {
 };
 
-ORXISpecObject_var SolversPart(const VYRStandalone::Model& iModel, const std::string& iPath)
-{
-    return At(iModel.Find("Solver.1"), iPath.substr(iPath.find('/') + 1).c_str());
-}
-
 INSTANTIATE_TEST_SUITE_P(Sample, ApplyTest, testing::ValuesIn(SampleCases),
                          [](const auto& iInfo) { return iInfo.param.name; });
 
 TEST_P(ApplyTest, EveryManagedType_HasItsManager)
 {
     const VYRStandalone::Model model = Load();
-    EXPECT_EQ(VYRStandalone::ManagedTypes(), RegisterSampleManagers());
+    std::vector<std::string> managers = RegisterSampleManagers();
+    std::sort(managers.begin(), managers.end());
+    std::vector<std::string> managed = VYRStandalone::ManagedTypes();
+    std::sort(managed.begin(), managed.end());
+    EXPECT_EQ(managed, managers);
     for (const std::string& type : VYRStandalone::ManagedTypes())
         for (const std::string& path : PathsOf(model, type.c_str()))
-            EXPECT_TRUE(VYRICfdChoiceMgr_var(SolversPart(model, path)) != NULL_var) << path;
+            EXPECT_TRUE(VYRICfdChoiceMgr_var(ObjectAt(model, path)) != NULL_var) << path;
 }
 
 TEST_P(ApplyTest, TransitionModels_AreNarrowedToThoseOfTheTurbulenceModel)
@@ -72,22 +71,29 @@ TEST_P(ApplyTest, SecondApplication_ChangesNothing)
     VYRStandalone::Model model = LoadAndApply();
     const std::vector<std::string> once = LinesOf(model);
     Apply(model);
-    EXPECT_EQ(LinesOf(model), once);
+    EXPECT_EQ(DifferencesOf(once, LinesOf(model), ""), std::vector<std::string>{});
 }
 
 TEST_P(ApplyTest, SavedAndOpened_TheModelIsTheSame)
 {
     VYRStandalone::Model model = LoadAndApply();
     Apply(model);
-    const TemporaryFolder folder;
-    model.Save(folder.Path("saved.model.json"));
-
-    VYRStandalone::Model opened = Load(folder.Path("saved.model.json"));
-    EXPECT_EQ(LinesOf(opened), LinesOf(model));
+    VYRStandalone::Model opened = Reopened(model);
     EXPECT_EQ(opened.Text(), model.Text());
 
     // The records take the place of the defaults that lived in memory.
     Apply(opened);
-    EXPECT_EQ(LinesOf(opened), LinesOf(model));
+    EXPECT_EQ(DifferencesOf(LinesOf(model), LinesOf(opened), ""), std::vector<std::string>{});
+}
+
+TEST_P(ApplyTest, TheApplication_MakesOfTheModelWhatWasRead)
+{
+    VYRStandalone::Model model = Load();
+    const std::vector<std::string> before = LinesOf(model);
+    Apply(model);
+    SampleGoldens goldens(std::string("model-") + GetParam().name);
+    for (const std::string& line : DifferencesOf(before, LinesOf(model), "Solver.1"))
+        goldens.TextOfSetting("") += line + '\n';
+    goldens.Compare();
 }
 } // namespace

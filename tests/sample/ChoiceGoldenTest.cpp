@@ -4,26 +4,21 @@
  * was read and found right. renew.sh shows what has changed.
  *
  * Each Choice has a file. It begins with what stays the same throughout. Then come sections, the first as the
- * application has left the model, and one a choice: what the Choice and everything below it then hold, and at the end,
- * if anything else of the model is not as the application has left it, how.
+ * configuration has left the Choice, and one a choice: what the Choice and everything below it then hold. Nothing else
+ * of the model changes.
  */
 
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <map>
 
 #include "FlowTest.h"
 #include "ModelLines.h"
+#include "SampleGoldens.h"
+#include "SamplePlaces.h"
 #include "SampleTest.h"
 #include "VYRICfdChoice.h"
 
 namespace
 {
-constexpr const char* RenewedFolder = "VYR_RENEWED_GOLDENS";
-
 /// The lines of a model about one object and what is below it, without its path, and all others.
 struct SplitLines
 {
@@ -35,14 +30,10 @@ SplitLines Split(const VYRStandalone::Model& iModel, const std::string& iPath)
 {
     SplitLines split;
     for (const std::string& line : LinesOf(iModel))
-    {
-        const bool isBelow =
-            line.starts_with(iPath) && std::string("./ ").find(line[iPath.size()]) != std::string::npos;
-        if (isBelow)
+        if (IsBelow(line, iPath))
             split.below.push_back(line.substr(iPath.size()));
         else
             split.elsewhere.push_back(line);
-    }
     return split;
 }
 
@@ -51,130 +42,121 @@ bool Holds(const Lines& iLines, const std::string& iLine)
     return std::find(iLines.begin(), iLines.end(), iLine) != iLines.end();
 }
 
-void AppendWithout(const Lines& iLines, const Lines& iKnown, const char* iPrefix, std::string& oText)
+std::vector<ORXUnicodeString> ChoicesOf(const ORXISpecObject_var& iChoice)
 {
-    for (const std::string& line : iLines)
-        if (!Holds(iKnown, line))
-            oText += iPrefix + line + '\n';
+    std::vector<ORXUnicodeString> choices;
+    EXPECT_EQ(VYRICfdChoice_var(iChoice)->GetListOfChoices(choices), S_OK);
+    EXPECT_FALSE(choices.empty());
+    return choices;
 }
 
-/// One Choice of a fresh model, to which the configuration has been applied.
-class OneChoice
+struct Section
 {
-public:
-    OneChoice(VYRStandalone::Model iModel, std::string iPath) : m_model(std::move(iModel)), m_path(std::move(iPath))
+    std::string title;
+    Lines lines;
+};
+
+std::string TextOf(const std::string& iTitle, const std::vector<Section>& iSections)
+{
+    Lines same;
+    for (const std::string& line : iSections.front().lines)
+        if (std::all_of(iSections.begin(), iSections.end(),
+                        [&](const Section& iSection) { return Holds(iSection.lines, line); }))
+            same.push_back(line);
+    std::string text = iTitle + '\n';
+    for (const std::string& line : same)
+        text += line + '\n';
+    for (const Section& section : iSections)
     {
-        const std::size_t slash = m_path.find('/');
-        m_object = At(m_model.Find(m_path.substr(0, slash).c_str()), m_path.substr(slash + 1).c_str());
+        text += "\n== " + section.title + '\n';
+        for (const std::string& line : section.lines)
+            if (!Holds(same, line))
+                text += line + '\n';
+    }
+    return text;
+}
+
+class ChoiceGoldens : public SampleInstallationTest
+{
+protected:
+    void SetUp() override
+    {
+        SampleInstallationTest::SetUp();
+        ASSERT_EQ(VYRCfdConfigurator::GetConfigurator()->GetConfigurationMap(m_configurations), S_OK);
+        m_places = ConfiguredPlaces(m_configurations);
+    }
+
+    bool IsForChoices(const std::string& iConfiguration) const
+    {
+        const auto& items = m_configurations.at(iConfiguration.c_str());
+        return std::any_of(items.begin(), items.end(),
+                           [](const JSON::JIStream& iItem) { return iItem.Exist("choices"); });
     }
 
     /// What the golden file is to hold.
-    std::string SelectAll()
+    static std::string SelectAll(const Place& iPlace, const std::string& iConfiguration)
     {
-        std::vector<ORXUnicodeString> choices;
-        EXPECT_EQ(Choice()->GetListOfChoices(choices), S_OK);
-        EXPECT_FALSE(choices.empty());
-        std::vector<Section> sections{Look("(applied)")};
-        for (const ORXUnicodeString& choice : choices)
+        SCOPED_TRACE(iPlace.FullPath());
+        PlacedObject object(iPlace);
+        if (!iConfiguration.empty())
+            Configure(object.Target(), iConfiguration);
+        const SplitLines applied = Split(object.Model(), iPlace.FullPath());
+        std::vector<Section> sections{{iConfiguration.empty() ? "(fresh)" : "(applied)", applied.below}};
+        for (const ORXUnicodeString& choice : ChoicesOf(object.Target()))
         {
-            Select(choice);
-            sections.push_back(Look(choice.CastToCharPtr()));
+            Select(object.Target(), choice.CastToCharPtr());
+            const SplitLines selected = Split(object.Model(), iPlace.FullPath());
+            EXPECT_EQ(selected.elsewhere, applied.elsewhere) << choice.CastToCharPtr();
+            sections.push_back({choice.CastToCharPtr(), selected.below});
+            Reopened(object.Model());
         }
-        return Text(sections);
+        return TextOf(iPlace.FullPath() + (iConfiguration.empty() ? "" : " by " + iConfiguration), sections);
     }
 
-private:
-    struct Section
-    {
-        std::string title;
-        SplitLines lines;
-    };
-
-    VYRICfdChoice_var Choice() const { return m_object; }
-
-    Section Look(const std::string& iTitle) const { return {iTitle, Split(m_model, m_path)}; }
-
-    void Select(const ORXUnicodeString& iChoice)
-    {
-        EXPECT_EQ(Choice()->SetChoice(iChoice), S_OK);
-        ORXUnicodeString selected;
-        EXPECT_EQ(Choice()->GetChoice(selected), S_OK);
-        EXPECT_EQ(selected, iChoice);
-        EXPECT_EQ(Reported(), Records{}) << iChoice.CastToCharPtr();
-    }
-
-    std::string Text(const std::vector<Section>& iSections) const
-    {
-        const SplitLines& applied = iSections.front().lines;
-        Lines same;
-        for (const std::string& line : applied.below)
-            if (std::all_of(iSections.begin(), iSections.end(),
-                            [&](const Section& iSection) { return Holds(iSection.lines.below, line); }))
-                same.push_back(line);
-        std::string text = m_path + '\n';
-        AppendWithout(same, {}, "", text);
-        for (const Section& section : iSections)
-        {
-            text += "\n== " + section.title + '\n';
-            AppendWithout(section.lines.below, same, "", text);
-            AppendWithout(applied.elsewhere, section.lines.elsewhere, "elsewhere - ", text);
-            AppendWithout(section.lines.elsewhere, applied.elsewhere, "elsewhere + ", text);
-        }
-        return text;
-    }
-
-    VYRStandalone::Model m_model;
-    std::string m_path;
-    ORXISpecObject_var m_object;
+    VYRCfdConfigurationMap m_configurations;
+    std::vector<ConfiguredPlace> m_places;
 };
 
-/// Golden files of a model by their names.
-using Goldens = std::map<std::string, std::string>;
-
-std::string FileName(const std::string& iModel, std::string iPath)
+TEST_F(ChoiceGoldens, ConfiguredChoices_StandAsTheyWereRead)
 {
-    std::replace(iPath.begin(), iPath.end(), '/', '.');
-    return iModel + "-" + iPath + ".txt";
+    SampleGoldens goldens("choice-");
+    for (const ConfiguredPlace& place : m_places)
+        if (IsForChoices(place.configuration))
+            goldens.Text(place.configuration + "-" + place.targetType) = SelectAll(place.place, place.configuration);
+    goldens.Compare();
 }
 
-Goldens ReadGoldens(const std::string& iModel)
+TEST_F(ChoiceGoldens, ChoicesWithoutConfiguration_StandAsTheyWereRead)
 {
-    Goldens read;
-    for (const auto& entry : std::filesystem::directory_iterator(VYR_TEST_DATA_DIR))
-    {
-        const std::string name = entry.path().filename().string();
-        if (!name.starts_with(iModel + "-"))
-            continue;
-        std::ifstream file(entry.path(), std::ios::binary);
-        read[name] = {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    }
-    return read;
+    SampleGoldens goldens("declared-");
+    for (const Place& place : UnconfiguredChoices(m_places))
+        goldens.Text(place.rootType + "-" + place.path) = SelectAll(place, "");
+    goldens.Compare();
 }
 
-class ChoiceGoldens : public SampleTest
+class ModelChoices : public SampleTest
 {
 };
 
-INSTANTIATE_TEST_SUITE_P(Sample, ChoiceGoldens, testing::ValuesIn(SampleCases),
+INSTANTIATE_TEST_SUITE_P(Sample, ModelChoices, testing::ValuesIn(SampleCases),
                          [](const auto& iInfo) { return iInfo.param.name; });
 
-TEST_P(ChoiceGoldens, StandAsTheyWereRead)
+TEST_P(ModelChoices, EveryChoiceSelected_ChangesNothingElsewhere)
 {
-    Goldens selected;
-    for (const std::string& path : PathsOf(LoadAndApply(), "VYRCfdChoice"))
-        selected[FileName(GetParam().name, path)] = OneChoice(LoadAndApply(), path).SelectAll();
-    EXPECT_GE(selected.size(), 5U);
-
-    if (const char* folder = std::getenv(RenewedFolder); folder != nullptr)
+    const std::vector<std::string> paths = PathsOf(LoadAndApply(), "VYRCfdChoice");
+    EXPECT_GE(paths.size(), 20U);
+    for (const std::string& path : paths)
     {
-        for (const auto& [name, text] : selected)
-            std::ofstream(std::string(folder) + "/" + name, std::ios::binary) << text;
-        GTEST_SKIP() << "renewed, not compared";
+        SCOPED_TRACE(path);
+        const VYRStandalone::Model model = LoadAndApply();
+        const ORXISpecObject_var choice = ObjectAt(model, path);
+        const Lines elsewhere = Split(model, path).elsewhere;
+        for (const ORXUnicodeString& one : ChoicesOf(choice))
+        {
+            Select(choice, one.CastToCharPtr());
+            EXPECT_EQ(Split(model, path).elsewhere, elsewhere) << one.CastToCharPtr();
+        }
+        Reopened(model);
     }
-    const Goldens goldens = ReadGoldens(GetParam().name);
-    for (const auto& [name, text] : goldens)
-        EXPECT_TRUE(selected.contains(name)) << name << ": no such Choice any more";
-    for (const auto& [name, text] : selected)
-        EXPECT_EQ(text, goldens.contains(name) ? goldens.at(name) : "") << name;
 }
 } // namespace

@@ -1,5 +1,7 @@
 #include "SampleManagers.h"
 
+#include <algorithm>
+
 #include "ORXFillDictionary.h"
 #include "ORXTie.h"
 #include "VYRCfdChoiceMgrAdp.h"
@@ -7,42 +9,40 @@
 
 namespace
 {
-template <class Class> class SampleManager : public VYRCfdExtension<Class, VYRCfdChoiceMgrAdp>
+/// A text as a parameter of a template.
+template <std::size_t Size> struct TypeName
+{
+    // Made from a literal, so not explicit.
+    consteval TypeName(const char (&iText)[Size]) { std::copy_n(iText, Size, text); }
+    char text[Size] = {};
+};
+
+/// The class of each type is its own, so that each has its own entry in the dictionary.
+template <TypeName Type> class SampleManager final : public VYRCfdExtension<SampleManager<Type>, VYRCfdChoiceMgrAdp>
 {
 public:
+    static constexpr const char* ClassName = Type.text;
+    static constexpr const char* LateType = Type.text;
     static constexpr const char* Framework = "Test";
     static ORXMetaClass* BaseMeta() { return VYRICfdChoiceMgr::MetaObject(); }
 
-    static void Register()
+    static std::string Register()
     {
-        ORXFillDictionary::Register(Class::MetaObject(), VYRICfdChoiceMgr::MetaObject(), &Create, nullptr, 1);
+        ORXFillDictionary::Register(SampleManager::MetaObject(), VYRICfdChoiceMgr::MetaObject(), &Create, nullptr, 1);
+        return LateType;
     }
 
 private:
     static ORXBaseUnknown* Create(ORXBaseUnknown* iExtended, ORXBaseUnknown* iExtension)
     {
-        return ToCreateBOA(iExtended, iExtension, Class::MetaObject(), VYRICfdChoiceMgr::ClassId(), &Class::Construct);
+        return ToCreateBOA(iExtended, iExtension, SampleManager::MetaObject(), VYRICfdChoiceMgr::ClassId(),
+                           &SampleManager::Construct);
     }
-};
-
-class LinearSolverManager final : public SampleManager<LinearSolverManager>
-{
-public:
-    static constexpr const char* ClassName = "LinearSolverManager";
-    static constexpr const char* LateType = "LinearSolverChoice";
-};
-
-class TransitionModelManager final : public SampleManager<TransitionModelManager>
-{
-public:
-    static constexpr const char* ClassName = "TransitionModelManager";
-    static constexpr const char* LateType = "TransitionModelChoice";
 };
 } // namespace
 
 std::vector<std::string> RegisterSampleManagers()
 {
-    LinearSolverManager::Register();
-    TransitionModelManager::Register();
-    return {LinearSolverManager::LateType, TransitionModelManager::LateType};
+    return {SampleManager<"LinearSolverChoice">::Register(), SampleManager<"TransitionModelChoice">::Register(),
+            SampleManager<"SolverKindChoice">::Register(), SampleManager<"WallKindChoice">::Register()};
 }
