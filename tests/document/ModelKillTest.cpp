@@ -128,6 +128,16 @@ protected:
                                   : "neither: " + std::to_string(text.size()) + " bytes: " + text.substr(0, 80);
     }
 
+    /// Until so many more saves are done.
+    void WaitForSaves(int iCount) const
+    {
+        const int wanted = m_progress->saves + iCount;
+        const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+        while (m_progress->saves < wanted && std::chrono::steady_clock::now() < until)
+            std::this_thread::sleep_for(std::chrono::microseconds(50));
+        ASSERT_GE(m_progress->saves, wanted) << "a process does not get on with its work";
+    }
+
     /// Files beside the model's.
     std::size_t Litter() const { return m_folder.Names().size() - 1; }
 
@@ -143,7 +153,7 @@ protected:
 TEST_F(KilledSaves, LeaveTheOldFileOrTheNewOneWhole)
 {
     constexpr int Kills = 1000;
-    constexpr int LongestLifeInMicroseconds = 4000;
+    constexpr int LongestLifeInMicroseconds = 3000;
     std::mt19937 random(4);
     m_even.Save(m_file);
     int odd = 0;
@@ -154,6 +164,9 @@ TEST_F(KilledSaves, LeaveTheOldFileOrTheNewOneWhole)
     {
         Saver saver(m_odd, m_even, m_file, *m_progress);
         ASSERT_TRUE(saver.IsRunning());
+        // However slow the disk is, some live until their first save is done, and some until their second.
+        if (i % 10 == 0)
+            WaitForSaves(i % 20 == 0 ? 1 : 2);
         std::this_thread::sleep_for(std::chrono::microseconds(random() % LongestLifeInMicroseconds));
         ASSERT_TRUE(saver.Kill());
         const std::string which = Which();
@@ -163,8 +176,8 @@ TEST_F(KilledSaves, LeaveTheOldFileOrTheNewOneWhole)
         mostLitter = std::max(mostLitter, Litter());
     }
     EXPECT_EQ(m_progress->failures, 0);
-    // That the kills came in the middle of saves, and not all before the first.
-    EXPECT_GT(m_progress->saves, 100);
+    // That the kills came in the middle of saves, and not all before the first or between two.
+    EXPECT_GE(m_progress->saves, Kills / 10);
     EXPECT_GT(odd, 10);
     EXPECT_GT(even, 10);
     EXPECT_GT(interrupted, 10);
@@ -185,13 +198,12 @@ TEST_F(KilledSaves, AreNeverSeenHalfByAReader)
     const Saver saver(m_odd, m_even, m_file, *m_progress);
     ASSERT_TRUE(saver.IsRunning());
     int odd = 0;
-    for (int i = 0; i < 20000 && m_progress->saves < 200; ++i)
+    while (m_progress->saves < 100)
     {
         const std::string which = Which();
         ASSERT_TRUE(which == "odd" || which == "even") << which;
         odd += which == "odd" ? 1 : 0;
     }
-    EXPECT_GT(m_progress->saves, 0);
     EXPECT_GT(odd, 0);
     EXPECT_EQ(m_progress->failures, 0);
 }
@@ -205,10 +217,7 @@ TEST_F(KilledSaves, OfOtherProcesses_DoNotDisturb)
     const Saver second(m_odd, m_even, m_file, *m_progress);
     const Saver third(m_even, m_odd, other, *m_progress);
     ASSERT_TRUE(first.IsRunning() && second.IsRunning() && third.IsRunning());
-    const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-    while (m_progress->saves < 600 && std::chrono::steady_clock::now() < until)
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
-    EXPECT_GE(m_progress->saves, 100);
+    WaitForSaves(300);
     EXPECT_EQ(m_progress->failures, 0);
 }
 
