@@ -3,6 +3,8 @@
  * Items that apply a further configuration when a condition holds, and record it either way.
  */
 
+#include <ostream>
+
 #include "ChannelSwap.h"
 #include "VYRCfdTraceManager.h"
 #include "VYRStandaloneInstruments.h"
@@ -20,6 +22,11 @@ struct Conditional
     std::string temperature;
     std::string iterations;
 };
+
+void PrintTo(const Conditional& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 class ConditionalItemTest : public WalkTest, public testing::WithParamInterface<Conditional>
 {

@@ -3,6 +3,8 @@
  * Items that give an attribute a default, and the records that they leave.
  */
 
+#include <ostream>
+
 #include "VYRStandaloneInstruments.h"
 #include "WalkTest.h"
 
@@ -122,6 +124,11 @@ struct BadPath
     /// Whether the auto flag has been written all the same.
     std::string automatic;
 };
+
+void PrintTo(const BadPath& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 class DefaultPathTest : public WalkTest, public testing::WithParamInterface<BadPath>
 {

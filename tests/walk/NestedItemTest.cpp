@@ -3,6 +3,8 @@
  * Items that apply a further configuration.
  */
 
+#include <ostream>
+
 #include "ChannelSwap.h"
 #include "VYRCfdTraceManager.h"
 #include "WalkTest.h"
@@ -91,6 +93,11 @@ struct NestedFailure
     const char* item;
     Records reports;
 };
+
+void PrintTo(const NestedFailure& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 class NestedFailureTest : public NestedItemTest, public testing::WithParamInterface<NestedFailure>
 {

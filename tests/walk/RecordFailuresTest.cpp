@@ -3,6 +3,8 @@
  * Records that cannot be made or written.
  */
 
+#include <ostream>
+
 #include "VYRStandaloneInstruments.h"
 #include "WalkTest.h"
 
@@ -35,6 +37,11 @@ struct Item
     const char* name;
     const char* item;
 };
+
+void PrintTo(const Item& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 class RecordCreationTest : public RecordFailuresTest, public testing::WithParamInterface<Item>
 {
@@ -83,6 +90,11 @@ struct FailedWrite
     /// What of the record was written before, in the order of the table of record attributes.
     Lines written;
 };
+
+void PrintTo(const FailedWrite& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 class RecordWriteTest : public RecordFailuresTest, public testing::WithParamInterface<FailedWrite>
 {

@@ -3,6 +3,8 @@
  * Items that fill a list attribute.
  */
 
+#include <ostream>
+
 #include "VYRStandaloneInstruments.h"
 #include "WalkTest.h"
 
@@ -18,6 +20,11 @@ struct Splitting
     const char* value;
     Lines entries;
 };
+
+void PrintTo(const Splitting& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 class ValuesTextTest : public WalkTest, public testing::WithParamInterface<Splitting>
 {
@@ -74,6 +81,11 @@ struct BadPath
     const char* path;
     Record cause;
 };
+
+void PrintTo(const BadPath& iCase, std::ostream* ioStream)
+{
+    *ioStream << iCase.name;
+}
 
 class ValuesPathTest : public WalkTest, public testing::WithParamInterface<BadPath>
 {
