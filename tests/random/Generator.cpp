@@ -1,0 +1,289 @@
+#include "Generator.h"
+
+#include <algorithm>
+
+namespace
+{
+using Twin::Attribute;
+using Twin::Object;
+
+constexpr const char* NewTypes[] = {"RandomZone",     "RandomZone",   "RandomAlpha",      "RandomBeta",
+                                    "RandomMaterial", "RandomChoice", "RandomSimple",     "VYRCfdChoice",
+                                    "RandomBare",     "RandomGamma",  "VYRCfdDefaultManagement", "RandomSolver",
+                                    "VYRCfdConfigItem"};
+
+constexpr const char* GeneralTexts[] = {"",     "flow", "a b",   "0.25", " -2.5e1 ", "7",     "12abc",   "abc", "5 mm", "2 km",
+                                        "4 kg", "true", "False", "0",    "1",        "upwind", "central", "1e999", "300 K", "99999999999",
+                                        "made", "alpha", "kOmega", "0x1p3"};
+
+constexpr const char* ChoiceTexts[] = {"alpha", "beta", "gamma", "delta", "one", "two", "three",
+                                       "laminar", "kOmega", "sst", "x", "y", "nowhere", ""};
+
+constexpr const char* StartupTexts[] = {"RandomAlpha", "RandomBeta", "RandomGamma",    "RandomBare",
+                                        "",            "NoType",     "RandomChoice",   "RandomMaterial",
+                                        "RandomAlpha", "RandomBeta", "RandomGamma"};
+
+constexpr const char* Reals[] = {"0", "0.5", "-2.25", "0.1", "1e-07", "300", "1e+22", "1.5"};
+constexpr const char* Integers[] = {"0", "1", "2", "3", "-1", "4", "500", "2147483647"};
+
+/// Whether an attribute is of the class that a letter of a signature stands for.
+bool Suits(const Attribute& iAttribute, char iLetter)
+{
+    const bool isList = iAttribute.kind == Twin::Kind::List;
+    const bool hasObjects = Twin::HoldsObjects(isList ? iAttribute.entry : iAttribute.kind);
+    return isList == (iLetter == 'v' || iLetter == 'L') && hasObjects == (iLetter == 'L' || iLetter == 'O');
+}
+
+void Collect(Object* iObject, std::vector<Object*>& ioObjects)
+{
+    ioObjects.push_back(iObject);
+    for (const auto& [name, attribute] : iObject->attributes)
+    {
+        if (attribute.kind == Twin::Kind::Component && attribute.object != nullptr)
+            Collect(attribute.object, ioObjects);
+        if (attribute.kind == Twin::Kind::List && attribute.entry == Twin::Kind::Component)
+            for (std::size_t i = 0; i < attribute.objects.size(); ++i)
+                if (attribute.objects[i] != nullptr &&
+                    std::find(attribute.objects.begin(), attribute.objects.begin() + static_cast<std::ptrdiff_t>(i),
+                              attribute.objects[i]) == attribute.objects.begin() + static_cast<std::ptrdiff_t>(i))
+                    Collect(attribute.objects[i], ioObjects);
+    }
+}
+} // namespace
+
+/// SplitMix64.
+std::uint64_t Generator::Random()
+{
+    m_state += 0x9E3779B97F4A7C15u;
+    std::uint64_t mixed = m_state;
+    mixed = (mixed ^ (mixed >> 30)) * 0xBF58476D1CE4E5B9u;
+    mixed = (mixed ^ (mixed >> 27)) * 0x94D049BB133111EBu;
+    return mixed ^ (mixed >> 31);
+}
+
+const OperationKind& Generator::Kind()
+{
+    static const int total = [] {
+        int sum = 0;
+        for (const OperationKind& kind : OperationKinds())
+            sum += kind.weight;
+        return sum;
+    }();
+    int rest = Below(total);
+    for (const OperationKind& kind : OperationKinds())
+    {
+        rest -= kind.weight;
+        if (rest < 0)
+            return kind;
+    }
+    return OperationKinds().front();
+}
+
+Operation Generator::Next(TwoModels& ioModels)
+{
+    m_models = &ioModels;
+    const int special = Below(600);
+    if (special < 2)
+        return {"save", {}};
+    if (special < 4)
+        return {"drop", {}};
+    if (special < 16)
+        return {"create", {Any(NewTypes)}};
+    Operation operation;
+    const OperationKind& kind = Kind();
+    operation.verb = kind.verb;
+    m_self = nullptr;
+    m_attribute = nullptr;
+    m_choiceCount = 0;
+    for (const char* letter = kind.signature; *letter != '\0'; ++letter)
+        operation.words.push_back(Word(*letter));
+    return operation;
+}
+
+std::string Generator::Word(char iLetter)
+{
+    switch (iLetter)
+    {
+    case 'o':
+    case 'd':
+    case 'c':
+    case 'm':
+        m_self = Target(iLetter);
+        return m_self != nullptr ? m_models->AddressOf(*m_self) : "#0";
+    case 's':
+    case 'v':
+    case 'L':
+    case 'O':
+        return Name(iLetter);
+    case 'x':
+        return OperandAddress();
+    case 'y':
+    {
+        std::string text;
+        for (int i = Below(5); i > 0; --i)
+            text += (text.empty() ? "" : ",") + OperandAddress();
+        return text.empty() ? "-" : text;
+    }
+    case 'i':
+        return Any(Integers);
+    case 'r':
+        return Any(Reals);
+    case 'b':
+        return OneIn(2) ? "1" : "0";
+    case 'n':
+        return Position();
+    case 't':
+        return Text();
+    case 'w':
+        return Choice();
+    case 'z':
+        return ChoiceList();
+    case 'u':
+        return Startups();
+    default:
+        return Any(RandomConfigurations()).name;
+    }
+}
+
+Object* Generator::Target(char iLetter)
+{
+    // One of the objects that stand for themselves, then one of what belongs to it.
+    for (int attempt = 0; attempt < 50; ++attempt)
+    {
+        Object* root = Any(m_models->Known());
+        Twin::Configurator& twin = m_models->Twin();
+        if (!twin.IsInModel(*root))
+            continue;
+        m_all.clear();
+        Collect(root, m_all);
+        std::erase_if(m_all, [&](const Object* iObject) {
+            return (iLetter == 'd' && !twin.HasDefaults(*iObject)) ||
+                   (iLetter == 'c' && !twin.IsChoice(*iObject)) || (iLetter == 'm' && !twin.IsManaged(*iObject));
+        });
+        if (!m_all.empty())
+            return m_all[static_cast<std::size_t>(Below(static_cast<int>(m_all.size())))];
+    }
+    return nullptr;
+}
+
+std::string Generator::Name(char iLetter)
+{
+    static constexpr const char* names[] = {"", "nothing", "value", "iterations", "nothing_isauto", "monitors", "zone"};
+    if (m_self == nullptr || OneIn(25))
+        return Any(names);
+    std::vector<const Attribute*> suited;
+    for (const auto& [name, attribute] : m_self->attributes)
+        if (Suits(attribute, iLetter) || OneIn(60))
+            suited.push_back(&attribute);
+    if (suited.empty())
+        return Any(names);
+    m_attribute = Any(suited);
+    // The sub-feature is left alone mostly: little works without it.
+    if (m_attribute->name == "defaultManagement" && !OneIn(15))
+        m_attribute = Any(suited);
+    return m_attribute->name;
+}
+
+std::string Generator::Text()
+{
+    if (m_attribute != nullptr && m_attribute->name == "value" && !OneIn(4))
+        return Choice();
+    return Any(GeneralTexts);
+}
+
+std::string Generator::Choice()
+{
+    if (m_self != nullptr && !OneIn(5))
+        if (const Attribute* choices = Twin::Host::Find(m_self, "choices"); choices != nullptr && !choices->values.empty())
+            return Any(choices->values).text;
+    return Any(ChoiceTexts);
+}
+
+std::string Generator::ChoiceList()
+{
+    if (m_attribute != nullptr && m_attribute->name == "Startups")
+        return Startups();
+    std::vector<std::string> pool;
+    if (m_self != nullptr && m_models->Twin().IsChoice(*m_self) && !OneIn(4))
+        for (const Twin::Value& value : Twin::Host::Find(m_self->startup, "choices")->values)
+            pool.push_back(value.text);
+    std::string text;
+    for (int i = Below(5); i > 0; --i)
+    {
+        const std::string word = pool.empty() ? Any(ChoiceTexts) : Any(pool);
+        text += (m_choiceCount++ == 0 ? "" : ",") + word;
+    }
+    return m_choiceCount == 0 ? "-" : text;
+}
+
+std::string Generator::Startups()
+{
+    if (OneIn(4))
+        return "-";
+    std::size_t count = m_choiceCount;
+    if (m_attribute != nullptr && m_attribute->name == "Startups")
+        count = Twin::Host::Find(m_self, "choices")->values.size();
+    if (OneIn(8))
+        count += 1;
+    std::string text;
+    for (std::size_t i = 0; i < count; ++i)
+        text += (i == 0 ? "" : ",") + std::string(Any(StartupTexts));
+    return count == 0 ? "-" : text;
+}
+
+std::string Generator::Position()
+{
+    int size = 0;
+    if (m_attribute != nullptr && m_attribute->kind == Twin::Kind::List)
+        size = static_cast<int>(std::max(m_attribute->values.size(), m_attribute->objects.size()));
+    else if (!OneIn(6))
+        return "0";
+    return std::to_string(OneIn(8) ? Below(size + 4) - 1 : 1 + Below(size + 1));
+}
+
+Object* Generator::Operand()
+{
+    if (OneIn(6))
+        return nullptr;
+    if (m_attribute != nullptr && !m_attribute->objects.empty() && OneIn(2))
+        return Any(m_attribute->objects);
+    if (m_attribute != nullptr && m_attribute->object != nullptr && OneIn(3))
+        return m_attribute->object;
+    for (int attempt = 0; attempt < 30; ++attempt)
+    {
+        Object* object = Any(m_models->Known());
+        const bool isFlags = object->type == "VYRCfdDefaultManagement";
+        const bool isRecord = object->type == "VYRCfdConfigItem";
+        if (m_attribute != nullptr && m_attribute->name == "defaultManagement" && !isFlags)
+            continue;
+        if (m_attribute != nullptr && m_attribute->name == "configuration" && !isRecord && !OneIn(10))
+            continue;
+        // Solvers are what holds the others.
+        if (m_attribute != nullptr && object->attributes.contains("turbulence") && !OneIn(10))
+            continue;
+        if (m_models->Twin().IsInModel(*object))
+            return object;
+    }
+    return nullptr;
+}
+
+std::string Generator::OperandAddress()
+{
+    return Address(Operand());
+}
+
+std::string Generator::Address(Object* iObject)
+{
+    if (iObject == nullptr)
+        return "null";
+    if (const std::string address = m_models->AddressOf(*iObject); !address.empty())
+        return address;
+    // A record that is not known is reached through the list that holds it.
+    if (m_attribute == nullptr || m_self == nullptr)
+        return "null";
+    const auto found = std::find(m_attribute->objects.begin(), m_attribute->objects.end(), iObject);
+    if (found == m_attribute->objects.end())
+        return "null";
+    return m_models->AddressOf(*m_self) + "/" + m_attribute->name + "[" +
+           std::to_string(found - m_attribute->objects.begin() + 1) + "]";
+}
