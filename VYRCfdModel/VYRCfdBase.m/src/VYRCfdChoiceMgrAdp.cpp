@@ -18,6 +18,16 @@ bool Contains(const Texts& iTexts, const ORXUnicodeString& iText)
     return std::find(iTexts.begin(), iTexts.end(), iText) != iTexts.end();
 }
 
+/// Finds the start-up of a feature, which holds the declared lists. Reports under the operation's name.
+HRESULT FindStartup(const char* iFunction, ORXBaseUnknown* iFeature, ORXISpecObject_var& spStartupSpec)
+{
+    const ORXISpecObject_var spSpec = ORXISpecObject_var::Cast(iFeature);
+    VYRCFD_ASSERT_FOR(iFunction, spSpec);
+    spStartupSpec = ORXISpecObject_var::Adopt(spSpec->GetStartup());
+    VYRCFD_ASSERT_FOR(iFunction, spStartupSpec);
+    return S_OK;
+}
+
 /// The choices of a Choice and what starts with each, in the order of a list of choices that some are taken from.
 struct Selection
 {
@@ -49,10 +59,8 @@ HRESULT VYRCfdChoiceMgrAdp::ConfigureChoiceMgr(const std::vector<ORXUnicodeStrin
 {
     VYRCFD_ENTER_RESET(15);
     VYRCFD_ASSERT(iChoices.size() > 0);
-    const ORXISpecObject_var spSpec = ORXISpecObject_var::Cast(GetImpl(0));
-    VYRCFD_ASSERT(spSpec);
-    const ORXISpecObject_var spStartupSpec = ORXISpecObject_var::Adopt(spSpec->GetStartup());
-    VYRCFD_ASSERT(spStartupSpec);
+    ORXISpecObject_var spStartupSpec;
+    VYRCFD_PASS(FindStartup(VYRCFD_FUNCTION, GetImpl(0), spStartupSpec));
     const VYRCfdObjectAccess startup{ORXBaseUnknown_var(spStartupSpec)};
     Texts startupChoices;
     startup[VYRCFDBASE(Choice, choices)].GetStrings(startupChoices);
@@ -85,10 +93,8 @@ HRESULT VYRCfdChoiceMgrAdp::Reset(unsigned char iKeepValue)
     // It is used for nothing else: a feature without default management is not reset.
     const VYRIMpaDefaultManagementProtected_var spDefMgmt = VYRIMpaDefaultManagementProtected_var::Cast(GetImpl(0));
     VYRCFD_ASSERT(spDefMgmt != NULL_var);
-    const ORXISpecObject_var spSpec = ORXISpecObject_var::Cast(GetImpl(0));
-    VYRCFD_ASSERT(spSpec);
-    const ORXISpecObject_var spStartupSpec = ORXISpecObject_var::Adopt(spSpec->GetStartup());
-    VYRCFD_ASSERT(spStartupSpec);
+    ORXISpecObject_var spStartupSpec;
+    VYRCFD_PASS(FindStartup(VYRCFD_FUNCTION, GetImpl(0), spStartupSpec));
     const VYRCfdObjectAccess startup{ORXBaseUnknown_var(spStartupSpec)};
     const VYRCfdObjectAccess access(ORXBaseUnknown_var::Share(GetImpl(0)));
     Texts startupChoices;
@@ -109,10 +115,8 @@ HRESULT VYRCfdChoiceMgrAdp::Reset(unsigned char iKeepValue)
 HRESULT VYRCfdChoiceMgrAdp::GetAllChoices(std::vector<ORXUnicodeString>& oChoices, ORXUnicodeString& oDefaultChoice)
 {
     VYRCFD_ENTER_RESET(15);
-    const ORXISpecObject_var spSpec = ORXISpecObject_var::Cast(GetImpl(0));
-    VYRCFD_ASSERT(spSpec);
-    const ORXISpecObject_var spStartupSpec = ORXISpecObject_var::Adopt(spSpec->GetStartup());
-    VYRCFD_ASSERT(spStartupSpec);
+    ORXISpecObject_var spStartupSpec;
+    VYRCFD_PASS(FindStartup(VYRCFD_FUNCTION, GetImpl(0), spStartupSpec));
     const VYRCfdObjectAccess startup{ORXBaseUnknown_var(spStartupSpec)};
     VYRCFD_CHECK(startup[VYRCFDBASE(Choice, choices)].GetStrings(oChoices));
     VYRCFD_CHECK(startup[VYRCFDBASE(Choice, value)].GetString(oDefaultChoice));
@@ -150,10 +154,8 @@ HRESULT VYRCfdChoiceMgrAdp::ProhibitChoices(const std::set<ORXUnicodeString>& iP
 HRESULT VYRCfdChoiceMgrAdp::AddChoices(std::set<ORXUnicodeString>& iAdded)
 {
     VYRCFD_ENTER_RESET(15);
-    const ORXISpecObject_var spSpec = ORXISpecObject_var::Cast(GetImpl(0));
-    VYRCFD_ASSERT(spSpec);
-    const ORXISpecObject_var spStartupSpec = ORXISpecObject_var::Adopt(spSpec->GetStartup());
-    VYRCFD_ASSERT(spStartupSpec);
+    ORXISpecObject_var spStartupSpec;
+    VYRCFD_PASS(FindStartup(VYRCFD_FUNCTION, GetImpl(0), spStartupSpec));
     const VYRCfdObjectAccess startup{ORXBaseUnknown_var(spStartupSpec)};
     const VYRCfdObjectAccess access(ORXBaseUnknown_var::Share(GetImpl(0)));
     Texts originalChoices;
