@@ -225,11 +225,42 @@ INSTANTIATE_TEST_SUITE_P(
         OfAdapter("SetLogicalName", [](Adapter& a) { return a.SetLogicalName("x"); }),
         OfAdapter("RemoveInstanceListener", [](Adapter& a) { return a.RemoveInstanceListener(NULL_var); })));
 
-INSTANTIATE_TEST_SUITE_P(Services, FaultPoints,
-                         testing::Values(FaultPoint{"GetEnv",
-                                                    [](const Subject&) { return ORXGetEnv("PATH") != nullptr; }},
-                                         FaultPoint{"GetOfficialVariable", [](const Subject&) {
-                                                        VYRStandalone::SetOfficialVariable("FaultPoint", "x");
-                                                        return ORXGetOfficialVariable("FaultPoint") != nullptr;
-                                                    }}));
+/// A table column with one row.
+ORXISimBCDataTableColumn_var Column()
+{
+    const ORXISimBCDataTableColumn_var column = VYRStandalone::MakeTableColumn();
+    column->SetValue(1, 1.0);
+    return column;
+}
+
+INSTANTIATE_TEST_SUITE_P(Columns, FaultPoints,
+                         testing::Values(FaultPoint{"SetValue",
+                                                    [](const Subject&) {
+                                                        const ORXISimBCDataTableColumn_var column = Column();
+                                                        return column->GetRowCount() == 1;
+                                                    }},
+                                         Status("GetValue", [](const Subject&) {
+                                             double value = 0.0;
+                                             return Column()->GetValue(1, value);
+                                         })));
+
+INSTANTIATE_TEST_SUITE_P(
+    Services, FaultPoints,
+    testing::Values(FaultPoint{"GetEnv", [](const Subject&) { return ORXGetEnv("PATH") != nullptr; }},
+                    FaultPoint{"GetOfficialVariable",
+                               [](const Subject&) {
+                                   VYRStandalone::SetOfficialVariable("FaultPoint", "x");
+                                   return ORXGetOfficialVariable("FaultPoint") != nullptr;
+                               }},
+                    FaultPoint{"FindPath",
+                               [](const Subject&) { return ORXFindPath("README.md", VYR_SAMPLES_DIR) != nullptr; }},
+                    FaultPoint{"ParseFile",
+                               [](const Subject&) {
+                                   return JSON::JIStream().ParseFile(
+                                       VYR_SAMPLES_DIR "/catalogs/FlowCommon.catalog.json", true);
+                               }},
+                    FaultPoint{"Get", [](const Subject& s) {
+                                   ORXSpecAttrKeyServices record{"HostTests", "HostPlain", "ratio", nullptr};
+                                   return record.Get(s.access) != nullptr;
+                               }}));
 } // namespace
