@@ -9,6 +9,8 @@
 #include <chrono>
 #include <csignal>
 #include <cstddef>
+#include <cstdlib>
+#include <optional>
 #include <random>
 #include <string>
 #include <sys/mman.h>
@@ -85,11 +87,37 @@ private:
     pid_t m_process;
 };
 
+/// For its life, temporary folders are made in memory where the system has a place for that.
+class FoldersInMemory
+{
+public:
+    explicit FoldersInMemory(bool iIsWanted)
+    {
+        if (const char* before = std::getenv("TMPDIR"))
+            m_before = before;
+        if (iIsWanted && access("/dev/shm", W_OK) == 0)
+            setenv("TMPDIR", "/dev/shm", 1);
+    }
+    ~FoldersInMemory()
+    {
+        if (m_before)
+            setenv("TMPDIR", m_before->c_str(), 1);
+        else
+            unsetenv("TMPDIR");
+    }
+    FoldersInMemory(const FoldersInMemory&) = delete;
+    FoldersInMemory& operator=(const FoldersInMemory&) = delete;
+
+private:
+    std::optional<std::string> m_before;
+};
+
 class KilledSaves : public testing::Test
 {
 protected:
-    KilledSaves()
-        : m_progress(static_cast<Progress*>(
+    explicit KilledSaves(bool iIsInMemory = true)
+        : m_place(iIsInMemory),
+          m_progress(static_cast<Progress*>(
               mmap(nullptr, sizeof(Progress), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0)))
     {
         TestCatalog::Declare();
@@ -141,6 +169,7 @@ protected:
     /// Files beside the model's.
     std::size_t Litter() const { return m_folder.Names().size() - 1; }
 
+    const FoldersInMemory m_place;
     const TemporaryFolder m_folder;
     std::string m_file;
     Model m_odd;
@@ -150,17 +179,36 @@ protected:
     Progress* m_progress;
 };
 
-TEST_F(KilledSaves, LeaveTheOldFileOrTheNewOneWhole)
+struct KillPlace
 {
-    constexpr int Kills = 1000;
+    const char* what;
+    bool isInMemory;
+    int kills;
+};
+
+/// A thousand together. A process that waits for the disk dies only when that has answered, so that most of them save
+/// in memory, where many more moments are met in the same time.
+class KilledSavesInPlaces : public KilledSaves, public testing::WithParamInterface<KillPlace>
+{
+protected:
+    KilledSavesInPlaces() : KilledSaves(GetParam().isInMemory) {}
+};
+
+INSTANTIATE_TEST_SUITE_P(Places, KilledSavesInPlaces,
+                         testing::Values(KillPlace{"InMemory", true, 900}, KillPlace{"OnDisk", false, 100}),
+                         [](const testing::TestParamInfo<KillPlace>& iInfo) { return std::string(iInfo.param.what); });
+
+TEST_P(KilledSavesInPlaces, LeaveTheOldFileOrTheNewOneWhole)
+{
     constexpr int LongestLifeInMicroseconds = 3000;
+    const int kills = GetParam().kills;
     std::mt19937 random(4);
     m_even.Save(m_file);
     int odd = 0;
     int even = 0;
     int interrupted = 0;
     std::size_t mostLitter = 0;
-    for (int i = 0; i < Kills; ++i)
+    for (int i = 0; i < kills; ++i)
     {
         Saver saver(m_odd, m_even, m_file, *m_progress);
         ASSERT_TRUE(saver.IsRunning());
@@ -177,10 +225,10 @@ TEST_F(KilledSaves, LeaveTheOldFileOrTheNewOneWhole)
     }
     EXPECT_EQ(m_progress->failures, 0);
     // That the kills came in the middle of saves, and not all before the first or between two.
-    EXPECT_GE(m_progress->saves, Kills / 10);
-    EXPECT_GT(odd, 10);
-    EXPECT_GT(even, 10);
-    EXPECT_GT(interrupted, 10);
+    EXPECT_GE(m_progress->saves, kills / 10);
+    EXPECT_GT(odd, 0);
+    EXPECT_GT(even, 0);
+    EXPECT_GT(interrupted, 0);
     RecordProperty("saves", m_progress->saves);
     RecordProperty("interrupted", interrupted);
 

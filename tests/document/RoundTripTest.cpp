@@ -74,11 +74,12 @@ TEST_F(RoundTrips, ValuesOfEveryKind_UnsetEmptyAndWritten)
 TEST_F(RoundTrips, RealsWithUnits_AreKeptInSiUnits)
 {
     const Model model = Model::Parse(TestCatalog::Model(R"({"type": "Rich", "name": "R", "values": {
-        "length": "3 km", "lengths": ["2 ft", 2, "-5 km"], "pressure": "1 bar"}})"),
+        "length": "3 km", "lengths": ["1 in", 2, "-5 um"], "pressure": "1 bar"}})"),
                                      "test");
     EXPECT_EQ(DumpOf(model, "length"), "R.length = 3000 m\n");
     EXPECT_EQ(DumpOf(model, "pressure"), "R.pressure = 1e+05 Pa\n");
     const std::string text = model.Text();
+    EXPECT_NE(text.find("\"lengths\": [0.0254, 2.0, -5e-06],\n"), std::string::npos) << text;
     EXPECT_NE(text.find("\"length\": 3000.0,\n"), std::string::npos) << text;
     EXPECT_NE(text.find("\"pressure\": 1e+05\n"), std::string::npos) << text;
     ExpectRoundTrip(model);

@@ -25,6 +25,7 @@
 #include "TemporaryFolder.h"
 #include "TestCatalog.h"
 #include "VYRStandaloneModel.h"
+#include "VYRStandaloneServices.h"
 
 namespace
 {
@@ -182,6 +183,19 @@ TEST_F(FailingSaves, ToNamesThatNoFileCanHave_SaySo)
     EXPECT_EQ(SaveError(Sample(), m_folder.Path(longName.substr(1))), "");
     EXPECT_EQ(m_folder.Read(longName.substr(1)), Sample().Text());
     EXPECT_EQ(m_folder.Names().size(), 2U);
+}
+
+/// The system would take the part before the zero for the name, and another file would be replaced or read.
+TEST_F(FailingSaves, ToNamesWithAZeroByte_TouchNoOtherFile)
+{
+    const std::string file = m_folder.Write("m.json", "old");
+    const std::string name = file + std::string("\0.bak", 5);
+    EXPECT_EQ(SaveError(Sample(), name), "DIR/m.json .bak: cannot be written: Invalid argument");
+    ExpectUntouched();
+    Sample().Save(file);
+    EXPECT_THROW(Model::Load(name), DocumentError);
+    EXPECT_THROW(VYRStandalone::CheckJson(name), DocumentError);
+    EXPECT_NO_THROW(Model::Load(file));
 }
 
 TEST_F(FailingSaves, WhereNobodyMayMakeFiles_SaySo)
