@@ -62,7 +62,8 @@ public:
      * Applies a configuration to an object that has default management: its items in file order, each doing one thing,
      * and at the end the records of the defaults and of the conditional items on the object. A failing item ends the
      * walk, and what was done stays; what a nested configuration reports does not. Configurations that lead back to
-     * themselves are stopped at a nesting of 512 with one error; from then on the outermost application applies no
+     * themselves are stopped at a nesting of 512, and those that multiply after 100,000 applications, with one error
+     * each; from then on the outermost application applies no
      * further nested configuration.
      * @return S_OK, S_FALSE for a configuration without items, or a negative status
      */

@@ -67,14 +67,15 @@ std::string CatalogLoader::FindFile(const Wanted& iWanted) const
     if (!iWanted.beside.empty())
         folders.insert(folders.begin(), iWanted.beside);
     const std::string name = iWanted.name + ".catalog.json";
-    // A name that leads into other folders is none.
-    if (iWanted.name.find('/') == std::string::npos)
+    // A name that leads into other folders is none, nor one that the system would cut.
+    if (iWanted.name.find_first_of(std::string_view("/\0", 2)) == std::string::npos)
     {
         for (const std::string& folder : folders)
         {
             std::error_code ignored;
             const std::filesystem::path file = std::filesystem::path(folder) / name;
-            if (std::filesystem::exists(file, ignored))
+            // Links are followed; but what is only sought, and not named by the user, must not be a pipe or a device.
+            if (std::filesystem::is_regular_file(file, ignored))
                 return file.lexically_normal().string();
         }
     }

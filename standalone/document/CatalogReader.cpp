@@ -38,6 +38,7 @@ private:
     void AddValue(const DocumentNode& iValue, const std::vector<std::string>& iPath);
 
     TypeDeclaration& m_type;
+    std::set<std::string> m_names;
     std::vector<std::string>& m_valuePaths;
 };
 
@@ -102,9 +103,8 @@ void TypeReader::ReadAttribute(const DocumentNode& iAttribute)
     const DocumentNode name = iAttribute.Require("name");
     CheckAttributeName(name);
     attribute.name = name.Text();
-    for (const AttributeDeclaration& other : m_type.attributes)
-        if (other.name == attribute.name)
-            name.Fail("the type has an attribute " + Quoted(attribute.name) + " already");
+    if (!m_names.insert(attribute.name).second)
+        name.Fail("the type has an attribute " + Quoted(attribute.name) + " already");
     ReadKind(iAttribute, attribute);
     ReadTexts(iAttribute, attribute);
     if (const auto type = iAttribute.Find("type"))

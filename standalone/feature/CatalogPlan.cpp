@@ -171,6 +171,7 @@ void CatalogPlan::AddAttributes(std::size_t iType)
             throw DeclarationError(iType, index, none,
                                    "type " + Quoted(type.name) + " is in use and cannot gain the attribute " +
                                        Quoted(attribute.name));
+        owner.places.emplace(attribute.name, owner.attributes.size());
         owner.attributes.emplace_back(attribute.name, planned);
     }
 }
@@ -359,12 +360,11 @@ bool CatalogPlan::FindAttribute(const std::string& iType, const std::string& iNa
             oAttribute = Describe(*key);
             return true;
         }
-        for (const auto& [name, attribute] : type->attributes)
-            if (name == iName)
-            {
-                oAttribute = attribute;
-                return true;
-            }
+        if (const auto place = type->places.find(iName); place != type->places.end())
+        {
+            oAttribute = type->attributes[place->second].second;
+            return true;
+        }
     }
     return false;
 }

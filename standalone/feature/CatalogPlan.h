@@ -54,6 +54,8 @@ private:
         std::string base;
         /// Of the catalog only.
         std::vector<std::pair<std::string, Attribute>> attributes;
+        /// Places in it, by name.
+        std::unordered_map<std::string, std::size_t> places;
     };
 
     void CollectTypes();

@@ -104,6 +104,8 @@ long VYRCfdConfigurator::ApplyConfiguration(const ORXBaseUnknown_var& ispObject,
         return E_FAIL;
     if (nesting.StopIfTooDeep())
         VYRCFD_FAIL("Configuration nesting too deep: %s", iConfigName);
+    if (nesting.StopIfTooMany())
+        VYRCFD_FAIL("Too many nested configurations: %s", iConfigName);
 
     if (!_configsLoaded)
         VYRCFD_CHECK(LoadConfigs());
