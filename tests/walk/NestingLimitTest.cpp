@@ -69,6 +69,26 @@ TEST_F(NestingLimitTest, CycleThroughTwoConditions_RecordsOnEachLevelAndEndsWith
     EXPECT_EQ(RecordsIn(m_model), 1024);
 }
 
+/// Each applies the next one twice: the last would be applied some 10^12 times.
+TEST_F(NestingLimitTest, ConfigurationsThatMultiply_EndWithOneErrorAndLeaveTheNextRunAlone)
+{
+    std::vector<std::string> texts;
+    for (int i = 0; i < 40; ++i)
+    {
+        const std::string next = "\"double" + std::to_string(i + 1) + "\"";
+        texts.push_back(Configuration("double" + std::to_string(i),
+                                      "[ { \"config\": " + next + " }, { \"config\": " + next + " } ]"));
+    }
+    texts.push_back(Configuration("double40", R"([ { "path": "monitors", "value": "lift", "list": true } ])"));
+    Install(texts);
+    const Records reports = ApplyBounded("double0");
+    ASSERT_EQ(reports.size(), 1U);
+    // Which one is the first too many follows from the order of the walk.
+    EXPECT_EQ(reports[0].text.substr(0, 38), "Too many nested configurations: double");
+    EXPECT_EQ(reports[0], Error(reports[0].text, Walk));
+    EXPECT_EQ(ApplyBounded("double30"), Records{});
+}
+
 TEST_F(NestingLimitTest, OwnItemsOfACycle_AreStillApplied)
 {
     Install(
