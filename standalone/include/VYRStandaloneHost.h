@@ -31,6 +31,9 @@
  * - Units. A real that measures something is kept in SI; a text may carry a unit of its quantity, and the value as text
  *   carries the SI unit. An optional attribute has a key on every object, and is carried once `AddAttribute` has made
  * it.
+ * - Documents. A component that has the type of the one that came with its owner is laid over it, so that its start-up
+ *   is the owner's. No type brings more than 1,000 objects into being. A save removes what saves that were stopped have
+ *   left in its folder. Numbers are read to the nearest double.
  * - Objects that hold each other, by references or by listening, die with their model, also when they have left it.
  */
 
