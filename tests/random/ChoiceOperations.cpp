@@ -32,7 +32,8 @@ std::set<ORXUnicodeString> SetOf(const std::vector<std::string>& iTexts)
 
 /// An operation of an interface, which objects offer or do not.
 template <class Interface>
-OperationKind Of(const char* iVerb, const char* iSignature, int iWeight, bool (Configurator::*iOffers)(const Twin::Object&) const,
+OperationKind Of(const char* iVerb, const char* iSignature, int iWeight,
+                 bool (Configurator::*iOffers)(const Twin::Object&) const,
                  std::function<HRESULT(Configurator&, Twin::Object&, const TwinArguments&)> iOnTwin,
                  std::function<HRESULT(Interface&, const RealArguments&)> iOnReal)
 {
@@ -63,14 +64,18 @@ std::vector<OperationKind> ManagerOperations()
             [](auto& m, auto& w) { return m.Reset(static_cast<unsigned char>(w.integers[0])); }),
         Of<VYRICfdChoiceMgr>(
             "prohibit", "mz", 30, managed,
-            [](auto& t, auto& o, auto& w) { return t.Prohibit(o, {w.list.begin(), w.list.end()}); },
+            [](auto& t, auto& o, auto& w) {
+                return t.Prohibit(o, {w.list.begin(), w.list.end()});
+            },
             [](auto& m, auto& w) { return m.ProhibitChoices(SetOf(w.list)); }),
         Of<VYRICfdChoiceMgr>(
             "prohibitone", "mw", 10, managed, [](auto& t, auto& o, auto& w) { return t.Prohibit(o, {w.texts[0]}); },
             [](auto& m, auto& w) { return m.ProhibitChoice(w.texts[0].c_str()); }),
         Of<VYRICfdChoiceMgr>(
             "addchoices", "mz", 20, managed,
-            [](auto& t, auto& o, auto& w) { return t.AddChoices(o, {w.list.begin(), w.list.end()}); },
+            [](auto& t, auto& o, auto& w) {
+                return t.AddChoices(o, {w.list.begin(), w.list.end()});
+            },
             [](auto& m, auto& w) {
                 std::set<ORXUnicodeString> added = SetOf(w.list);
                 return m.AddChoices(added);

@@ -60,11 +60,16 @@ std::string PathOfStartup(const Object& iPrototype)
                                        : "[" + iPrototype.type + "]";
 }
 
-std::string EntryText(const RealAttribute& iAttribute, Kind iKind, int iIndex)
+std::string EntryText(const RealAttribute& iAttribute, const Attribute& iDeclared, int iIndex)
 {
     ORXISpecAttrAccess& access = *iAttribute.access.Pointer();
-    switch (iKind)
+    switch (iDeclared.entry)
     {
+    case Kind::Enumeration:
+    {
+        const int number = access.GetInteger(iAttribute.key, iIndex);
+        return number < 1 ? "(none)" : iDeclared.texts.at(static_cast<std::size_t>(number - 1));
+    }
     case Kind::Real:
         return Twin::Of(access.GetDouble(iAttribute.key, iIndex)).AsString();
     case Kind::Integer:
@@ -208,10 +213,13 @@ Difference Comparison::Compare(Object& ioObject)
         if (const Difference difference = CompareAttribute(ioObject, *attribute, real))
             return where + ": " + *difference;
     }
-    if (ioObject.defaults.isMade)
-        if (const Difference difference = CompareDefaults(ioObject, real))
-            return path + ": " + *difference;
-    return std::nullopt;
+    if (!ioObject.defaults.isMade)
+        return std::nullopt;
+    const Difference difference = CompareDefaults(ioObject, real);
+    // Asking reports names that have no default.
+    m_twin.TakeReports();
+    VYRStandalone::TakeReports();
+    return difference ? path + ": " + *difference : difference;
 }
 
 Difference Comparison::CompareIdentity(const Object& iObject, const ORXISpecObject_var& iReal) const
@@ -257,16 +265,15 @@ Difference Comparison::CompareAttribute(const Object& iObject, const Attribute& 
         if (size != static_cast<int>(iAttribute.objects.size()))
             return Unequal("size", std::to_string(iAttribute.objects.size()), std::to_string(size));
         for (int i = 1; i <= size; ++i)
-            if (const Difference difference =
-                    Pair(iAttribute.objects[static_cast<std::size_t>(i - 1)],
-                         ORXISpecObject_var::Adopt(real.access->GetSpecObject(real.key, i))))
+            if (const Difference difference = Pair(iAttribute.objects[static_cast<std::size_t>(i - 1)],
+                                                   ORXISpecObject_var::Adopt(real.access->GetSpecObject(real.key, i))))
                 return "entry " + std::to_string(i) + ": " + *difference;
         return std::nullopt;
     }
     for (const Twin::Value& value : iAttribute.values)
         expected.push_back(value.AsString());
     for (int i = 1; i <= size; ++i)
-        found.push_back(EntryText(real, iAttribute.entry, i));
+        found.push_back(EntryText(real, iAttribute, i));
     return Unequal("entries", Joined(expected), Joined(found));
 }
 
@@ -326,11 +333,10 @@ Difference Comparison::CompareDefaults(Object& ioObject, const ORXISpecObject_va
         const auto shown = [](bool iIsNull, bool iIsThere, const std::string& iText) {
             return iIsNull ? "(null)" : iIsThere ? "=" + iText : "(none)";
         };
-        const std::string foundText = !found ? shown(true, false, "")
-                                             : shown(false, found->IsValuated() != 0, found->AsString().CastToCharPtr());
-        const std::string expectedText =
-            shown(!expected.has_value(), expected.has_value() && expected->isThere,
-                  expected.has_value() ? expected->AsString() : "");
+        const std::string foundText =
+            !found ? shown(true, false, "") : shown(false, found->IsValuated() != 0, found->AsString().CastToCharPtr());
+        const std::string expectedText = shown(!expected.has_value(), expected.has_value() && expected->isThere,
+                                               expected.has_value() ? expected->AsString() : "");
         if (const Difference difference = Unequal("default of " + name, expectedText, foundText))
             return difference;
     }

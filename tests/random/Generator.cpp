@@ -7,21 +7,27 @@ namespace
 using Twin::Attribute;
 using Twin::Object;
 
-constexpr const char* NewTypes[] = {"RandomZone",     "RandomZone",   "RandomAlpha",      "RandomBeta",
-                                    "RandomMaterial", "RandomChoice", "RandomSimple",     "VYRCfdChoice",
-                                    "RandomBare",     "RandomGamma",  "VYRCfdDefaultManagement", "RandomSolver",
-                                    "VYRCfdConfigItem"};
+constexpr const char* NewTypes[] = {"RandomZone",     "RandomZone",      "RandomAlpha",  "RandomBeta",
+                                    "RandomMaterial", "RandomChoice",    "RandomSimple", "VYRCfdChoice",
+                                    "RandomHooked",   "RandomBare",      "RandomGamma",  "VYRCfdDefaultManagement",
+                                    "RandomSolver",   "VYRCfdConfigItem"};
 
-constexpr const char* GeneralTexts[] = {"",     "flow", "a b",   "0.25", " -2.5e1 ", "7",     "12abc",   "abc", "5 mm", "2 km",
-                                        "4 kg", "true", "False", "0",    "1",        "upwind", "central", "1e999", "300 K", "99999999999",
-                                        "made", "alpha", "kOmega", "0x1p3"};
+constexpr const char* GeneralTexts[] = {"",      "flow",   "a b",     "0.25",  " -2.5e1 ", "7",           "12abc",
+                                        "abc",   "5 mm",   "2 km",    "4 kg",  "true",     "False",       "0",
+                                        "1",     "upwind", "central", "1e999", "300 K",    "99999999999", "made",
+                                        "alpha", "kOmega", "0x1p3",   "keep",  "keep"};
 
-constexpr const char* ChoiceTexts[] = {"alpha", "beta", "gamma", "delta", "one", "two", "three",
-                                       "laminar", "kOmega", "sst", "x", "y", "nowhere", ""};
+constexpr const char* ChoiceTexts[] = {"alpha",   "beta",   "gamma", "delta", "one", "two",     "three",
+                                       "laminar", "kOmega", "sst",   "x",     "y",   "nowhere", ""};
 
-constexpr const char* StartupTexts[] = {"RandomAlpha", "RandomBeta", "RandomGamma",    "RandomBare",
-                                        "",            "NoType",     "RandomChoice",   "RandomMaterial",
-                                        "RandomAlpha", "RandomBeta", "RandomGamma"};
+constexpr const char* StartupTexts[] = {"RandomAlpha", "RandomBeta",   "RandomGamma",    "RandomBare",  "",
+                                        "NoType",      "RandomChoice", "RandomMaterial", "RandomAlpha", "RandomBeta",
+                                        "RandomGamma"};
+
+constexpr const char* AddedNames[] = {"extra", "more", "own", "iterations"};
+constexpr const char* FlagNames[] = {"value_isset", "value_isauto", "iterations_isset", "iterations_isauto",
+                                     "count_isset", "title_isauto", "own_isset"};
+constexpr const char* AddedKinds[] = {"integer", "real", "string", "reference", "component"};
 
 constexpr const char* Reals[] = {"0", "0.5", "-2.25", "0.1", "1e-07", "300", "1e+22", "1.5"};
 constexpr const char* Integers[] = {"0", "1", "2", "3", "-1", "4", "500", "2147483647"};
@@ -32,6 +38,25 @@ bool Suits(const Attribute& iAttribute, char iLetter)
     const bool isList = iAttribute.kind == Twin::Kind::List;
     const bool hasObjects = Twin::HoldsObjects(isList ? iAttribute.entry : iAttribute.kind);
     return isList == (iLetter == 'v' || iLetter == 'L') && hasObjects == (iLetter == 'L' || iLetter == 'O');
+}
+
+/// Whether an attribute is of a kind to be given the value that a letter stands for.
+bool Takes(const Attribute& iAttribute, char iLetter)
+{
+    const Twin::Kind kind = iAttribute.kind == Twin::Kind::List ? iAttribute.entry : iAttribute.kind;
+    switch (iLetter)
+    {
+    case 'i':
+        return kind == Twin::Kind::Integer || kind == Twin::Kind::Enumeration || kind == Twin::Kind::Real;
+    case 'r':
+        return kind == Twin::Kind::Real;
+    case 'b':
+        return kind == Twin::Kind::Boolean;
+    case 'z':
+        return kind == Twin::Kind::String;
+    default:
+        return true;
+    }
 }
 
 void Collect(Object* iObject, std::vector<Object*>& ioObjects)
@@ -96,25 +121,27 @@ Operation Generator::Next(TwoModels& ioModels)
     m_attribute = nullptr;
     m_choiceCount = 0;
     for (const char* letter = kind.signature; *letter != '\0'; ++letter)
-        operation.words.push_back(Word(*letter));
+        operation.words.push_back(Word(letter));
     return operation;
 }
 
-std::string Generator::Word(char iLetter)
+std::string Generator::Word(const char* iLetters)
 {
-    switch (iLetter)
+    switch (*iLetters)
     {
     case 'o':
     case 'd':
     case 'c':
     case 'm':
-        m_self = Target(iLetter);
+        m_self = Target(iLetters);
         return m_self != nullptr ? m_models->AddressOf(*m_self) : "#0";
     case 's':
     case 'v':
     case 'L':
     case 'O':
-        return Name(iLetter);
+        return m_attribute != nullptr && m_attribute == Twin::Host::Find(m_self, m_attribute->name) && !OneIn(25)
+                   ? m_attribute->name
+                   : Name(*iLetters);
     case 'x':
         return OperandAddress();
     case 'y':
@@ -140,30 +167,52 @@ std::string Generator::Word(char iLetter)
         return ChoiceList();
     case 'u':
         return Startups();
+    case 'N':
+        return AddedName();
+    case 'K':
+        return OneIn(3) ? "boolean" : Any(AddedKinds);
     default:
         return Any(RandomConfigurations()).name;
     }
 }
 
-Object* Generator::Target(char iLetter)
+/// One of the objects that stand for themselves, then one of what belongs to it; with an attribute that suits what is
+/// to be done, as far as one is soon found.
+Object* Generator::Target(const char* iLetters)
 {
-    // One of the objects that stand for themselves, then one of what belongs to it.
-    for (int attempt = 0; attempt < 50; ++attempt)
+    const Twin::Configurator& twin = m_models->Twin();
+    Object* found = nullptr;
+    for (int attempt = 0; attempt < 60; ++attempt)
     {
         Object* root = Any(m_models->Known());
-        Twin::Configurator& twin = m_models->Twin();
         if (!twin.IsInModel(*root))
             continue;
-        m_all.clear();
-        Collect(root, m_all);
-        std::erase_if(m_all, [&](const Object* iObject) {
-            return (iLetter == 'd' && !twin.HasDefaults(*iObject)) ||
-                   (iLetter == 'c' && !twin.IsChoice(*iObject)) || (iLetter == 'm' && !twin.IsManaged(*iObject));
+        std::vector<Object*> all;
+        Collect(root, all);
+        std::erase_if(all, [&](const Object* iObject) {
+            return (*iLetters == 'd' && !twin.HasDefaults(*iObject)) ||
+                   (*iLetters == 'c' && !twin.IsChoice(*iObject)) || (*iLetters == 'm' && !twin.IsManaged(*iObject));
         });
-        if (!m_all.empty())
-            return m_all[static_cast<std::size_t>(Below(static_cast<int>(m_all.size())))];
+        if (all.empty())
+            continue;
+        // What stands for itself as often as all that belongs to it.
+        found = OneIn(2) ? all.front() : Any(all);
+        m_attribute = AnyOf(*found, iLetters);
+        if (m_attribute != nullptr || std::string_view("svLO").find(iLetters[1]) == std::string_view::npos || OneIn(12))
+            break;
     }
-    return nullptr;
+    return found;
+}
+
+const Attribute* Generator::AnyOf(const Object& iObject, const char* iLetters)
+{
+    std::vector<const Attribute*> suited;
+    for (const auto& [name, attribute] : iObject.attributes)
+        // The sub-feature is left alone mostly: little works without it.
+        if (Suits(attribute, iLetters[1]) && Takes(attribute, iLetters[2]) &&
+            (name != "defaultManagement" || OneIn(12)))
+            suited.push_back(&attribute);
+    return suited.empty() ? nullptr : Any(suited);
 }
 
 std::string Generator::Name(char iLetter)
@@ -178,10 +227,13 @@ std::string Generator::Name(char iLetter)
     if (suited.empty())
         return Any(names);
     m_attribute = Any(suited);
-    // The sub-feature is left alone mostly: little works without it.
-    if (m_attribute->name == "defaultManagement" && !OneIn(15))
-        m_attribute = Any(suited);
     return m_attribute->name;
+}
+
+/// Names of flags are for sub-features, where they may get into the way.
+std::string Generator::AddedName()
+{
+    return m_self != nullptr && m_self->attributes.contains("configuration") ? Any(FlagNames) : Any(AddedNames);
 }
 
 std::string Generator::Text()
@@ -194,7 +246,8 @@ std::string Generator::Text()
 std::string Generator::Choice()
 {
     if (m_self != nullptr && !OneIn(5))
-        if (const Attribute* choices = Twin::Host::Find(m_self, "choices"); choices != nullptr && !choices->values.empty())
+        if (const Attribute* choices = Twin::Host::Find(m_self, "choices");
+            choices != nullptr && !choices->values.empty())
             return Any(choices->values).text;
     return Any(ChoiceTexts);
 }

@@ -29,9 +29,11 @@ private:
     }
 
     const OperationKind& Kind();
-    std::string Word(char iLetter);
-    Twin::Object* Target(char iLetter);
+    std::string Word(const char* iLetters);
+    Twin::Object* Target(const char* iLetters);
+    const Twin::Attribute* AnyOf(const Twin::Object& iObject, const char* iLetters);
     std::string Name(char iLetter);
+    std::string AddedName();
     std::string Text();
     std::string Choice();
     std::string ChoiceList();
@@ -43,8 +45,6 @@ private:
 
     std::uint64_t m_state;
     TwoModels* m_models = nullptr;
-    /// Objects with default management, Choices and managed ones in the model as it stands.
-    std::vector<Twin::Object*> m_all;
     /// Of the operation that is being made.
     Twin::Object* m_self = nullptr;
     const Twin::Attribute* m_attribute = nullptr;

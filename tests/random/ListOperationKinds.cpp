@@ -80,7 +80,8 @@ std::vector<OperationKind> StoreOperations()
             [](auto& t, auto& o, auto& a, auto& w) { return t.Move(o, a, w.objects[1], w.integers[0]); },
             [](auto& s, auto* k, auto& w) { return s.MoveInPosition(k, w.objects[1], w.integers[0]); }),
         OfStore(
-            "removeat", "oLn", 10, [](auto& t, auto& o, auto& a, auto& w) { return t.RemovePosition(o, a, w.integers[0]); },
+            "removeat", "oLn", 10,
+            [](auto& t, auto& o, auto& a, auto& w) { return t.RemovePosition(o, a, w.integers[0]); },
             [](auto& s, auto* k, auto& w) { return s.RemovePosition(k, w.integers[0]); }),
         OfStore(
             "removevalue", "ovn", 8,

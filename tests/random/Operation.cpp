@@ -29,10 +29,10 @@ Operation Operation::Parse(const std::string& iLine)
         operation.words.push_back(word);
     const OperationKind* kind = FindOperationKind(operation.verb);
     const bool isWhole = operation.verb == "save" || operation.verb == "drop";
-    const std::size_t count = isWhole                        ? 0
-                              : operation.verb == "create"   ? 1
-                              : kind != nullptr              ? std::string_view(kind->signature).size()
-                                                             : std::string::npos;
+    const std::size_t count = isWhole                      ? 0
+                              : operation.verb == "create" ? 1
+                              : kind != nullptr            ? std::string_view(kind->signature).size()
+                                                           : std::string::npos;
     if (count != operation.words.size())
         throw std::invalid_argument("no operation: " + iLine);
     return operation;

@@ -15,8 +15,8 @@
 
 /**
  * One operation as text, as in `store.text #3/zone outputs "a b" 2`. Objects are given by their number in the order in
- * which they were made by the run (of the initial model, then by "create"), or by the way from one: "#3/zones[2]" is the
- * second entry of the list `zones`. "null" is none. Words that are empty or hold blanks or quotes stand in quotes.
+ * which they were made by the run (of the initial model, then by "create"), or by the way from one: "#3/zones[2]" is
+ * the second entry of the list `zones`. "null" is none. Words that are empty or hold blanks or quotes stand in quotes.
  */
 struct Operation
 {
@@ -60,6 +60,7 @@ using RealArguments = OperationArguments<ORXISpecObject_var>;
  * | t      | text                                                                  |
  * | w z    | a choice; several, with commas (a lone "-" is none)                   |
  * | u      | startups, with commas                                                 |
+ * | N K    | name and kind of an attribute to be added                             |
  * | k      | name of a configuration                                               |
  * | T      | name of a type                                                        |
  */

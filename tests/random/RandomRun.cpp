@@ -1,43 +1,65 @@
 #include "RandomRun.h"
 
 #include <algorithm>
+#include <cctype>
 #include <fstream>
 #include <stdexcept>
 
 #include "Generator.h"
-#include "TwoModels.h"
+#include "RandomTypes.h"
+#include "VYRStandaloneInstruments.h"
 
 namespace
 {
-RunResult RunModel(std::uint64_t iSeed, long long iOperations)
+/// What is alive beyond a number of components, for a run whose models have gone.
+std::string Survivors(int iBefore)
+{
+    const int count = VYRStandalone::LiveComponents() - iBefore;
+    if (count == 0)
+        return "";
+    std::string text = std::to_string(count) + " components survive their model:";
+    for (const std::string& name : VYRStandalone::LiveComponentNames())
+        text += " " + name;
+    return text;
+}
+
+RunResult RunModel(std::uint64_t iSeed, long long iOperations, const TwinMaker& iMaker)
 {
     RunResult result;
     result.seed = iSeed;
-    TwoModels models;
-    Generator generator(iSeed);
-    Difference difference;
-    for (long long i = 1; i <= iOperations && !difference; ++i)
+    const int alive = VYRStandalone::LiveComponents();
     {
-        result.operations.push_back(generator.Next(models));
-        difference = models.Do(result.operations.back());
-        result.effective += models.HasRun() ? 1 : 0;
-        if (!difference && (i % 1000 == 0 || i == iOperations))
-            difference = models.CompareAll();
+        TwoModels models(iMaker);
+        Generator generator(iSeed);
+        Difference difference;
+        for (long long i = 1; i <= iOperations && !difference; ++i)
+        {
+            result.operations.push_back(generator.Next(models));
+            difference = models.Do(result.operations.back());
+            result.effective += models.HasRun() ? 1 : 0;
+            if (!difference && (i % 1000 == 0 || i == iOperations))
+                difference = models.CompareAll();
+        }
+        result.difference = difference.value_or("");
+        result.compared = models.Compared();
+        result.met = models.Met();
     }
-    result.difference = difference.value_or("");
-    result.compared = models.Compared();
+    if (result.difference.empty())
+        result.difference = Survivors(alive);
     return result;
 }
 } // namespace
 
-RunResult RunRandom(std::uint64_t iSeed, long long iOperations)
+RunResult RunRandom(std::uint64_t iSeed, long long iOperations, const TwinMaker& iMaker)
 {
     RunResult all;
     for (long long done = 0; done < iOperations; done += OperationsPerModel, ++iSeed)
     {
-        RunResult one = RunModel(iSeed, std::min<long long>(OperationsPerModel, iOperations - done));
+        RunResult one = RunModel(iSeed, std::min<long long>(OperationsPerModel, iOperations - done), iMaker);
         all.compared += one.compared;
         all.effective += one.effective;
+        for (const auto& [what, count] : one.met)
+            all.met[what] += count;
         if (one.difference.empty())
             continue;
         one.compared = all.compared;
@@ -47,42 +69,90 @@ RunResult RunRandom(std::uint64_t iSeed, long long iOperations)
     return all;
 }
 
-RunResult RunOperations(const std::vector<Operation>& iOperations)
+RunResult RunOperations(const std::vector<Operation>& iOperations, const TwinMaker& iMaker)
 {
     RunResult result;
-    TwoModels models;
-    for (const Operation& operation : iOperations)
+    const int alive = VYRStandalone::LiveComponents();
     {
-        result.operations.push_back(operation);
-        const Difference difference = models.Do(operation);
-        result.effective += models.HasRun() ? 1 : 0;
-        result.compared = models.Compared();
+        TwoModels models(iMaker);
+        Difference difference;
+        for (const Operation& operation : iOperations)
+        {
+            result.operations.push_back(operation);
+            difference = models.Do(operation);
+            result.effective += models.HasRun() ? 1 : 0;
+            if (difference)
+                break;
+        }
         if (!difference)
-            continue;
-        result.difference = *difference;
-        return result;
+            difference = models.CompareAll();
+        result.difference = difference.value_or("");
+        result.compared = models.Compared();
     }
-    result.difference = models.CompareAll().value_or("");
-    result.compared = models.Compared();
+    if (result.difference.empty())
+        result.difference = Survivors(alive);
     return result;
 }
 
-RunResult Shrink(const RunResult& iFailure)
+namespace
+{
+/// Without one operation. Objects that were made after one that is not made any more move up.
+std::vector<Operation> Without(const std::vector<Operation>& iOperations, std::size_t iIndex)
+{
+    std::vector<Operation> fewer = iOperations;
+    fewer.erase(fewer.begin() + static_cast<std::ptrdiff_t>(iIndex));
+    if (iOperations[iIndex].verb != "create")
+        return fewer;
+    const auto isCreation = [](const Operation& iOperation) { return iOperation.verb == "create"; };
+    const auto end = iOperations.begin() + static_cast<std::ptrdiff_t>(iIndex);
+    const int gone = static_cast<int>(RandomObjects().size()) + 1 +
+                     static_cast<int>(std::count_if(iOperations.begin(), end, isCreation));
+    for (Operation& operation : fewer)
+        for (std::string& word : operation.words)
+            for (std::size_t mark = word.find('#'); mark != std::string::npos; mark = word.find('#', mark + 1))
+            {
+                std::size_t length = 0;
+                while (mark + 1 + length < word.size() &&
+                       std::isdigit(static_cast<unsigned char>(word[mark + 1 + length])))
+                    ++length;
+                const int number = length == 0 ? 0 : std::stoi(word.substr(mark + 1, length));
+                if (number > gone)
+                    word.replace(mark + 1, length, std::to_string(number - 1));
+            }
+    return fewer;
+}
+
+/// Leaves out one operation after the other, as long as something still differs.
+void LeaveOut(RunResult& ioBest, const TwinMaker& iMaker)
+{
+    for (std::size_t i = ioBest.operations.size(); i-- > 0;)
+    {
+        RunResult result = RunOperations(Without(ioBest.operations, i), iMaker);
+        if (result.difference.empty())
+            continue;
+        ioBest.operations = std::move(result.operations);
+        ioBest.difference = std::move(result.difference);
+        i = std::min(i, ioBest.operations.size());
+    }
+}
+} // namespace
+
+RunResult Shrink(const RunResult& iFailure, const TwinMaker& iMaker)
 {
     RunResult best = iFailure;
-    for (std::size_t size = std::max<std::size_t>(best.operations.size() / 2, 1); size > 0; size /= 2)
+    for (std::size_t size = std::max<std::size_t>(best.operations.size() / 2, 2); size > 1; size /= 2)
     {
         bool isShorter = true;
         while (isShorter)
         {
             isShorter = false;
-            for (std::size_t from = 0; from < best.operations.size(); )
+            for (std::size_t from = 0; from < best.operations.size();)
             {
                 std::vector<Operation> fewer = best.operations;
                 const std::size_t end = std::min(from + size, fewer.size());
                 fewer.erase(fewer.begin() + static_cast<std::ptrdiff_t>(from),
                             fewer.begin() + static_cast<std::ptrdiff_t>(end));
-                RunResult result = RunOperations(fewer);
+                RunResult result = RunOperations(fewer, iMaker);
                 if (result.difference.empty())
                     from += size;
                 else
@@ -94,6 +164,12 @@ RunResult Shrink(const RunResult& iFailure)
             }
         }
     }
+    std::size_t before = 0;
+    do
+    {
+        before = best.operations.size();
+        LeaveOut(best, iMaker);
+    } while (best.operations.size() < before);
     return best;
 }
 

@@ -7,10 +7,11 @@
  */
 
 #include <cstdint>
+#include <map>
 #include <string>
 #include <vector>
 
-#include "Operation.h"
+#include "TwoModels.h"
 
 /// What a run has found, and how much it has done.
 struct RunResult
@@ -22,7 +23,9 @@ struct RunResult
     long long compared = 0;
     /// Operations that had something to work on.
     long long effective = 0;
-    /// Where the seed of the model that differs is needed again.
+    /// See TwoModels.
+    std::map<std::string, long long> met;
+    /// Of the last model.
     std::uint64_t seed = 0;
 };
 
@@ -30,13 +33,13 @@ struct RunResult
 constexpr int OperationsPerModel = 2000;
 
 /// Random operations on one model after the other. Ends at the first difference.
-RunResult RunRandom(std::uint64_t iSeed, long long iOperations);
+RunResult RunRandom(std::uint64_t iSeed, long long iOperations, const TwinMaker& iMaker = {});
 
-/// The given operations on one model, and a comparison of everything at the end.
-RunResult RunOperations(const std::vector<Operation>& iOperations);
+/// The given operations on one model, and a comparison of everything at the end. Nothing may survive the model.
+RunResult RunOperations(const std::vector<Operation>& iOperations, const TwinMaker& iMaker = {});
 
 /// Leaves out operations as long as something still differs. The last one stays the one that shows it.
-RunResult Shrink(const RunResult& iFailure);
+RunResult Shrink(const RunResult& iFailure, const TwinMaker& iMaker = {});
 
 /// A file of one operation a line; "#" at the head of a line begins a comment when a blank follows.
 /// @throws std::invalid_argument

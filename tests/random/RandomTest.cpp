@@ -4,6 +4,7 @@
  *
  * VYRCFD_RANDOM_OPERATIONS  how many operations; a few ten thousand otherwise
  * VYRCFD_RANDOM_SEED        the seed of the first model; models count on from there
+ * VYRCFD_RANDOM_MET         set to anything: print what was met, and how often
  * VYRCFD_RANDOM_REPLAY      a file of operations to run, as a failure prints them
  */
 
@@ -41,10 +42,42 @@ TEST(Random, OperationsOnTheModelAndItsTwin_LeaveThemEqual)
     const long long operations = Setting("VYRCFD_RANDOM_OPERATIONS", 20000);
     const auto seed = static_cast<std::uint64_t>(Setting("VYRCFD_RANDOM_SEED", 1));
     const RunResult result = RunRandom(seed, operations);
-    std::cout << "random: " << operations << " operations, " << result.effective << " of them with an object to work on, seed "
-              << seed << ", " << result.compared << " objects compared" << std::endl;
+    std::cout << "random: " << operations << " operations, " << result.effective
+              << " of them with an object to work on, seed " << seed << ", " << result.compared << " objects compared"
+              << std::endl;
     if (!result.difference.empty())
         FAIL() << Describe(Shrink(result));
+    // A generator that no longer reaches what it is for would find nothing, and say so.
+    if (operations >= 10000)
+    {
+        for (const char* what : {"answer apply S_OK",
+                                 "answer configure S_OK",
+                                 "answer choose S_OK",
+                                 "answer close S_OK",
+                                 "answer addchoices S_OK",
+                                 "answer reset S_OK",
+                                 "answer move S_OK",
+                                 "answer cursor.list S_OK",
+                                 "answer setdefault S_OK",
+                                 "answer setauto S_OK",
+                                 "answer takeaway ",
+                                 "answer add added",
+                                 "call dispatch",
+                                 "call create",
+                                 "call move",
+                                 "call take",
+                                 "call fix",
+                                 "call complete",
+                                 "saved and loaded",
+                                 "extensions dropped",
+                                 "report choices.size() == startups.size()",
+                                 "report spAttr",
+                                 "report spDefVal"})
+            EXPECT_GT(result.met.contains(what) ? result.met.at(what) : 0, 0) << what;
+    }
+    if (std::getenv("VYRCFD_RANDOM_MET") != nullptr)
+        for (const auto& [what, count] : result.met)
+            std::cout << "    " << count << " " << what << "\n";
 }
 
 TEST(Random, Replays_LeaveTheModelAndItsTwinEqual)

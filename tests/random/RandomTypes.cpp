@@ -3,8 +3,10 @@
 #include "ORXFillDictionary.h"
 #include "ORXTie.h"
 #include "TemporaryFolder.h"
+#include "TestChoice.h"
 #include "VYRCfdChoiceMgrAdp.h"
 #include "VYRCfdExtension.h"
+#include "VYRCfdObjectAccess.h"
 #include "VYRStandaloneCatalog.h"
 #include "VYRStandaloneServices.h"
 
@@ -33,6 +35,10 @@ constexpr const char* Types = R"({ "catalog": "Random", "uses": ["VYRCfdBase"], 
         "Startups": ["RandomAlpha", "RandomBeta", "RandomGamma", ""], "value": "alpha", "display": "Model" } },
     { "name": "RandomSimple", "base": "RandomManaged", "startup": {
         "choices": ["one", "two", "three"], "value": "two" } },
+    { "name": "ChoiceTestHooked", "base": "VYRCfdChoice" },
+    { "name": "RandomHooked", "base": "ChoiceTestHooked", "startup": {
+        "choices": ["alpha", "beta", "gamma"], "Startups": ["RandomAlpha", "RandomBeta", "NoType"],
+        "value": "beta" } },
     { "name": "RandomZone", "base": "VYRCfdValues", "attributes": [
         { "name": "temperature", "kind": "real", "unit": "K", "default": 300.0 },
         { "name": "layers", "kind": "integer", "default": 3 },
@@ -51,6 +57,8 @@ constexpr const char* Types = R"({ "catalog": "Random", "uses": ["VYRCfdBase"], 
         { "name": "ratios", "kind": "list", "of": "real", "default": [0.5, 1.0] },
         { "name": "counts", "kind": "list", "of": "integer", "default": [1, 2, 3] },
         { "name": "switches", "kind": "list", "of": "boolean", "default": [true, false] },
+        { "name": "schemes", "kind": "list", "of": "enumeration", "values": ["fine", "coarse"],
+          "default": ["coarse", "fine", "fine"] },
         { "name": "zone", "kind": "component", "type": "RandomZone" },
         { "name": "zones", "kind": "list", "of": "component" },
         { "name": "links", "kind": "list", "of": "reference" },
@@ -88,13 +96,32 @@ private:
     }
 };
 
+/// A hooked Choice that shows the text "keep" keeps a value that is none of its choices.
+bool KeepsNothing(TestChoice& ioSelf)
+{
+    ORXUnicodeString display;
+    VYRCfdObjectAccess(ORXBaseUnknown_var::Share(ioSelf.GetImpl(0)))["display"].GetString(display);
+    return !(display == "keep");
+}
+
 constexpr const char* Files[] = {
-    "SolverConfigurations.json",       "SolverConfigurations_dxSlope.json", "conditionsConfig_Flow.json",
-    "conditionsConfig_Energy.json",    "conditionsConfig_Turbulence.json",  "conditionsConfig_Species.json",
-    "conditionsConfig_Phase.json",     "solverConfig_Flow.json",            "solverConfig_Energy.json",
-    "solverConfig_Turbulence.json",    "solverConfig_MultiSpecies.json",    "measurementsConfig.json",
-    "solverConfig_Radiation.json",     "conditionsConfig_Radiation.json",   "conditionsConfig_ECooling.json",
-    "solverConfig_MultiPhase.json",    "meshFYEConfig.json",
+    "SolverConfigurations.json",
+    "SolverConfigurations_dxSlope.json",
+    "conditionsConfig_Flow.json",
+    "conditionsConfig_Energy.json",
+    "conditionsConfig_Turbulence.json",
+    "conditionsConfig_Species.json",
+    "conditionsConfig_Phase.json",
+    "solverConfig_Flow.json",
+    "solverConfig_Energy.json",
+    "solverConfig_Turbulence.json",
+    "solverConfig_MultiSpecies.json",
+    "measurementsConfig.json",
+    "solverConfig_Radiation.json",
+    "conditionsConfig_Radiation.json",
+    "conditionsConfig_ECooling.json",
+    "solverConfig_MultiPhase.json",
+    "meshFYEConfig.json",
 };
 
 std::string Json(const RandomItem& iItem)
@@ -168,8 +195,7 @@ const std::vector<RandomConfiguration>& RandomConfigurations()
           {{{"path", "steady"}, {"type", "boolean"}, {"default", "false"}}},
           {{{"path", "title"}, {"type", "string"}, {"default", "made"}}},
           {{{"path", "seed"}, {"type", "integer"}, {"default", "abc"}}}}},
-        {"twice",
-         {{{{"path", "iterations"}, {"default", "41"}}}, {{{"path", "iterations"}, {"default", "42"}}}}},
+        {"twice", {{{{"path", "iterations"}, {"default", "41"}}}, {{{"path", "iterations"}, {"default", "42"}}}}},
         {"autos",
          {{{{"path", "iterations"}, {"type", "integer"}, {"default", "60"}, {"defaultAutoKey", "auto"}}},
           {{{"path", "relaxation"}, {"type", "real"}, {"default", "12abc"}, {"defaultAutoKey", "auto"}}},
@@ -179,8 +205,7 @@ const std::vector<RandomConfiguration>& RandomConfigurations()
         {"unknown", {{{{"path", "nothing"}, {"default", "1"}}}}},
         {"unnamed", {{{{"default", "1"}}}}},
         {"count", {{{{"path", "count"}, {"type", "integer"}, {"default", "40"}}}}},
-        {"countAndLabel",
-         {{{{"path", "count"}, {"default", "50"}}}, {{{"path", "label"}, {"default", "made"}}}}},
+        {"countAndLabel", {{{{"path", "count"}, {"default", "50"}}}, {{{"path", "label"}, {"default", "made"}}}}},
         {"label", {{{{"path", "label"}, {"type", "string"}, {"default", "labelled"}}}}},
         {"zone",
          {{{{"path", "temperature"}, {"type", "real"}, {"default", "350"}}},
@@ -249,6 +274,8 @@ void SetUpRandomTypes()
     VYRStandalone::DeclareCatalog(Types, "random");
     static const bool isRegistered = [] {
         RandomManager::Register();
+        TestChoice::Register();
+        TestChoice::Hooks().fix = KeepsNothing;
         return true;
     }();
     static_cast<void>(isRegistered);
@@ -266,6 +293,7 @@ const std::vector<std::string>& RandomObjects()
                                                                                   {"RandomSimple", 6},
                                                                                   {"VYRCfdChoice", 6},
                                                                                   {"RandomManaged", 2},
+                                                                                  {"RandomHooked", 6},
                                                                                   {"RandomAlpha", 3},
                                                                                   {"RandomBeta", 3},
                                                                                   {"VYRCfdValues", 2},

@@ -106,11 +106,19 @@ HRESULT Choices::UpdateChoice(Object& ioChoice, const std::string& iDefault)
     {
         bool isSet = false;
         IsSet(ioChoice, "value", isSet);
+        if (IsHooked(ioChoice))
+        {
+            Line("fix");
+            if (Find(&ioChoice, "display")->value.AsString() == "keep")
+                return S_OK;
+        }
         if (isSet)
             Unset(ioChoice, "value");
     }
     ApplyRecords(ioChoice);
     const bool wasValueChange = std::exchange(ioChoice.wasValueChange, false);
+    if (IsHooked(ioChoice))
+        Line(std::string("complete ") + (wasValueChange ? "true" : "false") + (isDataChanged ? " true" : " false"));
     if (isDataChanged || wasValueChange)
         Line("dispatch " + PathOf(ioChoice));
     return S_OK;
@@ -125,6 +133,8 @@ void Choices::TakeData(Object& ioChoice)
 void Choices::UpdateData(Object& ioChoice, const std::string& iStartup, bool& ioDataChange)
 {
     Attribute& data = *Find(&ioChoice, "Data");
+    if (IsHooked(ioChoice))
+        Line(iStartup.empty() ? "data" : "data " + iStartup);
     if (iStartup.empty())
     {
         if (data.object == nullptr)
@@ -136,6 +146,8 @@ void Choices::UpdateData(Object& ioChoice, const std::string& iStartup, bool& io
     if (data.object != nullptr && data.object->type == iStartup)
         return;
     ioDataChange = true;
+    if (IsHooked(ioChoice))
+        Line("name " + iStartup);
     std::string name = Find(&ioChoice, "dataName")->value.AsString();
     if (name.empty())
         name = iStartup + "Inst";

@@ -14,20 +14,22 @@ class Choices : public DefaultManagement
 {
 public:
     bool IsChoice(const Object& iObject) const { return IsKindOf(iObject, "VYRCfdChoice"); }
+    /// Of the class of the tests whose hooks show themselves.
+    bool IsHooked(const Object& iObject) const { return IsKindOf(iObject, "ChoiceTestHooked"); }
     bool IsManaged(const Object& iObject) const { return IsKindOf(iObject, "RandomManaged"); }
 
     HRESULT Configure(Object& ioChoice, const Texts& iChoices, const Texts& iStartups, const std::string& iDefault,
                       const std::string& iDisplay);
     HRESULT SetChoice(Object& ioChoice, const std::string& iChoice);
-    HRESULT StartConfiguration(Object& ioChoice);
-    HRESULT CompleteConfiguration(Object& ioChoice);
+    virtual HRESULT StartConfiguration(Object& ioChoice);
+    virtual HRESULT CompleteConfiguration(Object& ioChoice);
     HRESULT UpdateChoice(Object& ioChoice, const std::string& iDefault) override;
 
     HRESULT ConfigureManaged(Object& ioChoice, const Texts& iChoices, const std::string& iDefault,
                              const std::string& iDisplay);
     HRESULT Reset(Object& ioChoice, bool iKeepValue);
     HRESULT Prohibit(Object& ioChoice, const std::set<std::string>& iProhibited);
-    HRESULT AddChoices(Object& ioChoice, const std::set<std::string>& iAdded);
+    virtual HRESULT AddChoices(Object& ioChoice, const std::set<std::string>& iAdded);
 
 protected:
     void Advise(Object& ioObject, const std::string& iName, bool iIsThere, bool iIsTrue) override;

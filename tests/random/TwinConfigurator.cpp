@@ -130,11 +130,10 @@ HRESULT Configurator::ApplyDefault(Object& ioObject, const RandomItem& iItem, Re
 void Configurator::ApplyConditional(Object& ioObject, const RandomItem& iItem, Records& ioRecords)
 {
     Object* record = MakeRecord();
-    const Object* target =
-        GetByPath(ApplyCondition(At(&ioObject), iItem.Text("condition")), iItem.Text("path")).object;
-    WriteRecord(*record, {{"path", iItem.Text("path")},
-                          {"condition", iItem.Text("condition")},
-                          {"config", iItem.Text("config")}});
+    const Object* target = GetByPath(ApplyCondition(At(&ioObject), iItem.Text("condition")), iItem.Text("path")).object;
+    WriteRecord(
+        *record,
+        {{"path", iItem.Text("path")}, {"condition", iItem.Text("condition")}, {"config", iItem.Text("config")}});
     ioRecords.push_back(record);
     if (target != nullptr)
         Apply(const_cast<Object*>(target), iItem.Text("config"));

@@ -40,7 +40,7 @@ public:
 
     HRESULT GetStrings(const Place& iPlace, Texts& oTexts);
     HRESULT SetStrings(const Place& iPlace, const Texts& iTexts);
-    HRESULT SetList(const Place& iPlace, const std::vector<Object*>& iObjects);
+    virtual HRESULT SetList(const Place& iPlace, const std::vector<Object*>& iObjects);
     HRESULT SetObjectAt(const Place& iPlace, Object* iValue, int iIndex);
     HRESULT Remove(const Place& iPlace, Object* iValue);
     HRESULT RemoveEntry(const Place& iPlace, int iIndex);

@@ -6,6 +6,12 @@ namespace
 {
 /// Without a sub-feature there is nothing to stand on.
 constexpr const char* NoFlags = "spAttr";
+
+/// An attribute of another kind that bears the name of a flag reads as false.
+bool IsTrue(const Attribute& iFlag)
+{
+    return iFlag.kind == Kind::Boolean && iFlag.value.integer != 0;
+}
 } // namespace
 
 bool DefaultManagement::HasDefaults(const Object& iObject) const
@@ -35,11 +41,11 @@ HRESULT DefaultManagement::IsSet(Object& ioObject, const std::string& iName, boo
         return Fail(NoFlags);
     const std::string name = iName + "_isset";
     if (const Attribute* flag = Find(flags, name))
-        oIsSet = flag->value.integer != 0;
+        oIsSet = IsTrue(*flag);
     else
     {
-        Add(*flags, name);
-        SetAdded(*flags, name, false);
+        AddAttribute(*flags, name, Kind::Boolean);
+        SetFlag(*flags, name, false);
     }
     return S_OK;
 }
@@ -55,9 +61,8 @@ HRESULT DefaultManagement::SetIsSet(Object& ioObject, const std::string& iName, 
         return Fail(NoFlags);
     const std::string name = iName + "_isset";
     if (Find(defaults.flags, name) == nullptr)
-        Add(*defaults.flags, name);
-    SetAdded(*defaults.flags, name, iIsSet);
-    return S_OK;
+        AddAttribute(*defaults.flags, name, Kind::Boolean);
+    return SetFlag(*defaults.flags, name, iIsSet);
 }
 
 HRESULT DefaultManagement::HasAuto(Object& ioObject, const std::string& iName, bool& oHas)
@@ -81,7 +86,7 @@ HRESULT DefaultManagement::GetIsAuto(Object& ioObject, const std::string& iName,
     if (flags == nullptr)
         return Fail(NoFlags);
     const Attribute* flag = Find(flags, iName + "_isauto");
-    oIsAuto = flag != nullptr && flag->value.integer != 0;
+    oIsAuto = flag != nullptr && IsTrue(*flag);
     return S_OK;
 }
 
@@ -97,9 +102,11 @@ HRESULT DefaultManagement::SetIsAuto(Object& ioObject, const std::string& iName,
     const std::string name = iName + "_isauto";
     const bool isThere = Find(defaults.flags, name) != nullptr;
     if (!isThere)
-        Add(*defaults.flags, name);
+        AddAttribute(*defaults.flags, name, Kind::Boolean);
     defaults.isUpdating = true;
-    SetAdded(*defaults.flags, name, iIsAuto);
+    // The guard stays up when the flag is none: from then on flags are left alone.
+    if (SetFlag(*defaults.flags, name, iIsAuto) < 0)
+        return Fail("spAttr->SetBoolean(spKey, iIsAuto)");
     if (isThere && iIsAuto)
         Unset(ioObject, iName);
     defaults.isUpdating = false;

@@ -16,13 +16,13 @@ public:
     /// Values features and Choices have it.
     bool HasDefaults(const Object& iObject) const;
 
-    HRESULT IsSet(Object& ioObject, const std::string& iName, bool& oIsSet);
+    virtual HRESULT IsSet(Object& ioObject, const std::string& iName, bool& oIsSet);
     HRESULT SetIsSet(Object& ioObject, const std::string& iName, bool iIsSet);
     HRESULT HasAuto(Object& ioObject, const std::string& iName, bool& oHas);
     HRESULT GetIsAuto(Object& ioObject, const std::string& iName, bool& oIsAuto);
-    HRESULT SetIsAuto(Object& ioObject, const std::string& iName, bool iIsAuto);
+    virtual HRESULT SetIsAuto(Object& ioObject, const std::string& iName, bool iIsAuto);
     HRESULT Unset(Object& ioObject, const std::string& iName);
-    HRESULT GetDefault(Object& ioObject, const std::string& iName, std::optional<Value>& oValue);
+    virtual HRESULT GetDefault(Object& ioObject, const std::string& iName, std::optional<Value>& oValue);
     HRESULT SetCustomDefault(Object& ioObject, const std::string& iName, const std::string& iValue);
     HRESULT SetCustomDefaultValue(Object& ioObject, const std::string& iName, const std::optional<Value>& iValue);
     HRESULT RemoveCustomDefault(Object& ioObject, const std::string& iName);

@@ -371,21 +371,23 @@ HRESULT Host::Store(Object& ioObject, Attribute& ioAttribute, const Value& iGive
     return S_OK;
 }
 
-Attribute& Host::Add(Object& ioObject, const std::string& iName)
+bool Host::AddAttribute(Object& ioObject, const std::string& iName, Kind iKind)
 {
     Line("add " + PathOf(ioObject) + "." + iName);
     Touch(ioObject);
+    if (const Attribute* former = Find(&ioObject, iName))
+        return former->kind == iKind;
     Attribute& added = ioObject.attributes[iName];
     added.name = iName;
-    added.kind = Kind::Boolean;
+    added.kind = iKind;
     added.isAdded = true;
-    added.value = Unset(Kind::Boolean, "");
-    return added;
+    added.value = Unset(iKind, "");
+    return true;
 }
 
-void Host::SetAdded(Object& ioObject, const std::string& iName, bool iValue)
+HRESULT Host::SetFlag(Object& ioObject, const std::string& iName, bool iValue)
 {
-    Store(ioObject, *Find(&ioObject, iName), Of(iValue), 0);
+    return Store(ioObject, *Find(&ioObject, iName), Of(iValue), 0);
 }
 
 HRESULT Host::Fail(const std::string& iText)

@@ -83,8 +83,8 @@ struct Attribute
     std::optional<Texts> allowed;
 };
 
-/// What default management keeps about one object in memory. `isMade` is whether it has been asked for yet: it takes the
-/// sub-feature that stands there at that moment, and keeps it.
+/// What default management keeps about one object in memory. `isMade` is whether it has been asked for yet: it takes
+/// the sub-feature that stands there at that moment, and keeps it.
 struct Defaults
 {
     bool isMade = false;
@@ -133,6 +133,9 @@ public:
     const std::vector<Object*>& TopLevel() const { return m_top; }
     bool RefersToStrays() const;
 
+    /// An attribute for one object alone. False when it carries one of the name and another kind.
+    bool AddAttribute(Object& ioObject, const std::string& iName, Kind iKind);
+
     // ---- values -----------------------------------------------------------------------------------------------------
 
     /// The parameter's road: by kind of what is given, texts are read. Null for an attribute without a parameter.
@@ -174,8 +177,7 @@ protected:
     /// Whether the object has an extension that is told.
     virtual bool Listens(const Object& iObject) const = 0;
 
-    Attribute& Add(Object& ioObject, const std::string& iName);
-    void SetAdded(Object& ioObject, const std::string& iName, bool iValue);
+    HRESULT SetFlag(Object& ioObject, const std::string& iName, bool iValue);
     void Line(const std::string& iLine) { m_lines.push_back(iLine); }
     void Report(const std::string& iText) { m_reports.push_back(iText); }
     HRESULT Fail(const std::string& iText);

@@ -124,6 +124,10 @@ void Host::DeclareTypes()
           {"RandomAlpha", "RandomBeta", "RandomGamma", ""}, "alpha", "Model");
     Offer(Declare("RandomSimple", "RandomManaged"), {"one", "two", "three"}, {}, "two", "");
 
+    Declare("ChoiceTestHooked", "VYRCfdChoice");
+    Offer(Declare("RandomHooked", "ChoiceTestHooked"), {"alpha", "beta", "gamma"},
+          {"RandomAlpha", "RandomBeta", "NoType"}, "beta", "");
+
     Object& zone = Declare("RandomZone", "VYRCfdValues");
     real(zone, "temperature", 300.0, "K");
     integer(zone, "layers", 3);
@@ -147,6 +151,14 @@ void Host::DeclareTypes()
     ListOf(solver, "ratios", Kind::Real).values = {Of(0.5), Of(1.0)};
     ListOf(solver, "counts", Kind::Integer).values = {Of(1), Of(2), Of(3)};
     ListOf(solver, "switches", Kind::Boolean).values = {Of(true), Of(false)};
+    Attribute& schemes = ListOf(solver, "schemes", Kind::Enumeration);
+    schemes.texts = {"fine", "coarse"};
+    for (const int number : {2, 1, 1})
+    {
+        schemes.values.push_back(Of(schemes.texts[static_cast<std::size_t>(number - 1)]));
+        schemes.values.back().kind = Kind::Enumeration;
+        schemes.values.back().integer = number;
+    }
     Part(solver, "zone", "RandomZone");
     Find(Find(&solver, "zone")->object, "temperature")->value.real = 320.0;
     ListOf(solver, "zones", Kind::Component);

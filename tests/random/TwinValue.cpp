@@ -1,7 +1,7 @@
 #include <charconv>
+#include <climits>
 #include <cmath>
 #include <cstdlib>
-#include <climits>
 
 #include "TwinHost.h"
 

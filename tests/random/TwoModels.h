@@ -6,14 +6,20 @@
  * The twin and the real model, side by side: the same operations on both, and what differs afterwards.
  */
 
+#include <functional>
+#include <memory>
+
 #include "Comparison.h"
 #include "Operation.h"
+
+/// Makes the twin; empty makes the one that is right.
+using TwinMaker = std::function<std::unique_ptr<Twin::Configurator>()>;
 
 class TwoModels
 {
 public:
-    /// Both hold the initial objects. Nothing has been compared.
-    TwoModels();
+    /// Both hold the initial objects, which have been compared.
+    explicit TwoModels(const TwinMaker& iMaker = {});
 
     /**
      * Does an operation on both, and compares: the answer, the reports, the calls and notifications in their order, and
@@ -24,13 +30,15 @@ public:
     /// Compares everything.
     Difference CompareAll() { return m_comparison.CompareAll(m_real, false); }
 
-    Twin::Configurator& Twin() { return m_twin; }
+    Twin::Configurator& Twin() { return *m_twin; }
     /// Objects by which operations are addressed, in their order.
     const std::vector<Twin::Object*>& Known() const { return m_known; }
     /// How an object of the twin is written in an operation; empty when there is no way to it.
     std::string AddressOf(const Twin::Object& iObject) const;
 
     long long Compared() const { return m_comparison.Compared(); }
+    /// What was met, and how often: answers by verb, calls and notifications by their first word, reports.
+    const std::map<std::string, long long>& Met() const { return m_met; }
     /// Whether the last operation did something.
     bool HasRun() const { return m_hasRun; }
 
@@ -44,10 +52,11 @@ private:
     void Know(Twin::Object* ioObject);
     Difference CompareRecords(const std::vector<std::string>& iRealLines);
 
-    Twin::Configurator m_twin;
+    std::unique_ptr<Twin::Configurator> m_twin;
     VYRStandalone::Model m_real;
     Comparison m_comparison;
     std::vector<Twin::Object*> m_known;
+    std::map<std::string, long long> m_met;
     bool m_hasRun = false;
 };
 

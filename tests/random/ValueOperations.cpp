@@ -4,6 +4,7 @@
  */
 
 #include "ORXCkeGlobalFunctions.h"
+#include "ORXISpecAttribute.h"
 #include "Operation.h"
 #include "RealAccess.h"
 
@@ -49,8 +50,7 @@ OperationKind Valuation(const char* iVerb, const char* iSignature)
                 return "";
             },
             [kind](const RealArguments& iArguments) -> std::string {
-                const ORXICkeParm_var parameter =
-                    RealAttribute(iArguments.Self(), iArguments.Name()).Parameter();
+                const ORXICkeParm_var parameter = RealAttribute(iArguments.Self(), iArguments.Name()).Parameter();
                 if (!parameter)
                     return NoParameter;
                 if (kind == 'i')
@@ -110,9 +110,8 @@ OperationKind CursorWrite(const char* iVerb, const char* iSignature)
                 return StatusText(ioTwin.SetString(place, iArguments.texts[1]));
             },
             [kind](const RealArguments& iArguments) -> std::string {
-                const VYRCfdObjectAccess place =
-                    VYRCfdObjectAccess(ORXBaseUnknown_var(iArguments.Self()))[ORXUnicodeString(
-                        iArguments.Name().c_str())];
+                const VYRCfdObjectAccess place = VYRCfdObjectAccess(
+                    ORXBaseUnknown_var(iArguments.Self()))[ORXUnicodeString(iArguments.Name().c_str())];
                 if (kind == 'i')
                     return StatusText(place.SetInteger(iArguments.integers[0]));
                 if (kind == 'r')
@@ -134,9 +133,8 @@ OperationKind EntryWrite(const char* iVerb, const char* iSignature)
                 return StatusText(ioTwin.SetEntry(place, Given(kind, iArguments), iArguments.integers[position]));
             },
             [kind, position](const RealArguments& iArguments) -> std::string {
-                const VYRCfdObjectAccess place =
-                    VYRCfdObjectAccess(ORXBaseUnknown_var(iArguments.Self()))[ORXUnicodeString(
-                        iArguments.Name().c_str())];
+                const VYRCfdObjectAccess place = VYRCfdObjectAccess(
+                    ORXBaseUnknown_var(iArguments.Self()))[ORXUnicodeString(iArguments.Name().c_str())];
                 const int index = iArguments.integers[position];
                 if (kind == 'i')
                     return StatusText(place.SetInteger(iArguments.integers[0], index));
@@ -206,6 +204,39 @@ std::string FromStringOnReal(const RealArguments& iArguments)
     return "";
 }
 
+constexpr struct
+{
+    const char* name;
+    Twin::Kind kind;
+    int code;
+} AddedKinds[] = {{"boolean", Twin::Kind::Boolean, tk_boolean},
+                  {"integer", Twin::Kind::Integer, tk_integer},
+                  {"real", Twin::Kind::Real, tk_double},
+                  {"string", Twin::Kind::String, tk_string},
+                  {"reference", Twin::Kind::Reference, tk_specobject},
+                  {"component", Twin::Kind::Component, tk_component}};
+
+const auto& AddedKind(const std::string& iName)
+{
+    for (const auto& kind : AddedKinds)
+        if (iName == kind.name)
+            return kind;
+    return AddedKinds[0];
+}
+
+std::string AddOnTwin(Configurator& ioTwin, const TwinArguments& iArguments)
+{
+    return ioTwin.AddAttribute(*iArguments.Self(), iArguments.Name(), AddedKind(iArguments.texts[1]).kind) ? "added"
+                                                                                                           : "refused";
+}
+
+std::string AddOnReal(const RealArguments& iArguments)
+{
+    const ORXISpecAttribute_var added = ORXISpecAttribute_var::Adopt(
+        iArguments.Self()->AddAttribute(iArguments.Name().c_str(), AddedKind(iArguments.texts[1]).code, 0));
+    return !added ? "refused" : "added";
+}
+
 /// What a panel offers, changed behind the module's back.
 std::string AllowOnTwin(Configurator& ioTwin, const TwinArguments& iArguments)
 {
@@ -235,16 +266,27 @@ std::string AllowOnReal(const RealArguments& iArguments)
 std::vector<OperationKind> ValueOperations()
 {
     return {
-        Valuation("valuate.int", "osi"),    Valuation("valuate.real", "osr"),
-        Valuation("valuate.bool", "osb"),   Valuation("valuate.text", "ost"),
-        Storing("store.int", "osin"),       Storing("store.real", "osrn"),
-        Storing("store.bool", "osbn"),      Storing("store.text", "ostn"),
-        Storing("entry.int", "ovin"),       Storing("entry.real", "ovrn"),
-        Storing("entry.bool", "ovbn"),      Storing("entry.text", "ovtn"),
-        CursorWrite("cursor.int", "osi"),   CursorWrite("cursor.real", "osr"),
-        CursorWrite("cursor.bool", "osb"),  CursorWrite("cursor.text", "ost"),
-        EntryWrite("place.int", "ovin"),    EntryWrite("place.real", "ovrn"),
-        EntryWrite("place.bool", "ovbn"),   EntryWrite("place.text", "ovtn"),
+        Valuation("valuate.int", "osi"),
+        Valuation("valuate.real", "osr"),
+        Valuation("valuate.bool", "osb"),
+        Valuation("valuate.text", "ost"),
+        Storing("store.int", "osin"),
+        Storing("store.real", "osrn"),
+        Storing("store.bool", "osbn"),
+        Storing("store.text", "ostn"),
+        Storing("entry.int", "ovin"),
+        Storing("entry.real", "ovrn"),
+        Storing("entry.bool", "ovbn"),
+        Storing("entry.text", "ovtn"),
+        CursorWrite("cursor.int", "osi"),
+        CursorWrite("cursor.real", "osr"),
+        CursorWrite("cursor.bool", "osb"),
+        CursorWrite("cursor.text", "ost"),
+        EntryWrite("place.int", "ovin"),
+        EntryWrite("place.real", "ovrn"),
+        EntryWrite("place.bool", "ovbn"),
+        EntryWrite("place.text", "ovtn"),
+        {"add", "oNK", 8, AddOnTwin, AddOnReal},
         {"takeaway", "os", 40, TakeAwayFromTwin, TakeAwayFromReal},
         {"copy", "osos", 20, CopyOnTwin, CopyOnReal},
         {"fromstring", "ost", 10, FromStringOnTwin, FromStringOnReal},
