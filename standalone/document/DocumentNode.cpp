@@ -14,11 +14,11 @@ std::string_view ViewOf(const rapidjson::Value& iText)
     return {iText.GetString(), iText.GetStringLength()};
 }
 
-/// As in a JSON pointer, so that a "/" in a name cannot be taken for a step.
+/// As in a JSON pointer, so that a "/" in a name cannot be taken for a step. For readers: a long key is cut.
 std::string Escaped(std::string_view iKey)
 {
     std::string escaped;
-    for (const char character : iKey)
+    for (const char character : Shortened(iKey))
     {
         if (character == '~')
             escaped += "~0";

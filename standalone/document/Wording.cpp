@@ -53,15 +53,20 @@ std::string_view MostLike(std::string_view iText, const std::vector<std::string>
 
 namespace VYRStandalone
 {
-std::string Quoted(std::string_view iText)
+std::string Shortened(std::string_view iText)
 {
     if (iText.size() <= LongestQuote)
-        return '"' + std::string(iText) + '"';
+        return std::string(iText);
     // Not in the middle of a character.
     std::size_t end = LongestQuote;
     while (end > 0 && (static_cast<unsigned char>(iText[end]) & 0xC0U) == 0x80U)
         --end;
-    return '"' + std::string(iText.substr(0, end)) + "...\"";
+    return std::string(iText.substr(0, end)) + "...";
+}
+
+std::string Quoted(std::string_view iText)
+{
+    return '"' + Shortened(iText) + '"';
 }
 
 std::string QuotedList(const std::vector<std::string>& iTexts)

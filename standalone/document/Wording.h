@@ -12,6 +12,9 @@
 
 namespace VYRStandalone
 {
+/// A long text is cut, and ends in points.
+std::string Shortened(std::string_view iText);
+
 /// In quotation marks; a long text is cut.
 std::string Quoted(std::string_view iText);
 

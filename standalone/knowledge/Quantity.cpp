@@ -7,6 +7,7 @@
 #include <memory>
 #include <mutex>
 #include <unordered_map>
+#include <unordered_set>
 
 #include <udunits2.h>
 
@@ -66,6 +67,8 @@ struct UnitTable
     std::map<std::string, const Quantity*> quantities;
     /// By SI unit, a line break and the unit.
     std::unordered_map<std::string, Conversion> conversions;
+    /// The same for texts that are no unit: the library loses some memory at each of them.
+    std::unordered_set<std::string> refused;
 
     /// Null when the library's own files are missing.
     ut_system* System()
@@ -211,12 +214,19 @@ bool Quantity::Convert(std::string_view iUnit, double iNumber, double& oValue) c
     const std::string entry = m_siUnit + '\n' + name;
     UnitTable& table = Table();
     const std::lock_guard<std::mutex> lock(table.mutex);
+    if (table.refused.count(entry) != 0)
+        return false;
     auto known = table.conversions.find(entry);
     if (known == table.conversions.end())
     {
         const Parts parts = Analyse(table.System(), name);
         if (parts.coherent == nullptr || ut_compare(parts.coherent.get(), m_unit) != 0)
+        {
+            if (table.refused.size() >= MostRemembered)
+                table.refused.clear();
+            table.refused.insert(entry);
             return false;
+        }
         if (table.conversions.size() >= MostRemembered)
             table.conversions.clear();
         known = table.conversions.emplace(entry, parts.conversion).first;
