@@ -18,7 +18,7 @@ std::string_view ViewOf(const rapidjson::Value& iText)
 std::string Escaped(std::string_view iKey)
 {
     std::string escaped;
-    for (const char character : Shortened(iKey))
+    for (const char character : VYRStandalone::Shortened(iKey))
     {
         if (character == '~')
             escaped += "~0";
