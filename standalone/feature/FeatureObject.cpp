@@ -35,6 +35,8 @@ FeatureObject::~FeatureObject()
     // While the attributes are still there, since destructors of extensions may look at them.
     m_extensions.Clear();
     DropSlots();
+    // Behind that, since what it owned and what lives on takes its place among the strays.
+    LeaveStrays();
     m_block->Drop();
     if (!m_isPrototype)
         Census::Died(Census::FeatureObject);
@@ -278,7 +280,6 @@ thread_local constinit Dying dying;
 void FeatureObject::Die()
 {
     m_isDying = true;
-    LeaveStrays();
     m_nextDying = dying.first;
     dying.first = this;
     if (dying.isBusy)
@@ -319,7 +320,10 @@ void FeatureObject::Lost(FeatureObject& ioChild) noexcept
         return;
     ioChild.m_owner = nullptr;
     ioChild.m_ownerKey = nullptr;
-    if (Container* const home = Home())
+    FeatureObject* top = this;
+    while (top->m_owner != nullptr)
+        top = top->m_owner;
+    if (Container* const home = top->m_container != nullptr ? top->m_container : top->m_strayOf)
         home->AddStray(ioChild);
 }
 
