@@ -18,14 +18,23 @@ namespace
 {
 using VYRStandalone::Model;
 
-const Model& SampleModel()
+/// Where walks begin: the objects of a model which lives as long as the process.
+struct Starts
 {
-    static const Model* const model = [] {
+    Starts()
+    {
         FuzzTypes::Declare();
-        return new Model(Model::Parse(FuzzTypes::SampleModel(), "sample"));
-    }();
-    return *model;
-}
+        model = Model::Parse(FuzzTypes::SampleModel(), "sample");
+        objects = FuzzTypes::AllObjects(model);
+        // What keeps the flags has nothing to walk to.
+        std::erase_if(objects, [](const ORXISpecObject_var& iObject) {
+            return iObject->IsSubTypeOf("VYRCfdDefaultManagement") != ORXFalse;
+        });
+    }
+
+    Model model;
+    std::vector<ORXISpecObject_var> objects;
+};
 
 std::string Text(const ORXUnicodeString& iText)
 {
@@ -59,6 +68,8 @@ void WalkFrom(const ORXISpecObject_var& iObject, const std::string& iPath)
     const Naive::Place place = Naive::PlaceOf(iObject);
     DemandPlace(Naive::ByPath(place, iPath), [&] { return start.GetByPath(path); });
     DemandPlace(Naive::ByName(place, iPath), [&] { return start.Get(path); });
+    if (iObject->IsSubTypeOf("FuzzSolver") == ORXFalse)
+        return;
     for (const char* list : {"parts", "others", "strings", "real"})
         DemandPlace(Naive::ByName(Naive::ByName(place, list), iPath), [&] { return start.Get(list).Get(path); });
 }
@@ -89,8 +100,9 @@ void CutAndClean(const std::string& iPath)
 
 void RunInput(std::string_view iInput)
 {
+    static const auto* const starts = new Starts;
     const std::string path(iInput);
-    for (const ORXISpecObject_var& object : FuzzTypes::AllObjects(SampleModel()))
+    for (const ORXISpecObject_var& object : starts->objects)
         WalkFrom(object, path);
     CutAndClean(path);
 }

@@ -8,8 +8,7 @@
  */
 
 #include <cstdio>
-#include <fcntl.h>
-#include <unistd.h>
+#include <utility>
 
 #include "Failure.h"
 #include "FuzzTarget.h"
@@ -63,26 +62,23 @@ private:
     ScratchFolder m_folder;
 };
 
-/// The standard error is the tool's while it runs, and ours when something is found.
+/// The tool's messages go nowhere while it runs. The descriptor stays open for what sanitizers have to say.
 class Silence
 {
 public:
-    Silence() : m_error(dup(STDERR_FILENO))
-    {
-        const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
-        dup2(nowhere, STDERR_FILENO);
-        close(nowhere);
-    }
-    ~Silence()
-    {
-        dup2(m_error, STDERR_FILENO);
-        close(m_error);
-    }
+    Silence() : m_error(std::exchange(stderr, Nowhere())) {}
+    ~Silence() { stderr = m_error; }
     Silence(const Silence&) = delete;
     Silence& operator=(const Silence&) = delete;
 
 private:
-    int m_error;
+    static std::FILE* Nowhere()
+    {
+        static std::FILE* const nowhere = std::fopen("/dev/null", "w");
+        return nowhere;
+    }
+
+    std::FILE* m_error;
 };
 
 /// The lines of an input, completed before they are run as if somebody asked at the end of each.
@@ -116,7 +112,14 @@ private:
     void Complete(const std::string& iLine)
     {
         const std::size_t start = iLine.find_last_of(" \t") + 1;
-        m_completion.Of(iLine, start, iLine.substr(start));
+        try
+        {
+            m_completion.Of(iLine, start, iLine.substr(start));
+        }
+        catch (const Tool::Failure&)
+        {
+            // The terminal offers nothing then.
+        }
     }
 
     /// A script may write wherever its user may; one made by chance must not.

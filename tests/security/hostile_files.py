@@ -91,12 +91,20 @@ MODELS = [
     ("a catalog above", lambda: model([], ["../secret"]), "unknown catalog"),
     ("a catalog anywhere", lambda: model([], [os.getcwd() + "/secret"]), "unknown catalog"),
     ("a catalog that is a folder's name", lambda: model([], [".."]), "unknown catalog"),
+    ("a catalog whose name is cut", lambda: model([], ["../secret.catalog.json\0"]), "unknown catalog"),
+    ("a catalog whose name is cut beside it", lambda: model([], ["beside\0"]), "unknown catalog"),
+    ("a catalog that is a pipe", lambda: model([], ["Pipe"]), "unknown catalog"),
+    ("a catalog that is a device", lambda: model([], ["Device"]), "unknown catalog"),
+    ("a catalog that is a folder", lambda: model([], ["Folder"]), "unknown catalog"),
+    ("a catalog that leads in a circle", lambda: model([], ["Circle"]), "unknown catalog"),
     ("many catalogs", lambda: model([], [f"c{i}" for i in range(100000)]), "unknown catalog"),
 ]
 
 # Name, text of the catalog, what the refusal says.
 CATALOGS = [
     ("many types", lambda: catalog([{"name": f"T{i}"} for i in range(10000)]), READ),
+    ("many attributes", lambda: catalog([{"name": "T", "attributes": [
+        {"name": f"a{i}", "kind": "real"} for i in range(20000)]}]), READ),
     ("a chain of bases", lambda: catalog(
         [{"name": f"T{i}", "base": f"T{i + 1}"} for i in range(1000)] + [{"name": "T1000"}]), READ),
     ("a circle of bases", lambda: catalog([{"name": f"T{i}", "base": f"T{(i + 1) % 2000}"} for i in range(2000)]),
@@ -117,6 +125,8 @@ CONFIGURATIONS = [
     ("a long number", lambda: {"c": [{"config": "d", "condition": "real==" + "1" * 500000}], "d": []}, READ),
     ("many items", lambda: {"c": [{"path": "real", "default": "1"}] * 5000}, READ),
     ("a circle", lambda: {"c": [{"config": "c"}]}, READ),
+    ("configurations that multiply", lambda: {
+        "c": [{"config": "c1"}] * 2, **{f"c{i}": [{"config": f"c{i + 1}"}] * 2 for i in range(1, 40)}}, READ),
     ("a circle with two branches", lambda: {"c": [{"config": "c"}, {"config": "c"}]}, READ),
 ]
 
@@ -184,6 +194,15 @@ def installation(folder, configurations):
     return ["--installation", str(folder / "installation")]
 
 
+def traps(folder):
+    """What stands in place of a catalog, or beside the model under a catalog's name without its end."""
+    (folder / "beside").write_text(json.dumps({"catalog": "beside\0", "types": []}))
+    os.mkfifo(folder / "Pipe.catalog.json")
+    os.symlink("/dev/zero", folder / "Device.catalog.json")
+    (folder / "Folder.catalog.json").mkdir()
+    os.symlink("Circle.catalog.json", folder / "Circle.catalog.json")
+
+
 def runs(tool, folder):
     """Every run, with the refusal that is expected of it."""
     plain = installation(folder, {"c": []})
@@ -191,6 +210,7 @@ def runs(tool, folder):
     (folder / "secret.catalog.json").write_text("no catalog")
     inner = folder / "inner"
     inner.mkdir()
+    traps(inner)
     solver = folder / "solver.model.json"
     solver.write_text(model([SOLVER], ["Hostile"]))
     file = inner / "hostile.json"
