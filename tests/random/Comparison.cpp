@@ -127,16 +127,17 @@ Difference Comparison::Enter(Object& ioObject, const ORXISpecObject_var& iReal)
 
 Difference Comparison::CompareTouched(const std::set<Object*>& iTouched)
 {
-    for (Object* object : iTouched)
-        if (!IsNew(object) && (m_twin.IsInModel(*object) || object->type == "VYRCfdDefaultManagement"))
-            if (const Difference difference = CompareDeep(*object))
-                return difference;
+    m_twin.Bury();
     for (const Object* object : iTouched)
-        if (!IsNew(object) && !m_twin.IsInModel(*object) && object->type != "VYRCfdDefaultManagement")
+        if (!IsNew(object) && !m_twin.IsLiving(*object))
         {
             m_roots.erase(m_pairs.at(object->number)->GetImpl(0));
             m_pairs.erase(object->number);
         }
+    for (Object* object : iTouched)
+        if (!IsNew(object))
+            if (const Difference difference = CompareDeep(*object))
+                return difference;
     return std::nullopt;
 }
 

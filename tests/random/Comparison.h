@@ -29,8 +29,7 @@ public:
     /// The real object; null where the twin's has none yet.
     ORXISpecObject_var RealOf(const Twin::Object* iObject) const;
 
-    /// Compares what was touched, and what has come into being below it. What has left the model is let go, but for
-    /// sub-features, which default management may still write to.
+    /// Compares what was touched, and what has come into being below it. What nobody else holds is let go.
     Difference CompareTouched(const std::set<Twin::Object*>& iTouched);
 
     /// Pairs an object that nothing refers to, and compares it.

@@ -137,7 +137,7 @@ std::vector<OperationKind> DefaultOperations()
             "setdefault", "dst", 40,
             [](auto& t, auto& o, auto& w) { return StatusText(t.SetCustomDefault(o, w.Name(), w.texts[1])); },
             KeepTextOnReal),
-        Of("keepvalue", "dsos", 10, KeepValueOnTwin, KeepValueOnReal),
+        Of("keepvalue", "dsoq", 10, KeepValueOnTwin, KeepValueOnReal),
         Of(
             "removedefault", "ds", 10,
             [](auto& t, auto& o, auto& w) { return StatusText(t.RemoveCustomDefault(o, w.Name())); },

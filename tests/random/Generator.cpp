@@ -167,6 +167,8 @@ std::string Generator::Word(const char* iLetters)
         return ChoiceList();
     case 'u':
         return Startups();
+    case 'q':
+        return OneIn(4) ? "monitors" : Name('s');
     case 'N':
         return AddedName();
     case 'K':

@@ -51,6 +51,7 @@ using RealArguments = OperationArguments<ORXISpecObject_var>;
  * |--------|-----------------------------------------------------------------------|
  * | o      | object; d one with default management, c a Choice, m a managed Choice |
  * | s      | name of an attribute, of a scalar value mostly                        |
+ * | q      | the same, or one that has no value: null is given                     |
  * | v      | name of an attribute, of a list of values mostly                      |
  * | L      | name of an attribute, of a list of objects mostly                     |
  * | O      | name of an attribute, of an object mostly                             |

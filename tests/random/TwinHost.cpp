@@ -106,7 +106,7 @@ Value Read(const Attribute& iAttribute, const std::string& iText)
 }
 
 /// A value as one of the attribute's kind; not there when it is of the wrong kind. Texts are read only where the
-/// parameter is given a text; a string value that is copied is a string, but for an enumeration.
+/// parameter is given a text: a string value that is copied is a string.
 Value Converted(const Attribute& iAttribute, const Value& iGiven)
 {
     Value value = Unset(iAttribute.kind, iAttribute.unit);
@@ -121,7 +121,7 @@ Value Converted(const Attribute& iAttribute, const Value& iGiven)
     {
         if (iGiven.kind == Kind::Integer)
             return EnumerationAt(iAttribute.texts, iGiven.integer);
-        if (iGiven.kind == Kind::String || iGiven.kind == Kind::Enumeration)
+        if (iGiven.kind == Kind::Enumeration)
             return Read(iAttribute, iGiven.text);
     }
     else if (iAttribute.kind == iGiven.kind)
@@ -250,8 +250,50 @@ bool Host::RefersToStrays() const
     return false;
 }
 
+bool Host::IsLiving(const Object& iObject) const
+{
+    const auto index = static_cast<std::size_t>(iObject.number);
+    return index >= m_living.size() || m_living[index];
+}
+
+void Host::Bury()
+{
+    if (!m_hasLetGo)
+        return;
+    m_hasLetGo = false;
+    m_living.assign(m_objects.size() + 1, false);
+    std::vector<const Object*> open;
+    const auto hold = [&](const Object* iObject) {
+        if (iObject == nullptr || m_living[static_cast<std::size_t>(iObject->number)])
+            return;
+        m_living[static_cast<std::size_t>(iObject->number)] = true;
+        open.push_back(iObject);
+    };
+    for (const Object* object : m_top)
+        hold(object);
+    while (!open.empty())
+    {
+        const Object* object = open.back();
+        open.pop_back();
+        hold(object->defaults.flags);
+        for (const auto& [name, attribute] : object->attributes)
+        {
+            hold(attribute.object);
+            for (const Object* entry : attribute.objects)
+                hold(entry);
+        }
+    }
+    for (const auto& object : m_objects)
+        if (object->owner != nullptr && object->startup != nullptr && IsLiving(*object) && !IsLiving(*object->owner))
+        {
+            object->owner = nullptr;
+            object->place.clear();
+        }
+}
+
 void Host::DropExtensions()
 {
+    m_hasLetGo = true;
     for (const auto& object : m_objects)
     {
         if (!IsInModel(*object))
@@ -418,6 +460,7 @@ void Host::Gain(Object& ioOwner, Attribute& ioAttribute, Object* iPart)
         if (former.object == iPart)
             former.object = nullptr;
         std::erase(former.objects, iPart);
+        m_hasLetGo = true;
     }
     iPart->owner = &ioOwner;
     iPart->place = ioAttribute.name;
@@ -425,6 +468,7 @@ void Host::Gain(Object& ioOwner, Attribute& ioAttribute, Object* iPart)
 
 void Host::LoseIfGone(Object& ioOwner, Attribute& ioAttribute, Object* iPart)
 {
+    m_hasLetGo = m_hasLetGo || iPart != nullptr;
     const Kind kind = ioAttribute.kind == Kind::List ? ioAttribute.entry : ioAttribute.kind;
     if (kind != Kind::Component || iPart == nullptr || iPart->owner != &ioOwner || iPart->place != ioAttribute.name)
         return;

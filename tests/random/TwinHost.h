@@ -132,6 +132,10 @@ public:
     static const Attribute* Find(const Object* iObject, const std::string& iName);
     const std::vector<Object*>& TopLevel() const { return m_top; }
     bool RefersToStrays() const;
+    /// Lets go of what is in no model and held by nobody: its components, if they are held, have no owner any more.
+    void Bury();
+    /// Whether an object was held by anything when the dead were last buried.
+    bool IsLiving(const Object& iObject) const;
 
     /// An attribute for one object alone. False when it carries one of the name and another kind.
     bool AddAttribute(Object& ioObject, const std::string& iName, Kind iKind);
@@ -214,6 +218,10 @@ private:
     Texts m_lines;
     Texts m_reports;
     std::set<Object*> m_touched;
+    /// By number, since the last burial; what has come later lives.
+    std::vector<bool> m_living;
+    /// Something has been let go of since then.
+    bool m_hasLetGo = false;
 };
 } // namespace Twin
 
