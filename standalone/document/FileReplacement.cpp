@@ -3,8 +3,10 @@
 #include <atomic>
 #include <cerrno>
 #include <cstdio>
+#include <dirent.h>
 #include <fcntl.h>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string_view>
 #include <sys/file.h>
@@ -135,11 +137,12 @@ void RemoveUnlessHeld(const std::string& iPath)
 /// up. What cannot be looked at or removed stays.
 void RemoveLeftOvers(const std::filesystem::path& iFolder)
 {
-    std::error_code error;
+    // Not by the standard library's iterator, which ends the process where there is no memory for it.
+    const std::unique_ptr<DIR, int (*)(DIR*)> folder(opendir(iFolder.c_str()), &closedir);
     std::vector<std::string> found;
-    for (std::filesystem::directory_iterator entry(iFolder, error), end; !error && entry != end; entry.increment(error))
-        if (IsTemporaryName(entry->path().filename().string()))
-            found.push_back(entry->path().string());
+    while (const dirent* const entry = folder != nullptr ? readdir(folder.get()) : nullptr)
+        if (IsTemporaryName(entry->d_name))
+            found.push_back((iFolder / entry->d_name).string());
     for (const std::string& path : found)
         RemoveUnlessHeld(path);
 }

@@ -1,5 +1,7 @@
 #include "AddedAttribute.h"
 
+#include <memory>
+
 #include "FeatureObject.h"
 #include "Instruments.h"
 #include "SlotMaking.h"
@@ -7,10 +9,15 @@
 namespace VYRStandalone
 {
 AddedAttribute::AddedAttribute(FeatureObject& iObject, const FeatureKey::Traits& iTraits, int iFlag)
-    : m_object(iObject), m_key(new FeatureKey(iTraits, *this)), m_flag(iFlag),
-      m_block(SlotBlock::Make(SlotMaking::BytesOf(iTraits))), m_slot(m_block->At(0))
+    : m_object(iObject), m_flag(iFlag)
 {
-    SlotMaking::Make(m_slot, iObject, *m_key, *m_block);
+    const auto release = [](FeatureKey* iKey) { iKey->Release(); };
+    std::unique_ptr<FeatureKey, decltype(release)> key(new FeatureKey(iTraits, *this), release);
+    SlotBlock::Holder block(SlotBlock::Make(SlotMaking::BytesOf(iTraits)));
+    SlotMaking::Make(block->At(0), iObject, *key, *block);
+    m_key = key.release();
+    m_block = block.release();
+    m_slot = m_block->At(0);
 }
 
 AddedAttribute::~AddedAttribute()

@@ -1,6 +1,7 @@
 #include "AttributeAccess.h"
 
 #include <algorithm>
+#include <memory>
 #include <typeinfo>
 
 #include "FeatureObject.h"
@@ -354,8 +355,11 @@ HRESULT AttributeAccess::InsertAtPosition(ORXISpecAttrKey* iKey, const ORXISpecO
     if (key == nullptr || key->Slot() != SlotKind::List || !IsWithin(iIndex, SizeOf(m_object.Entries(*key)) + 1))
         return E_FAIL;
     FeatureObject* const object = FeatureObject::Of(iObject.Pointer());
-    Take(*key, object);
     Objects& objects = std::get<Objects>(m_object.List(*key).entries);
+    // Room before the object is taken: what fails here has done nothing.
+    if (objects.size() == objects.capacity())
+        objects.reserve(2 * objects.size() + 1);
+    Take(*key, object);
     objects.insert(objects.begin() + (iIndex - 1), object);
     m_object.Tell(*key, ObjectValue::OfList());
     return S_OK;
@@ -421,12 +425,12 @@ ORXListValORXBaseUnknown_var* AttributeAccess::ListObjects(ORXISpecAttrKey* iKey
 {
     if (Instruments::Active() && Instruments::Fails("ListObjects", iKey, &m_object))
         return nullptr;
-    ORXListValORXBaseUnknown_var* const list = new ORXListValORXBaseUnknown_var;
+    auto list = std::make_unique<ORXListValORXBaseUnknown_var>();
     const FeatureKey* const key = m_object.Carried(iKey);
     if (key != nullptr && key->IsListOfObjects())
         for (FeatureObject* const object : std::get<Objects>(m_object.Entries(*key)))
             list->Append(ORXBaseUnknown_var::Share(object));
-    return list;
+    return list.release();
 }
 
 const FeatureKey* AttributeAccess::ObjectKey(ORXISpecAttrKey* iKey, ORXISpecObject* iObject) const

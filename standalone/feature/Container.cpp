@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <memory>
 #include <new>
 #include <typeinfo>
 #include <utility>
@@ -38,17 +39,17 @@ Container* Container::Of(ORXIContainer* iContainer) noexcept
 
 FeatureObject* Container::Create(FeatureType& iType, const ORXUnicodeString& iName)
 {
-    // The container takes the reference over.
-    FeatureObject* const object = FeatureObject::Make(iType, iName);
-    m_objects.push_back(object);
+    FeatureObject::Holder object(FeatureObject::Make(iType, iName));
+    m_objects.push_back(object.get());
     object->SetContainer(this);
-    return object;
+    // The container takes the reference over.
+    return object.release();
 }
 
 void Container::Append(FeatureObject& ioObject)
 {
-    ioObject.AddReference();
     m_objects.push_back(&ioObject);
+    ioObject.AddReference();
     ioObject.SetContainer(this);
 }
 
@@ -82,23 +83,33 @@ void Container::RemoveStray(FeatureObject& ioObject) noexcept
     ioObject.SetStrayOf(nullptr);
 }
 
-void Container::Close()
+/// Where there is no memory to look for them, objects that hold each other stay alive; all others go.
+void Container::Close() noexcept
 {
     std::vector<FeatureObject*> objects = std::exchange(m_objects, {});
     for (FeatureObject* const object : objects)
         object->SetContainer(nullptr);
-    for (FeatureObject* const stray : std::exchange(m_strays, {}))
+    const auto strays = std::exchange(m_strays, {});
+    for (FeatureObject* const stray : strays)
     {
         stray->AddReference();
         stray->SetStrayOf(nullptr);
-        objects.push_back(stray);
     }
     std::vector<FeatureObject*> all;
     std::vector<FeatureObject*> references;
-    for (FeatureObject* const object : objects)
+    try
     {
-        AppendTree(*object, all);
-        object->TakeReferences(references);
+        const auto look = [&](FeatureObject& ioObject) {
+            AppendTree(ioObject, all);
+            ioObject.TakeReferences(references);
+        };
+        for (FeatureObject* const object : objects)
+            look(*object);
+        for (FeatureObject* const stray : strays)
+            look(*stray);
+    }
+    catch (const std::bad_alloc&)
+    {
     }
     // Held, since a listener that goes may take others along.
     for (FeatureObject* const object : all)
@@ -108,6 +119,8 @@ void Container::Close()
     for (const std::vector<FeatureObject*>* const held : {&references, &all, &objects})
         for (FeatureObject* const object : *held)
             object->DropReference();
+    for (FeatureObject* const stray : strays)
+        stray->DropReference();
 }
 
 HRESULT Container::QueryInterface(const IID& iInterface, void** oInterface)
@@ -126,10 +139,10 @@ ORXListValORXBaseUnknown_var* Container::ListMembers(const ORXUnicodeString& iTy
 {
     if (Instruments::Active() && Instruments::Fails("ListMembers", iType.View(), nullptr))
         return nullptr;
-    ORXListValORXBaseUnknown_var* const list = new ORXListValORXBaseUnknown_var;
+    auto list = std::make_unique<ORXListValORXBaseUnknown_var>();
     for (FeatureObject* const object : m_objects)
         if (iType.IsEmpty() || object->Type().DerivesFrom(iType.View()))
             list->Append(ORXBaseUnknown_var::Share(object));
-    return list;
+    return list.release();
 }
 } // namespace VYRStandalone

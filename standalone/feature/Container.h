@@ -41,7 +41,7 @@ public:
 
     /// Lets all objects go. What they hold of each other, by references and by listening, is cleared first, so that
     /// objects that hold each other die.
-    void Close();
+    void Close() noexcept;
 
     using ORXBaseUnknown::QueryInterface;
     HRESULT QueryInterface(const IID& iInterface, void** oInterface) override;

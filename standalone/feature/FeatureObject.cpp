@@ -24,9 +24,9 @@ FeatureObject::FeatureObject(FeatureType& iType, const ORXUnicodeString& iName, 
     : m_access(*this), m_slotCount(static_cast<unsigned int>(iType.Keys().size())), m_isPrototype(iIsPrototype),
       m_type(&iType), m_block(SlotBlock::Make(iType.SlotBytes())), m_startup(iStartup), m_name(iName)
 {
+    MakeSlots();
     if (!m_isPrototype)
         Census::Born(Census::FeatureObject);
-    MakeSlots();
 }
 
 FeatureObject::~FeatureObject()
@@ -37,7 +37,6 @@ FeatureObject::~FeatureObject()
     DropSlots();
     // Behind that, since what it owned and what lives on takes its place among the strays.
     LeaveStrays();
-    m_block->Drop();
     if (!m_isPrototype)
         Census::Died(Census::FeatureObject);
 }
@@ -50,23 +49,23 @@ FeatureObject* FeatureObject::Make(FeatureType& iType, const ORXUnicodeString& i
 FeatureObject* FeatureObject::MakeAfter(FeatureObject& iStartup, const ORXUnicodeString& iName)
 {
     iStartup.Type().Freeze();
-    FeatureObject* const object = new FeatureObject(iStartup.Type(), iName, &iStartup, false);
+    Holder object(new FeatureObject(iStartup.Type(), iName, &iStartup, false));
     object->CopyFrom(iStartup);
-    return object;
+    return object.release();
 }
 
 FeatureObject* FeatureObject::MakeColumn()
 {
     FeatureType& type = TypeRegistry::Instance().ColumnType();
-    FeatureObject* const object = Make(type, type.Name().c_str());
+    Holder object(Make(type, type.Name().c_str()));
     object->m_column = std::make_unique<TableColumn>(*object);
-    return object;
+    return object.release();
 }
 
 FeatureObject* FeatureObject::MakePrototype(FeatureType& iType, const FeatureObject* iFormer)
 {
     // Immortal, and so past the allocation that the census counts.
-    FeatureObject* const prototype = ::new FeatureObject(iType, iType.Name().c_str(), nullptr, true);
+    std::unique_ptr<FeatureObject, Deleter> prototype(::new FeatureObject(iType, iType.Name().c_str(), nullptr, true));
     const FeatureObject* const former =
         iFormer != nullptr || iType.Base() == nullptr ? iFormer : iType.Base()->Prototype();
     if (former != nullptr)
@@ -75,7 +74,7 @@ FeatureObject* FeatureObject::MakePrototype(FeatureType& iType, const FeatureObj
          ++key)
         if (FeatureType* const component = (*key)->ComponentType())
             prototype->MakeComponent(**key, *component->Prototype());
-    return prototype;
+    return prototype.release();
 }
 
 FeatureObject* FeatureObject::Of(const ORXBaseUnknown* iComponent)
@@ -192,10 +191,24 @@ AddedAttribute* FeatureObject::AddAttributeSilently(const ORXUnicodeString& iNam
         knowledge = KnowledgeType::MakeEnumeration(std::string(iName.View()), iTexts);
     if (m_added == nullptr)
         m_added = std::make_unique<AddedAttributes>();
-    // Past the allocation that the census counts: it is part of the object.
-    AddedAttribute* const added = ::new AddedAttribute(*this, {iName, iTypeCode, 0, knowledge}, iFlag);
-    m_added->inOrder.push_back(added);
-    m_added->names.Insert(&added->Key());
+    // Room for it first; what fails behind that leaves nothing.
+    m_added->inOrder.push_back(nullptr);
+    AddedAttribute* added = nullptr;
+    try
+    {
+        // Past the allocation that the census counts: it is part of the object.
+        added = ::new AddedAttribute(*this, {iName, iTypeCode, 0, knowledge}, iFlag);
+        m_added->names.Insert(&added->Key());
+    }
+    catch (...)
+    {
+        m_added->inOrder.pop_back();
+        if (added != nullptr)
+            DropSlot(added->Key());
+        ::delete added;
+        throw;
+    }
+    m_added->inOrder.back() = added;
     return added;
 }
 
@@ -206,6 +219,8 @@ void FeatureObject::StoreEntries(const FeatureKey& iKey, ListEntries iEntries)
 
 void FeatureObject::StoreObjects(const FeatureKey& iKey, const std::vector<FeatureObject*>& iObjects)
 {
+    // The memory first: from here on nothing fails.
+    std::vector<FeatureObject*> former(iObjects);
     // All new ones are held before any of the old ones goes: an object may be among both.
     for (FeatureObject* const object : iObjects)
         if (object != nullptr)
@@ -214,7 +229,6 @@ void FeatureObject::StoreObjects(const FeatureKey& iKey, const std::vector<Featu
             if (iKey.Owns())
                 Gained(*object, iKey);
         }
-    std::vector<FeatureObject*> former(iObjects);
     former.swap(std::get<std::vector<FeatureObject*>>(List(iKey).entries));
     for (FeatureObject* const object : former)
         if (object != nullptr)
@@ -343,9 +357,15 @@ void FeatureObject::LeaveOwner()
         owner.StoreObject(key, nullptr);
         return;
     }
-    std::vector<FeatureObject*> others = std::get<std::vector<FeatureObject*>>(owner.Entries(key));
-    others.erase(std::remove(others.begin(), others.end(), this), others.end());
-    owner.StoreObjects(key, others);
+    std::vector<FeatureObject*>& entries = std::get<std::vector<FeatureObject*>>(owner.List(key).entries);
+    const auto kept = std::remove(entries.begin(), entries.end(), this);
+    auto gone = entries.end() - kept;
+    entries.erase(kept, entries.end());
+    for (; gone > 0; --gone)
+    {
+        owner.Lost(*this);
+        DropReference();
+    }
 }
 
 void FeatureObject::TakeReferences(std::vector<FeatureObject*>& ioTaken)
@@ -375,6 +395,9 @@ void FeatureObject::TakeObjects(const FeatureKey& iKey, std::vector<FeatureObjec
     else if (iKey.IsListOfObjects())
     {
         std::vector<FeatureObject*>& entries = std::get<std::vector<FeatureObject*>>(List(iKey).entries);
+        // Room first: all are taken or none.
+        if (ioTaken.capacity() - ioTaken.size() < entries.size())
+            ioTaken.reserve(2 * ioTaken.capacity() + entries.size());
         std::copy_if(entries.begin(), entries.end(), std::back_inserter(ioTaken),
                      [](const FeatureObject* iEntry) { return iEntry != nullptr; });
         if (!iKey.Owns())
@@ -623,8 +646,9 @@ void FeatureObject::MakeComponent(const FeatureKey& iKey, FeatureObject& iAfter)
     if (m_isPrototype)
     {
         iAfter.Type().Freeze();
-        component = ::new FeatureObject(iAfter.Type(), iKey.Name(), nullptr, true);
-        component->CopyFrom(iAfter);
+        std::unique_ptr<FeatureObject, Deleter> made(::new FeatureObject(iAfter.Type(), iKey.Name(), nullptr, true));
+        made->CopyFrom(iAfter);
+        component = made.release();
     }
     else
         component = MakeAfter(iAfter, iKey.Name());

@@ -35,6 +35,13 @@ class TableColumn;
 class FeatureObject final : public ORXISpecObject
 {
 public:
+    struct Dropper
+    {
+        void operator()(FeatureObject* iObject) const { iObject->DropReference(); }
+    };
+    /// Holds a reference until somebody takes it over.
+    using Holder = std::unique_ptr<FeatureObject, Dropper>;
+
     /// @name Making. New references, outside every container, without an owner.
     /// @{
     /// With the values, lists and components of the type's start-up.
@@ -185,6 +192,12 @@ private:
 
     friend class FeatureType;
 
+    /// Of a start-up that is not finished.
+    struct Deleter
+    {
+        void operator()(FeatureObject* iObject) const noexcept { ::delete iObject; }
+    };
+
     void* Slot(const FeatureKey& iKey) const noexcept
     {
         return iKey.IsAdded() ? iKey.Home()->Slot() : m_block->At(iKey.Offset());
@@ -222,7 +235,7 @@ private:
     bool m_isPrototype;
     bool m_isDying = false;
     FeatureType* m_type;
-    SlotBlock* m_block;
+    SlotBlock::Holder m_block;
     ExtensionTable m_extensions;
     FeatureObject* m_owner = nullptr;
     const FeatureKey* m_ownerKey = nullptr;

@@ -2,6 +2,7 @@
 #define SlotBlock_H
 
 #include <cstddef>
+#include <memory>
 
 namespace VYRStandalone
 {
@@ -17,6 +18,12 @@ public:
 
     void Hold() noexcept { ++m_holders; }
     void Drop() noexcept;
+
+    struct Dropper
+    {
+        void operator()(SlotBlock* iBlock) const noexcept { iBlock->Drop(); }
+    };
+    using Holder = std::unique_ptr<SlotBlock, Dropper>;
 
     void* At(std::size_t iOffset) noexcept { return reinterpret_cast<std::byte*>(this) + Header + iOffset; }
 

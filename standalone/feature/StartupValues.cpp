@@ -46,6 +46,9 @@ void StartupValues::Apply(FeatureObject& ioPrototype, const PrototypeValue& iVal
     for (std::size_t step = 0; step + 1 < iValue.path.size(); ++step)
         object = object->Object(*object->FindKey(iValue.path[step]));
     const FeatureKey& key = *object->FindKey(iValue.path.back());
+    // What stands there lives for ever: a catalog that is declared again must not leave another copy behind.
+    if (Holds(*object, key, iValue))
+        return;
     if (iValue.isList)
         object->StoreEntries(key, EntriesOf(object->Entries(key), key, iValue));
     else

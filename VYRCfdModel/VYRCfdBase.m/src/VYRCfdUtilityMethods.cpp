@@ -1,5 +1,6 @@
 #include "VYRCfdUtilityMethods.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <locale>
 #include <sstream>
@@ -13,21 +14,33 @@ namespace
 template <class Append>
 void Split(const ORXUnicodeString& iText, const ORXUnicodeString& iDelimiter, const Append& iAppend)
 {
-    const auto appendCleaned = [&iAppend](ORXUnicodeString iToken) {
-        iToken.ReplaceAll(" ", "");
-        iAppend(iToken);
-    };
-
+    // A position in a text that is not all ASCII is found by counting from its start. In pieces the way there is short.
+    constexpr int PieceLength = 1024;
     const int length = iText.GetLengthInChar();
-    int start = 0;
-    int position = iText.FindPosition(iDelimiter, start);
-    while (position >= 0 && position < length)
+    // A longer delimiter might stand across the end of a piece.
+    const int step = iDelimiter.GetLengthInChar() == 1 ? PieceLength : std::max(length, 1);
+
+    ORXUnicodeString token;
+    const auto appendToken = [&] {
+        token.ReplaceAll(" ", "");
+        iAppend(token);
+        token = "";
+    };
+    for (int base = 0; base < length; base += step)
     {
-        appendCleaned(iText.SubString(start, position - start));
-        start = position + 1;
-        position = iText.FindPosition(iDelimiter, start);
+        const ORXUnicodeString piece = iText.SubString(base, step);
+        const int pieceLength = piece.GetLengthInChar();
+        int start = 0;
+        for (int position = piece.FindPosition(iDelimiter, start); position >= 0;
+             position = piece.FindPosition(iDelimiter, start))
+        {
+            token.Append(piece.SubString(start, position - start));
+            appendToken();
+            start = position + 1;
+        }
+        token.Append(piece.SubString(start, pieceLength - start));
     }
-    appendCleaned(iText.SubString(start, length - start));
+    appendToken();
 }
 
 /// Reads a number as far as it goes; the decimal point is "." whatever the user's locale is.

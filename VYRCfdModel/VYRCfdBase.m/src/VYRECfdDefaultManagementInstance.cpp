@@ -11,7 +11,8 @@ namespace
 VYRIMpaDefaultManagementProtected_var ValuesAbove(const ORXISpecObject_var& ispSpec)
 {
     VYRIMpaDefaultManagementProtected_var spDefMgmt;
-    ORXISpecObject_var parent = ORXISpecObject_var::Adopt(ispSpec->GetOwner());
+    // A sub-feature that the host does not hand out has no owner either.
+    ORXISpecObject_var parent = !ispSpec ? ORXISpecObject_var() : ORXISpecObject_var::Adopt(ispSpec->GetOwner());
     while (!!parent && !spDefMgmt)
     {
         const VYRIMpaDefaultManagementProtected_var candidate = parent;
