@@ -120,6 +120,8 @@ CATALOGS = [
 # Name, items of the configuration "c" (and others with it), what the refusal says.
 CONFIGURATIONS = [
     ("a long list", lambda: {"c": [{"path": "strings", "value": "a," * 100000, "list": True}]}, READ),
+    ("a long list of other characters", lambda: {"c": [
+        {"path": "strings", "value": "\u00e9," * 60000, "list": True}]}, READ),
     ("a long path that ends early", lambda: {"c": [{"path": "x/" * 200000, "config": "c"}]}, READ),
     ("a long condition", lambda: {"c": [{"config": "d", "condition": "real" + "<" * 500000 + "1"}], "d": []}, READ),
     ("a long number", lambda: {"c": [{"config": "d", "condition": "real==" + "1" * 500000}], "d": []}, READ),
