@@ -111,6 +111,10 @@ CATALOGS = [
      "derives from itself"),
     ("a circle of parts", lambda: catalog([type_of_parts(f"T{i}", f"T{(i + 1) % 2000}", 1) for i in range(2000)]),
      "contains itself"),
+    ("parts that multiply", lambda: catalog(
+        [type_of_parts(f"T{i}", f"T{i + 1}", 10) for i in range(20)] + [{"name": "T20"}]), "come into being"),
+    ("a chain of parts", lambda: catalog(
+        [type_of_parts(f"T{i}", f"T{i + 1}", 1) for i in range(5000)] + [{"name": "T5000"}]), "come into being"),
     ("many texts", lambda: catalog([{"name": "T", "attributes": [
         {"name": "e", "kind": "enumeration", "values": [f"t{i}" for i in range(50000)]}]}]), READ),
     ("a nested start-up", lambda: '{"catalog": "c", "types": [{"name": "T", "startup": %s}]}' % (
