@@ -33,9 +33,11 @@ TEST_F(ListsOfHandles, PositionsCountFromOne)
     EXPECT_EQ(Names(list), "A-B");
     list[2] = m_b;
     EXPECT_EQ(Names(list), "ABB");
-    list.RemovePosition(1);
-    EXPECT_EQ(Names(list), "BB");
+    list[2] = NULL_var;
     list.RemovePosition(2);
+    EXPECT_EQ(Names(list), "AB");
+    list.RemovePosition(2);
+    EXPECT_EQ(Names(list), "A");
     list.RemovePosition(1);
     EXPECT_EQ(list.Size(), 0);
 }

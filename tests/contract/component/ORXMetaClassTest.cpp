@@ -3,6 +3,7 @@
  * Descriptions of classes.
  */
 
+#include <atomic>
 #include <thread>
 
 #include <gtest/gtest.h>
@@ -62,20 +63,25 @@ TEST(MetaClasses, KindsAreTheNumbersOfTheComponentModel)
 
 TEST(MetaClasses, GuardMayBeTakenAgainOnItsThreadAndKeepsOthersOut)
 {
-    bool isInside = false;
-    bool wasTogether = false;
+    std::atomic<bool> isWaiting{false};
+    std::atomic<bool> isInside{false};
     std::thread other;
     {
         const qlx::internal::om_guard guard;
         const qlx::internal::om_guard again;
-        isInside = true;
         other = std::thread([&] {
+            isWaiting = true;
             const qlx::internal::om_guard theirs;
-            wasTogether = isInside;
+            isInside = true;
         });
-        isInside = false;
+        while (!isWaiting)
+            std::this_thread::yield();
+        // Long enough for a thread that nothing keeps out.
+        for (int turn = 0; turn < 10000 && !isInside; ++turn)
+            std::this_thread::yield();
+        EXPECT_FALSE(isInside);
     }
     other.join();
-    EXPECT_FALSE(wasTogether);
+    EXPECT_TRUE(isInside);
 }
 } // namespace

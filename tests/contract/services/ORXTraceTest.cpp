@@ -11,12 +11,11 @@ using Traces = TraceTest;
 
 TEST_F(Traces, Channel_KeepsWhatItWasMadeOf)
 {
-    ORXTrace* channel = nullptr;
-    {
-        const std::string name = "TEST_NAMES";
-        const std::string description = "a description";
-        channel = new ORXTrace(name.c_str(), description.c_str(), ORXTraActive, "STDOUT", 7);
-    }
+    char name[] = "TEST_NAMES";
+    char description[] = "a description";
+    char file[] = "STDOUT";
+    ORXTrace* const channel = new ORXTrace(name, description, ORXTraActive, file, 7);
+    name[0] = description[0] = file[0] = '?';
     EXPECT_STREQ(channel->Name(), "TEST_NAMES");
     EXPECT_STREQ(channel->Description(), "a description");
     EXPECT_STREQ(channel->File(), "STDOUT");

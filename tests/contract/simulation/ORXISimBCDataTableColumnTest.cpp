@@ -3,6 +3,7 @@
  * Table columns: components of rows without attributes.
  */
 
+#include <cmath>
 #include <limits>
 
 #include "ContractTest.h"
@@ -60,6 +61,8 @@ TEST_F(Columns, HoldTheirObject)
     {
         const ORXISimBCDataTableColumn_var again = m_object;
         EXPECT_EQ(CountOf(m_object), before + 1);
+        const ORXISimBCDataTableColumn_var copy = again;
+        EXPECT_EQ(CountOf(m_object), before + 2);
     }
     EXPECT_EQ(CountOf(m_object), before);
 }
@@ -139,5 +142,6 @@ TEST_F(Columns, HoldEveryReal)
     for (int row = 1; row <= 4; ++row)
         EXPECT_EQ(m_column->SetValue(row, values[row - 1]), S_OK);
     EXPECT_EQ(Rows(), std::vector<double>(std::begin(values), std::end(values)));
+    EXPECT_TRUE(std::signbit(Rows().front()));
 }
 } // namespace

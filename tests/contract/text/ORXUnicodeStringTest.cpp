@@ -175,6 +175,8 @@ TEST(UnicodeString, EmbeddedZero_IsACharacter)
     EXPECT_EQ(text.GetLengthInChar(), 3);
     EXPECT_EQ(text.View(), std::string_view("a\0b", 3));
     EXPECT_FALSE(text == ORXUnicodeString("a"));
+    EXPECT_FALSE(text == ORXUnicodeString("a\0c", 3));
+    EXPECT_TRUE(text < ORXUnicodeString("a\0c", 3));
     EXPECT_EQ(text.FindPosition("b"), 2);
 }
 
