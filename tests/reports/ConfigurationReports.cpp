@@ -42,9 +42,17 @@ void AddLoading(ReportRows& ioRows)
     const Record missing = Error("Missing config file flow.json\n", In("LoadConfigs"));
     const Record invalid = Error("Invalid config file flow.json\n", In("LoadConfigs"));
     const Record behind = FailedCall("LoadConfigs()", In("GetConfigurationMap"));
-    ioRows.push_back({missing, [](ReportBench&) { return Load("", &GetMap); }, "E_FAIL", {}, {behind},
+    ioRows.push_back({missing,
+                      [](ReportBench&) { return Load("", &GetMap); },
+                      "E_FAIL",
+                      {},
+                      {behind},
                       R"("Missing config file %s\n")"});
-    ioRows.push_back({invalid, [](ReportBench&) { return Load("{", &GetMap); }, "E_FAIL", {}, {behind},
+    ioRows.push_back({invalid,
+                      [](ReportBench&) { return Load("{", &GetMap); },
+                      "E_FAIL",
+                      {},
+                      {behind},
                       R"("Invalid config file %s\n")"});
     ioRows.push_back({behind, [](ReportBench&) { return Load("", &GetMap); }, "E_FAIL", {missing}});
     ioRows.push_back({FailedCall("LoadConfigs()", Application),
@@ -55,7 +63,12 @@ void AddLoading(ReportRows& ioRows)
                       },
                       "E_FAIL",
                       {missing}});
-    ioRows.push_back({FailedCall("LoadConfigs()", In("GetConfigurationObject")), {}, "", {}, {}, "",
+    ioRows.push_back({FailedCall("LoadConfigs()", In("GetConfigurationObject")),
+                      {},
+                      "",
+                      {},
+                      {},
+                      "",
                       "Its one caller has loaded the files before."});
 }
 
@@ -91,9 +104,7 @@ constexpr const char* ConditionalItem = R"([ { "path": "zone", "condition": "cou
 void AddObjects(ReportRows& ioRows)
 {
     ioRows.push_back({Assertion("ispObject != NULL_var", Application),
-                      [](ReportBench& ioBench) {
-                          return AnswerOf(ioBench.Apply(ORXBaseUnknown_var(), DefaultItem));
-                      },
+                      [](ReportBench& ioBench) { return AnswerOf(ioBench.Apply(ORXBaseUnknown_var(), DefaultItem)); },
                       "E_FAIL"});
     ioRows.push_back({Assertion("spDefMgmt != NULL_var", Application),
                       [](ReportBench& ioBench) {
@@ -112,13 +123,33 @@ void AddObjects(ReportRows& ioRows)
                       [](ReportBench& ioBench) {
                           return AnswerOf(ioBench.Apply(ioBench.m_part, R"([ { "path": "", "config": "test" } ])"));
                       },
-                      "S_OK", {}, {}, R"("Configuration nesting too deep: %s")"});
+                      "S_OK",
+                      {},
+                      {},
+                      R"("Configuration nesting too deep: %s")"});
+    ioRows.push_back({Error("Too many nested configurations: leaf", Application),
+                      [](ReportBench& ioBench) {
+                          // With the outermost one, one more than a run may make.
+                          std::string items = "[ { \"config\": \"leaf\" }";
+                          for (int i = 1; i < 100000; ++i)
+                              items += ", { \"config\": \"leaf\" }";
+                          return AnswerOf(static_cast<HRESULT>(
+                              Configurations({Configuration("test", items + " ]"), Configuration("leaf", "[]")})
+                                  .Apply(ioBench.m_part, "test")));
+                      },
+                      "S_OK",
+                      {},
+                      {},
+                      R"("Too many nested configurations: %s")"});
 }
 
 void AddItems(ReportRows& ioRows)
 {
     Add(ioRows, {FailedCall("specAccess[path].SetStrings(valuesList)", Application),
-                 R"([ { "path": "nowhere", "value": "lift, drag", "list": true } ])", "", "", "",
+                 R"([ { "path": "nowhere", "value": "lift, drag", "list": true } ])",
+                 "",
+                 "",
+                 "",
                  {Error("No attribute nowhere", "VYRCfdObjectAccess::SetStrings")}});
     Add(ioRows, {FailedCall("ORXSimBCInitializeServices::CreateBasicComponent(\"VYRCfdConfigItem\", \"ConfigItem\", "
                             "spCont, spConfigItem)",
@@ -127,12 +158,18 @@ void AddItems(ReportRows& ioRows)
     Add(ioRows, {FailedCall("spDefMgmt->SetIsAuto(path, ORXTrue)", Application),
                  R"([ { "path": "", "default": "0.75", "defaultAutoKey": "auto" } ])"});
     Add(ioRows, {FailedCall("spDefMgmt->SetCustomDefault(path, defaultValue)", Application),
-                 R"([ { "path": "nowhere", "default": "0.75" } ])", "", "", "",
+                 R"([ { "path": "nowhere", "default": "0.75" } ])",
+                 "",
+                 "",
+                 "",
                  {Assertion("spParm", "VYRCfdDefaultManagementAdp::SetCustomDefault")}});
     Add(ioRows, {FailedCall("specAccess[\"defaultManagement\"][VYRCFDBASE(DefaultManagement, "
                             "configuration)].SetList(configItemsList)",
                             Application, Handed),
-                 DefaultItem, "InsertAtPosition", "configuration", "",
+                 DefaultItem,
+                 "InsertAtPosition",
+                 "configuration",
+                 "",
                  {FailedCall("_spAttr->InsertAtPosition(_spKey, spSpec, i)", "VYRCfdObjectAccess::SetList", Handed)}});
 }
 
@@ -183,9 +220,14 @@ void AddChoiceItems(ReportRows& ioRows)
     Add(ioRows, {Assertion("spChoice", Application), R"([ { "choices": "alpha" } ])"});
 
     for (const char* arguments : {"value, valuesList", "choicesString, choicesList", "startupsString, startupsList"})
-        ioRows.push_back({FailedCall("VYRCfdUtilityMethods::ConvertStringToVector(" + std::string(arguments) + ")",
-                                     Application),
-                          {}, "", {}, {}, "", "Splitting a text cannot fail."});
+        ioRows.push_back(
+            {FailedCall("VYRCfdUtilityMethods::ConvertStringToVector(" + std::string(arguments) + ")", Application),
+             {},
+             "",
+             {},
+             {},
+             "",
+             "Splitting a text cannot fail."});
 }
 } // namespace
 

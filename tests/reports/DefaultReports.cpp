@@ -1,6 +1,6 @@
 #include "ReportTable.h"
 
-#include "../defaults/StandingAdapter.h"
+#include "StandingAdapter.h"
 
 namespace
 {
@@ -140,8 +140,8 @@ void AddRecords(ReportRows& ioRows)
     for (const Fault& fault : {Fault{"spParm", "GetParm"}, Fault{"spType", "GetType"},
                                Fault{"spParmFactory", "GetVolatileFactory"}, Fault{"spTempParm", "CreateParm"}})
     {
-        Add(ioRows, {Assertion(fault.check, In("isConfigured")), &Default<0>, fault.operation, "", "", 1, "S_OK", {},
-                     true});
+        Add(ioRows,
+            {Assertion(fault.check, In("isConfigured")), &Default<0>, fault.operation, "", "", 1, "S_OK", {}, true});
         Add(ioRows, {Assertion(fault.check, In("SetCustomDefault")), &SetDefault, fault.operation});
     }
     ioRows.push_back({Assertion("m_defMgmt", In("isConfigured")),
@@ -152,23 +152,35 @@ void AddRecords(ReportRows& ioRows)
                           return AnswerOf(adapter->isConfigured("ratio", value) != ORXFalse);
                       },
                       "false"});
-    ioRows.push_back({FailedCall("dmAccess[VYRCFDBASE(DefaultManagement, configuration)].List(configItemsList)",
-                                 In("isConfigured")),
-                      [](ReportBench& ioBench) {
-                          const VYRIMpaDefaultManagementProtected_var management = DefaultManagementOf(ioBench.m_part);
-                          FailCall("Get", "configuration");
-                          return Default<0>(*management.Pointer());
-                      },
-                      "S_OK",
-                      {Error("Null key", "VYRCfdObjectAccess::List")}});
+    ioRows.push_back(
+        {FailedCall("dmAccess[VYRCFDBASE(DefaultManagement, configuration)].List(configItemsList)", In("isConfigured")),
+         [](ReportBench& ioBench) {
+             const VYRIMpaDefaultManagementProtected_var management = DefaultManagementOf(ioBench.m_part);
+             FailCall("Get", "configuration");
+             return Default<0>(*management.Pointer());
+         },
+         "S_OK",
+         {Error("Null key", "VYRCfdObjectAccess::List")}});
 }
 
 void AddCustomDefaults(ReportRows& ioRows)
 {
-    Add(ioRows, {FailedCall("IsSet(iAttrName, isSet)", In("SetCustomDefault")), &SetDefault, "AddAttribute", "", "", 1,
-                 "E_FAIL", {Assertion("pAttr", In("IsSet"))}});
-    Add(ioRows, {FailedCall("Unset(iAttrName)", In("SetCustomDefault")), &SetDefault, "GetValue", "ratio", "", 1,
-                 "E_FAIL", {Assertion("spVal", In("Unset"))}});
+    Add(ioRows, {FailedCall("IsSet(iAttrName, isSet)", In("SetCustomDefault")),
+                 &SetDefault,
+                 "AddAttribute",
+                 "",
+                 "",
+                 1,
+                 "E_FAIL",
+                 {Assertion("pAttr", In("IsSet"))}});
+    Add(ioRows, {FailedCall("Unset(iAttrName)", In("SetCustomDefault")),
+                 &SetDefault,
+                 "GetValue",
+                 "ratio",
+                 "",
+                 1,
+                 "E_FAIL",
+                 {Assertion("spVal", In("Unset"))}});
     Add(ioRows, {Assertion("spVal", In("Unset")), &Unset, "GetValue", "ratio", "Part.1"});
 
     const auto setDefault = [](ReportBench& ioBench, const char* iFault, const char* iSubject) {
