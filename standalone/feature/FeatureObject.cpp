@@ -631,7 +631,8 @@ void FeatureObject::CopyFrom(const FeatureObject& iOther)
             break;
         case SlotKind::List:
             if (!(*key)->IsListOfObjects())
-                StoreEntries(**key, iOther.Entries(**key));
+                // Without StoreEntries: where memory runs out in its argument's copy, g++ 12 unwinds wrongly.
+                List(**key).entries = iOther.Entries(**key);
             break;
         case SlotKind::Object:
             if (FeatureObject* const component = iOther.Object(**key))
