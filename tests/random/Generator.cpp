@@ -208,11 +208,13 @@ Object* Generator::Target(const char* iLetters)
 
 const Attribute* Generator::AnyOf(const Object& iObject, const char* iLetters)
 {
+    // The letters may end behind the first.
+    const char kind = iLetters[1];
+    const char taken = kind != '\0' ? iLetters[2] : '\0';
     std::vector<const Attribute*> suited;
     for (const auto& [name, attribute] : iObject.attributes)
         // The sub-feature is left alone mostly: little works without it.
-        if (Suits(attribute, iLetters[1]) && Takes(attribute, iLetters[2]) &&
-            (name != "defaultManagement" || OneIn(12)))
+        if (Suits(attribute, kind) && Takes(attribute, taken) && (name != "defaultManagement" || OneIn(12)))
             suited.push_back(&attribute);
     return suited.empty() ? nullptr : Any(suited);
 }
