@@ -37,7 +37,8 @@ protected:
     void SetUp() override;
     void TearDown() override;
 
-    /// Lets everything go that the bench holds. Nothing of the host's is alive afterwards, unless somebody has leaked it.
+    /// Lets everything go that the bench holds. Nothing of the host's is alive afterwards, unless somebody has leaked
+    /// it.
     void LetGo();
 
 private:
