@@ -10,7 +10,7 @@ total=""
 status=0
 for preset in release asan-ubsan; do
     build "$preset" --target faults_test -DVYRCFD_BUILD_TESTS=ON
-    rm -f "$figures"
+    : >"$figures"
     # Each group in a process of its own, so that one that is terminated does not end the others.
     (cd "$root" && VYR_FAULTS=all VYR_FAULT_FIGURES=$figures \
         ctest --preset "$preset" -j2 -L '^faults$' --timeout 1800 --output-on-failure --no-tests=error) || status=1
