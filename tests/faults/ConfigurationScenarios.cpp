@@ -61,7 +61,9 @@ Scenario Loading()
         const auto configurator = std::make_shared<FreshConfigurator>(InstallationFiles());
         return [configurator] {
             VYRCfdConfigurationMap map;
-            return AnswerOf(configurator->GetConfigurationMap(map)) + " " + std::to_string(map.size());
+            // Asked first, whichever side of the sum the compiler begins with.
+            const std::string answer = AnswerOf(configurator->GetConfigurationMap(map));
+            return answer + " " + std::to_string(map.size());
         };
     };
     return scenario;
