@@ -2,6 +2,7 @@
 
 option(VYRCFD_BUILD_TOOLS "Build the command-line tool; needs CLI11 and GNU readline" ON)
 option(VYRCFD_BUILD_TESTS "Build the tests; needs GoogleTest and Python 3" ${PROJECT_IS_TOP_LEVEL})
+option(VYRCFD_BUILD_BENCH "Build the benchmark; needs Google Benchmark, and takes the peers that are installed" OFF)
 option(VYRCFD_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 set(VYRCFD_SANITIZE "" CACHE STRING "Sanitizers for the whole tree, as -fsanitize= takes them; clang")
 option(VYRCFD_COVERAGE "Measure which lines and branches of the two libraries run; clang" OFF)
@@ -20,7 +21,11 @@ set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
 find_program(VYRCFD_CCACHE ccache)
 mark_as_advanced(VYRCFD_CCACHE)
 if(VYRCFD_CCACHE AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_CXX_COMPILER_LAUNCHER "${VYRCFD_CCACHE}")
+  # The cache keeps what is compiled with precompiled headers only when it is told that no source asks for the time.
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+    "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros "${VYRCFD_CCACHE}")
+  # Nor may clang's say when its headers were written.
+  add_compile_options("$<$<CXX_COMPILER_ID:Clang>:SHELL:-Xclang -fno-pch-timestamp>")
 endif()
 
 # Reports carry __FILE__, which relative to the repository reads the same on every machine. Debug information keeps
