@@ -6,6 +6,7 @@
 #include "DocumentNode.h"
 #include "FeatureType.h"
 #include "KindNames.h"
+#include "MeantConfigurations.h"
 #include "ORXTypeCode.h"
 #include "ObjectWalk.h"
 #include "TypeRegistry.h"
@@ -20,7 +21,8 @@ namespace
 class TypeReader
 {
 public:
-    TypeReader(TypeDeclaration& oType, std::vector<std::string>& oValuePaths) : m_type(oType), m_valuePaths(oValuePaths)
+    TypeReader(TypeDeclaration& oType, std::vector<std::string>& oValuePaths, std::vector<MeantConfiguration>& oMeant)
+        : m_type(oType), m_valuePaths(oValuePaths), m_meant(oMeant)
     {
     }
 
@@ -40,6 +42,7 @@ private:
     TypeDeclaration& m_type;
     std::set<std::string> m_names;
     std::vector<std::string>& m_valuePaths;
+    std::vector<MeantConfiguration>& m_meant;
 };
 
 bool EndsWith(std::string_view iText, std::string_view iEnd)
@@ -77,9 +80,9 @@ void TypeReader::Read(const DocumentNode& iType)
     ReadName(iType.Require("name"));
     if (const auto base = iType.Find("base"))
         m_type.base = base->NonEmptyText();
-    // For the tool, which starts from these when it checks configurations.
     if (const auto configurations = iType.Find("configurations"))
-        configurations->Texts();
+        for (const DocumentNode& one : configurations->Elements())
+            m_meant.push_back({m_type.name, one.NonEmptyText(), one.File(), one.Path()});
     if (const auto manager = iType.Find("manager"))
         m_type.isManaged = manager->Boolean();
     if (const auto attributes = iType.Find("attributes"))
@@ -245,7 +248,8 @@ CatalogDocument ReadCatalog(std::string_view iJson, const std::string& iFile)
     for (const DocumentNode& type : types.Elements())
     {
         catalog.valuePaths.emplace_back();
-        TypeReader(catalog.declaration.types.emplace_back(), catalog.valuePaths.back()).Read(type);
+        TypeReader(catalog.declaration.types.emplace_back(), catalog.valuePaths.back(), catalog.meantConfigurations)
+            .Read(type);
         if (!names.insert(catalog.declaration.types.back().name).second)
             type.FailAt("name", "the catalog has a type " + Quoted(catalog.declaration.types.back().name) + " already");
     }
@@ -276,6 +280,9 @@ void CatalogDocument::CheckTypeNames() const
 void CatalogDocument::Declare() const
 {
     CheckTypeNames();
+    // Whatever may fail comes before the types stand.
+    std::vector<MeantConfiguration> meant = meantConfigurations;
+    std::vector<MeantConfiguration>& kept = MeantConfigurationTable::Instance().ListOf(declaration.name, file);
     try
     {
         TypeRegistry::Instance().Declare(declaration);
@@ -289,5 +296,6 @@ void CatalogDocument::Declare() const
             path += "/attributes/" + std::to_string(error.attribute);
         throw DocumentError(file, path, error.what());
     }
+    kept.swap(meant);
 }
 } // namespace VYRStandalone

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "TypeDeclaration.h"
+#include "VYRStandaloneCatalog.h"
 
 namespace VYRStandalone
 {
@@ -19,6 +20,8 @@ public:
     CatalogDeclaration declaration;
     /// By type and value of the declaration: where the value stands in the document.
     std::vector<std::vector<std::string>> valuePaths;
+    /// For the tool, which starts from these when it checks configurations.
+    std::vector<MeantConfiguration> meantConfigurations;
 
     /// @throws DocumentError when the catalog does not fit what is declared already; then nothing of it is
     void Declare() const;

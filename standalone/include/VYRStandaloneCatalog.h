@@ -37,6 +37,19 @@ VYRStandaloneExport std::vector<std::string> TypeNames();
 /// keeps the mark; whoever offers managers registers one for these types.
 VYRStandaloneExport std::vector<std::string> ManagedTypes();
 
+/// A configuration that a catalog lists as meant for objects of a type.
+struct MeantConfiguration
+{
+    std::string type;
+    std::string configuration;
+    /// Where it stands: the catalog's file or label, and the path inside, as "/types/0/configurations/1".
+    std::string file;
+    std::string path;
+};
+
+/// What all catalogs list, in the order of their declaration. The host only keeps it; no configuration need be there.
+VYRStandaloneExport std::vector<MeantConfiguration> MeantConfigurations();
+
 /// One attribute that an object carries.
 struct AttributeInfo
 {

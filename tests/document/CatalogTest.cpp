@@ -95,9 +95,24 @@ TEST(Catalog, Startup_ReachesInheritedAndNestedAttributes)
 TEST(Catalog, Configurations_AreKeptForTheTool)
 {
     EXPECT_EQ(ErrorOf(R"({"catalog": "ConfigurationsTest", "types": [
-        {"name": "ConfiguredType", "configurations": ["steadyFlow"]}]})"),
+        {"name": "PlainType"}, {"name": "ConfiguredType", "configurations": ["steadyFlow", "transientFlow"]}]})"),
               "");
     EXPECT_TRUE(IsDeclared("ConfiguredType"));
+    std::string kept;
+    for (const VYRStandalone::MeantConfiguration& one : VYRStandalone::MeantConfigurations())
+        if (one.type == "ConfiguredType")
+            kept += one.configuration + " " + one.path + "\n";
+    EXPECT_EQ(kept, "steadyFlow /types/1/configurations/0\n"
+                    "transientFlow /types/1/configurations/1\n");
+}
+
+TEST(Catalog, ConfigurationsOfARefusedCatalog_AreNotKept)
+{
+    EXPECT_NE(ErrorOf(R"({"catalog": "RefusedConfigurationsTest", "types": [
+        {"name": "RefusedConfiguredType", "base": "NoSuchBase", "configurations": ["steadyFlow"]}]})"),
+              "");
+    for (const VYRStandalone::MeantConfiguration& one : VYRStandalone::MeantConfigurations())
+        EXPECT_NE(one.type, "RefusedConfiguredType");
 }
 
 struct ErrorCase
