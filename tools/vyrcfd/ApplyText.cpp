@@ -1,6 +1,7 @@
 #include "ApplyText.h"
 
 #include "JsonWriter.h"
+#include "ORXTypeCode.h"
 #include "Output.h"
 #include "Wording.h"
 
@@ -37,19 +38,74 @@ std::vector<std::string> FlagChanges(const AttributeSnapshot& iBefore, const Att
     return parts;
 }
 
+std::string Coloured(const std::vector<std::string>& iParts, const Colours& iColours)
+{
+    std::vector<std::string> parts;
+    for (const std::string& part : iParts)
+        parts.push_back(iColours.Noted(part));
+    return Joined(parts);
+}
+
+/// The value and the flags of one side: what was there, or what is there now.
+std::string SideText(const AttributeSnapshot& iAttribute)
+{
+    std::vector<std::string> parts{iAttribute.value.Shown()};
+    if (iAttribute.set.value_or(false))
+        parts.emplace_back("set");
+    if (iAttribute.automatic)
+        parts.emplace_back(*iAttribute.automatic ? "auto" : "auto off");
+    return Joined(parts);
+}
+
 std::string AttributeText(const AttributeChange& iChange, const Colours& iColours)
 {
     if (iChange.before == nullptr)
-        return OneLine(iChange.after->info.name) + ": " + iColours.Added("added, " + iChange.after->value.Shown());
+        return OneLine(iChange.after->info.name) + ": " + iColours.Added("added, " + SideText(*iChange.after));
     if (iChange.after == nullptr)
-        return OneLine(iChange.before->info.name) + ": " + iColours.Removed("taken away");
+        return OneLine(iChange.before->info.name) + ": " + iColours.Removed("taken away, " + SideText(*iChange.before));
     std::vector<std::string> parts;
     if (!(iChange.before->value == iChange.after->value))
         parts.push_back(iColours.Removed(iChange.before->value.Shown()) + " -> " +
                         iColours.Added(iChange.after->value.Shown()));
-    for (const std::string& flag : FlagChanges(*iChange.before, *iChange.after))
-        parts.push_back(flag);
+    if (const std::string flags = Coloured(FlagChanges(*iChange.before, *iChange.after), iColours); !flags.empty())
+        parts.push_back(flags);
     return OneLine(iChange.after->info.name) + ": " + Joined(parts);
+}
+
+/// Whether an object that comes or goes is told with this: what it owns stands as objects of their own, and of what
+/// holds nothing there is nothing to tell.
+bool IsTold(const AttributeSnapshot* iAttribute)
+{
+    if (iAttribute == nullptr)
+        return false;
+    const bool hasFlag = iAttribute->set.value_or(false) || iAttribute->automatic;
+    switch (iAttribute->value.GetKind())
+    {
+    case Value::Kind::Unset:
+    case Value::Kind::Empty:
+        return hasFlag;
+    case Value::Kind::List:
+        return hasFlag || (iAttribute->info.listType != tk_component && !iAttribute->value.Entries().empty());
+    default:
+        return hasFlag || iAttribute->info.type != tk_component || iAttribute->value.GetKind() == Value::Kind::Column;
+    }
+}
+
+/// What an object holds that has come (+), and one that has gone (-).
+std::string HoldingsText(const std::vector<AttributeChange>& iAttributes, const Colours& iColours)
+{
+    std::string text;
+    for (const AttributeChange& attribute : iAttributes)
+        if (IsTold(attribute.before))
+            text += Indent +
+                    iColours.Removed("- " + OneLine(attribute.before->info.name) + ": " + SideText(*attribute.before)) +
+                    "\n";
+    for (const AttributeChange& attribute : iAttributes)
+        if (IsTold(attribute.after))
+            text += Indent +
+                    iColours.Added("+ " + OneLine(attribute.after->info.name) + ": " + SideText(*attribute.after)) +
+                    "\n";
+    return text;
 }
 
 /// The path, and what has become of the object there.
@@ -71,8 +127,11 @@ std::string HeadingText(const ObjectChange& iChange, const Colours& iColours)
 std::string ObjectText(const ObjectChange& iChange, const Colours& iColours)
 {
     std::string text = HeadingText(iChange, iColours);
-    for (const AttributeChange& attribute : iChange.attributes)
-        text += Indent + AttributeText(attribute, iColours) + "\n";
+    if (iChange.IsOfAnother())
+        text += HoldingsText(iChange.attributes, iColours);
+    else
+        for (const AttributeChange& attribute : iChange.attributes)
+            text += Indent + AttributeText(attribute, iColours) + "\n";
     for (const RecordSnapshot* record : iChange.goneRecords)
         text += Indent + iColours.Removed("- record " + record->Shown()) + "\n";
     for (const RecordSnapshot* record : iChange.newRecords)
@@ -105,6 +164,8 @@ std::string SummaryText(const Application& iApplication, const Difference& iDiff
     if (iDifference.unreferencedRecords > 0)
         text += ", " + Counted(static_cast<std::size_t>(iDifference.unreferencedRecords), "record") +
                 " left that nothing refers to";
+    if (!iApplication.notes.empty())
+        text += ", " + Counted(iApplication.notes.size(), "report") + " on standard error";
     return text + ".\n";
 }
 

@@ -50,15 +50,17 @@ bool IsSame(const AttributeSnapshot& iBefore, const AttributeSnapshot& iAfter)
     return iBefore.value == iAfter.value && iBefore.set == iAfter.set && iBefore.automatic == iAfter.automatic;
 }
 
+/// Attributes that differ; of objects of different types, which hold nothing in common, all.
 std::vector<AttributeChange> CompareAttributes(const ObjectSnapshot& iBefore, const ObjectSnapshot& iAfter)
 {
+    const bool isOtherType = iBefore.type != iAfter.type;
     std::vector<AttributeChange> changes;
     const std::vector<const AttributeSnapshot*> before = All(iBefore);
     const std::vector<const AttributeSnapshot*> after = All(iAfter);
     for (const AttributeSnapshot* attribute : after)
     {
         const AttributeSnapshot* old = Find(before, attribute->info.name);
-        if (old == nullptr || !IsSame(*old, *attribute))
+        if (isOtherType || old == nullptr || !IsSame(*old, *attribute))
             changes.push_back({old, attribute});
     }
     for (const AttributeSnapshot* attribute : before)
@@ -139,21 +141,35 @@ ObjectChange ChangeOf(const ObjectSnapshot& iBefore, const ObjectSnapshot& iAfte
     return change;
 }
 
+/// Where there is no object; changes refer to it.
+const ObjectSnapshot& NoObject()
+{
+    static const ObjectSnapshot none;
+    return none;
+}
+
 /// @param iReplaced what stood at the object's place before; null for nothing
 ObjectChange ChangeOfNew(const ObjectSnapshot& iObject, const ObjectSnapshot* iReplaced)
 {
-    ObjectChange change;
-    // Attributes of different types do not tell of each other.
-    if (iReplaced != nullptr && iReplaced->type == iObject.type)
-        change = ChangeOf(*iReplaced, iObject);
-    else
-        CompareRecords({}, iObject, change);
-    change.object = &iObject;
+    ObjectChange change = ChangeOf(iReplaced != nullptr ? *iReplaced : NoObject(), iObject);
     change.replaced = iReplaced;
     change.isNew = iReplaced == nullptr;
     return change;
 }
+
+ObjectChange ChangeOfGone(const ObjectSnapshot& iObject)
+{
+    ObjectChange change = ChangeOf(iObject, NoObject());
+    change.object = &iObject;
+    change.isGone = true;
+    return change;
+}
 } // namespace
+
+bool ObjectChange::IsOfAnother() const
+{
+    return isNew || isGone || (replaced != nullptr && replaced->type != object->type);
+}
 
 bool ObjectChange::IsEmpty() const
 {
@@ -165,7 +181,7 @@ std::size_t Difference::ChangedAttributes() const
 {
     std::size_t count = 0;
     for (const ObjectChange& change : objects)
-        count += change.attributes.size();
+        count += change.IsOfAnother() ? 0 : change.attributes.size();
     return count;
 }
 
@@ -201,12 +217,7 @@ Difference Compare(const Snapshot& iBefore, const Snapshot& iAfter)
         if (IsUnreferenced(object))
             --difference.unreferencedRecords;
         else if (const auto gone = gonePlaces.find(object.path); gone != gonePlaces.end() && gone->second == &object)
-        {
-            ObjectChange change;
-            change.object = &object;
-            change.isGone = true;
-            difference.objects.push_back(std::move(change));
-        }
+            difference.objects.push_back(ChangeOfGone(object));
     }
     return difference;
 }

@@ -25,13 +25,16 @@ struct ObjectChange
     bool isGone = false;
     /// The object that stood at this place before, where there was one; then the object is not new.
     const ObjectSnapshot* replaced = nullptr;
-    /// Of the object, also against one of the same type that it has replaced.
+    /// What differs from before, also from an object of the same type that this one has replaced. Otherwise all that a
+    /// new object holds, that one that is gone has held, or both, of one whose type has changed.
     std::vector<AttributeChange> attributes;
     std::vector<const RecordSnapshot*> newRecords;
     std::vector<const RecordSnapshot*> goneRecords;
     /// How many records stand in the place of others that said the same.
     std::size_t remadeRecords = 0;
 
+    /// Whether the attributes tell of objects that come or go, not of what has changed on one.
+    bool IsOfAnother() const;
     bool IsEmpty() const;
 };
 
@@ -43,6 +46,7 @@ struct Difference
     /// By how many records that no object refers to there are more.
     int unreferencedRecords = 0;
 
+    /// On objects that were there before.
     std::size_t ChangedAttributes() const;
     std::size_t NewRecords() const;
 };

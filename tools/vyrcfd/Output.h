@@ -26,6 +26,7 @@ public:
 
     std::string Heading(const std::string& iText) const { return Wrapped("1", iText); }
     std::string Added(const std::string& iText) const { return Wrapped("32", iText); }
+    std::string Noted(const std::string& iText) const { return Wrapped("33", iText); }
     std::string Removed(const std::string& iText) const { return Wrapped("31", iText); }
 
 private:
