@@ -603,7 +603,11 @@ void FeatureObject::DropSlot(const FeatureKey& iKey) noexcept
     switch (iKey.Slot())
     {
     case SlotKind::Value:
-        Parm(iKey).Destroy();
+        // A start-up ends only when its declaration is taken back, or made anew before anybody has seen it.
+        if (m_isPrototype)
+            Parm(iKey).DestroyUnseen();
+        else
+            Parm(iKey).Destroy();
         break;
     case SlotKind::Object:
         if (FeatureObject* const object = m_isPrototype ? ObjectAt(iKey).object : nullptr)

@@ -32,11 +32,17 @@ public:
         }
     }
 
-    /// The name must not stand yet.
-    void Insert(FeatureKey* iKey)
+    /// So that the next key can be inserted without taking memory.
+    void MakeRoom()
     {
         if (2 * (m_used + 1) > m_places.size())
             Grow();
+    }
+
+    /// The name must not stand yet.
+    void Insert(FeatureKey* iKey)
+    {
+        MakeRoom();
         Put({Hash(iKey->Name().View()), iKey});
         ++m_used;
     }

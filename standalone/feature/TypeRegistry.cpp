@@ -5,6 +5,7 @@
 #include "Dictionary.h"
 #include "FeatureObject.h"
 #include "StartupValues.h"
+#include "TypeRegistryUndo.h"
 
 namespace VYRStandalone
 {
@@ -32,7 +33,7 @@ void AddMissingAttributes(const TypeRegistry& iRegistry, FeatureType& ioType, co
 
 TypeRegistry::TypeRegistry() : m_columnType(new FeatureType(columnTypeName, nullptr))
 {
-    m_columnType->CompletePrototype();
+    m_columnType->MakePrototype();
     Declare(BuiltInCatalog());
 }
 
@@ -52,17 +53,17 @@ void TypeRegistry::Declare(const CatalogDeclaration& iCatalog)
 {
     // Whatever is wrong, is found here; what follows cannot be refused.
     const CatalogPlan plan(*this, iCatalog);
+    Undo undo(*this);
     // All types first, since attributes name types; then the attributes, those of bases before those that inherit them.
     std::vector<bool> isNew(iCatalog.types.size(), false);
     for (const std::size_t index : plan.BasesFirst())
     {
         const TypeDeclaration& declaration = iCatalog.types[index];
-        if (Find(declaration.name) != nullptr)
-            continue;
-        FeatureType* const type = new FeatureType(declaration.name, Find(declaration.base));
-        m_types.push_back(type);
-        m_byName.emplace(type->Name(), type);
-        isNew[index] = true;
+        isNew[index] = Find(declaration.name) == nullptr;
+        if (isNew[index])
+            undo.Make(declaration.name, Find(declaration.base));
+        else
+            undo.Remember(*Find(declaration.name));
     }
     for (const std::size_t index : plan.BasesFirst())
     {
@@ -73,6 +74,9 @@ void TypeRegistry::Declare(const CatalogDeclaration& iCatalog)
         AddMissingAttributes(*this, type, iCatalog.types[index]);
         if (iCatalog.types[index].isManaged)
             type.SetManaged();
+        for (const AttributeDeclaration& attribute : iCatalog.types[index].attributes)
+            if (FeatureType* const component = Find(attribute.componentType))
+                undo.RememberUse(*component);
     }
     // A start-up takes over what those of its base and of its components hold: their values have to stand before it.
     for (const std::size_t index : plan.PartsFirst())
@@ -80,11 +84,15 @@ void TypeRegistry::Declare(const CatalogDeclaration& iCatalog)
         const TypeDeclaration& declaration = iCatalog.types[index];
         FeatureType& type = *Find(declaration.name);
         type.SetObjectCount(plan.ObjectCount(declaration.name));
-        type.CompletePrototype();
+        // The start-up of a type in use holds the values already, and is not to be written meanwhile.
+        if (undo.WasFrozen(type))
+            continue;
+        type.MakePrototype();
         for (const PrototypeValue& value : declaration.values)
             StartupValues::Apply(*type.Prototype(), value);
     }
-    m_catalogs.insert(iCatalog.name);
+    undo.EnterCatalog(iCatalog.name);
+    undo.Keep();
     Dictionary::MarkStale();
 }
 } // namespace VYRStandalone

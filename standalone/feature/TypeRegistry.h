@@ -32,13 +32,15 @@ public:
     /// True when a catalog of the name has been declared.
     bool HasCatalog(const std::string& iName) const { return m_catalogs.count(iName) != 0; }
 
-    /// All or nothing. @throws DeclarationError, and then nothing has been declared
+    /// All or nothing, also when memory runs out. @throws DeclarationError, and then nothing has been declared
     void Declare(const CatalogDeclaration& iCatalog);
 
     /// The type of table columns, which is in no catalog.
     FeatureType& ColumnType() const noexcept { return *m_columnType; }
 
 private:
+    class Undo;
+
     TypeRegistry();
 
     std::vector<FeatureType*> m_types;

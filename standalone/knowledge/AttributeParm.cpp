@@ -36,6 +36,14 @@ void AttributeParm::Destroy()
     this->~AttributeParm();
 }
 
+void AttributeParm::DestroyUnseen() noexcept
+{
+    if (m_current != &m_cell)
+        ::delete m_current;
+    m_cell.~ValueCell();
+    this->~AttributeParm();
+}
+
 void AttributeParm::Renew()
 {
     ValueCell* const former = m_current;

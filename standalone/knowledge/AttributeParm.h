@@ -19,6 +19,8 @@ public:
 
     /// Ends the slot. Values that are still held live on.
     void Destroy();
+    /// The same for a start-up that nobody can have seen, so that nobody holds its value.
+    void DestroyUnseen() noexcept;
 
     FeatureObject& Object() const noexcept { return m_object; }
     const FeatureKey& Key() const noexcept { return m_key; }

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <map>
+#include <memory>
 #include <mutex>
 #include <typeinfo>
 
@@ -77,15 +78,17 @@ KnowledgeType* KnowledgeType::String()
 
 KnowledgeType* KnowledgeType::MakeEnumeration(const std::string& iName, const std::vector<std::string>& iTexts)
 {
-    KnowledgeType* const type = ::new KnowledgeType(ValueKind::Enumeration, iName, Enum());
-    for (const std::string& text : iTexts)
-        type->m_texts.emplace_back(text.c_str(), text.size());
     // Kept, so that it stays reachable when the object that an enumeration was added to has gone.
     static std::mutex* const mutex = new std::mutex;
     static std::vector<KnowledgeType*>* const kept = new std::vector<KnowledgeType*>;
+    const auto drop = [](KnowledgeType* iType) { ::delete iType; };
+    std::unique_ptr<KnowledgeType, decltype(drop)> type(::new KnowledgeType(ValueKind::Enumeration, iName, Enum()),
+                                                        drop);
+    for (const std::string& text : iTexts)
+        type->m_texts.emplace_back(text.c_str(), text.size());
     const std::lock_guard<std::mutex> lock(*mutex);
-    kept->push_back(type);
-    return type;
+    kept->push_back(type.get());
+    return type.release();
 }
 
 KnowledgeType* KnowledgeType::RealOfUnit(const std::string& iUnit, std::string& oWhy)

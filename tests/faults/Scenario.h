@@ -33,6 +33,10 @@ struct Scenario
     Kind kind = Kind::Writes;
     /// A failed status of it needs no report: the operation answers it where there is nothing to tell.
     bool isSilent = false;
+    /// What it makes belongs to the process, and is never given back.
+    bool isKept = false;
+    /// Of allocations, every which is made to fail.
+    int step = 1;
     /// What is left besides the model; empty for nothing. Throws nothing, and expects by itself.
     std::function<void()> check = {};
 };
