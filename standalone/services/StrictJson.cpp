@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include <rapidjson/encodedstream.h>
 #include <rapidjson/error/en.h>
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
@@ -73,8 +72,8 @@ bool IsTooLarge(std::string_view iNumber)
     return point - first + exponent > 0;
 }
 
-/// Builds a document, and reads the numbers itself: the parser's own reading of reals is not always the nearest one,
-/// and at the edges infinite or no number at all.
+/// Builds a document as deep as is allowed, and reads the numbers itself: the parser's own reading of reals is not
+/// always the nearest one, and at the edges infinite or no number at all.
 class DocumentBuilder
 {
 public:
@@ -95,10 +94,10 @@ public:
     {
         return m_document.Key(iText, iLength, iCopy);
     }
-    bool StartObject() { return m_document.StartObject(); }
-    bool EndObject(rapidjson::SizeType iMembers) { return m_document.EndObject(iMembers); }
-    bool StartArray() { return m_document.StartArray(); }
-    bool EndArray(rapidjson::SizeType iElements) { return m_document.EndArray(iElements); }
+    bool StartObject() { return Enter() && m_document.StartObject(); }
+    bool EndObject(rapidjson::SizeType iMembers) { return Leave() && m_document.EndObject(iMembers); }
+    bool StartArray() { return Enter() && m_document.StartArray(); }
+    bool EndArray(rapidjson::SizeType iElements) { return Leave() && m_document.EndArray(iElements); }
 
     /// False, which ends the parsing, only for a number that a double cannot hold.
     bool RawNumber(const char* iText, rapidjson::SizeType iLength, bool /*iCopy*/)
@@ -121,9 +120,33 @@ public:
         return m_document.Double(isHeld ? real : number.front() == '-' ? -0.0 : 0.0);
     }
 
+    bool IsTooDeep() const { return m_depth > StrictJson::DeepestNesting; }
+
 private:
+    bool Enter()
+    {
+        ++m_depth;
+        return !IsTooDeep();
+    }
+
+    bool Leave()
+    {
+        --m_depth;
+        return true;
+    }
+
     rapidjson::Document& m_document;
+    int m_depth = 0;
 };
+
+/// What is said where the builder, and not the parser, ends the parsing.
+std::string RefusalOf(const DocumentBuilder& iBuilder)
+{
+    if (iBuilder.IsTooDeep())
+        return "Arrays and objects stand inside each other more than " + std::to_string(StrictJson::DeepestNesting) +
+               " deep.";
+    return rapidjson::GetParseError_En(rapidjson::kParseErrorNumberTooBig);
+}
 } // namespace
 
 namespace StrictJson
@@ -139,21 +162,21 @@ std::optional<SyntaxError> Parse(std::string_view iText, rapidjson::Document& oD
     constexpr unsigned Flags =
         rapidjson::kParseNumbersAsStringsFlag | rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag;
     rapidjson::ParseResult result;
+    std::string refusal;
     const auto generate = [&](rapidjson::Document& oBuilt) {
-        rapidjson::MemoryStream bytes(iText.empty() ? "" : iText.data(), iText.size());
-        rapidjson::EncodedInputStream<rapidjson::UTF8<>, rapidjson::MemoryStream> stream(bytes);
+        // Without an encoded stream around it, which skips each byte of a byte order mark also where it stands alone.
+        rapidjson::MemoryStream stream(iText.empty() ? "" : iText.data(), iText.size());
         DocumentBuilder builder(oBuilt);
         rapidjson::Reader reader;
         result = reader.Parse<Flags>(stream, builder);
+        if (result.Code() == rapidjson::kParseErrorTermination)
+            refusal = RefusalOf(builder);
         return !result.IsError();
     };
     oDocument.Populate(generate);
     if (result.IsError())
-    {
-        const bool isNumber = result.Code() == rapidjson::kParseErrorTermination;
         return ErrorAt(iText, result.Offset(),
-                       rapidjson::GetParseError_En(isNumber ? rapidjson::kParseErrorNumberTooBig : result.Code()));
-    }
+                       refusal.empty() ? rapidjson::GetParseError_En(result.Code()) : std::move(refusal));
     if (const std::size_t half = FindLoneSurrogate(iText); half != std::string_view::npos)
         return ErrorAt(iText, half, "The surrogate pair in string is invalid.");
     return std::nullopt;

@@ -52,6 +52,11 @@ INSTANTIATE_TEST_SUITE_P(
                     JsonCase{"HalfASurrogatePair", "{\"\xC3\xA4\": \"\\udc00\"}",
                              ":1:8: The surrogate pair in string is invalid."},
                     JsonCase{"Trailing", "{}\n{}", ":2:1: The document root must not be followed by other values."},
+                    // Bytes of a byte order mark that is none.
+                    JsonCase{"FirstOfAMark", "\xEF{}", ":1:1: Invalid value."},
+                    JsonCase{"SecondOfAMark", "\xBB{}", ":1:1: Invalid value."},
+                    JsonCase{"ThirdOfAMark", "\xBF{}", ":1:1: Invalid value."},
+                    JsonCase{"HalfAMark", "\xEF\xBB{}", ":1:1: Invalid value."},
                     JsonCase{"ZeroByte", std::string("{}\n\0", 4), ":2:1: A zero byte has no place in JSON."}),
     [](const testing::TestParamInfo<JsonCase>& iInfo) { return std::string(iInfo.param.what); });
 
