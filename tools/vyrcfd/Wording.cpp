@@ -73,6 +73,15 @@ std::string Escaped(std::string_view iText, bool iInQuotes)
     return escaped;
 }
 
+/// For letters of ASCII.
+bool EqualsIgnoringCase(std::string_view iLeft, std::string_view iRight)
+{
+    const auto lower = [](char iByte) { return iByte >= 'A' && iByte <= 'Z' ? static_cast<char>(iByte + 32) : iByte; };
+    return iLeft.size() == iRight.size() &&
+           std::equal(iLeft.begin(), iLeft.end(), iRight.begin(),
+                      [&](char iOne, char iOther) { return lower(iOne) == lower(iOther); });
+}
+
 /// Letters to insert, take out or replace to come from one text to the other.
 std::size_t EditDistance(std::string_view iLeft, std::string_view iRight)
 {
@@ -127,17 +136,24 @@ std::string Counted(std::size_t iNumber, const std::string& iSingular)
     return std::to_string(iNumber) + " " + iSingular + (iNumber == 1 ? "" : "s");
 }
 
-std::string DidYouMean(std::string_view iUnknown, const std::vector<std::string>& iKnown)
+std::string Nearest(std::string_view iUnknown, const std::vector<std::string>& iKnown)
 {
     // Longer than any name, it is no misspelling, and comparing would take its time.
     constexpr std::size_t LongestName = 200;
     if (iUnknown.size() > LongestName)
         return {};
+    const auto sameButForCase = [&](const std::string& iKnownOne) { return EqualsIgnoringCase(iUnknown, iKnownOne); };
+    const auto same = std::find_if(iKnown.begin(), iKnown.end(), sameButForCase);
+    if (same != iKnown.end())
+        return *same;
     const std::string* best = nullptr;
     // Half of the letters wrong is no misspelling either.
     std::size_t bestDistance = std::max<std::size_t>(2, (iUnknown.size() + 1) / 2);
     for (const std::string& known : iKnown)
     {
+        const std::size_t longer = std::max(known.size(), iUnknown.size());
+        if (longer - std::min(known.size(), iUnknown.size()) >= bestDistance)
+            continue;
         const std::size_t distance = EditDistance(iUnknown, known);
         if (distance < bestDistance)
         {
@@ -145,6 +161,12 @@ std::string DidYouMean(std::string_view iUnknown, const std::vector<std::string>
             bestDistance = distance;
         }
     }
-    return best != nullptr ? "; did you mean " + Quoted(*best) + "?" : std::string();
+    return best != nullptr ? *best : std::string();
+}
+
+std::string DidYouMean(std::string_view iUnknown, const std::vector<std::string>& iKnown)
+{
+    const std::string nearest = Nearest(iUnknown, iKnown);
+    return nearest.empty() ? nearest : "; did you mean " + Quoted(nearest) + "?";
 }
 } // namespace Tool

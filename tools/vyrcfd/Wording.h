@@ -29,6 +29,9 @@ bool IsUtf8(std::string_view iText);
 /// "1 item", "2 items".
 std::string Counted(std::size_t iNumber, const std::string& iSingular);
 
+/// The known name that an unknown one is most like; empty when nothing is like it.
+std::string Nearest(std::string_view iUnknown, const std::vector<std::string>& iKnown);
+
 /// What to say behind an unknown name: the known one that it is most like, as `; did you mean "wall"?`. Empty when
 /// nothing is like it.
 std::string DidYouMean(std::string_view iUnknown, const std::vector<std::string>& iKnown);

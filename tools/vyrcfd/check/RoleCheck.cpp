@@ -1,0 +1,110 @@
+#include "CheckRun.h"
+#include "Wording.h"
+
+namespace Tool
+{
+namespace
+{
+/// A key of an item that is there and says something.
+bool Says(const SourceItem& iItem, std::string_view iKey)
+{
+    return !iItem.Text(iKey).empty();
+}
+
+std::string WhyNothing(const SourceItem& iItem, std::string& oKey)
+{
+    if (iItem.role == ItemRole::ValueWithoutList)
+    {
+        oKey = "value";
+        return "the item does nothing: a \"value\" takes effect only beside a true \"list\", and without it the whole "
+               "item is passed over";
+    }
+    if (Says(iItem, "Startups"))
+    {
+        oKey = "Startups";
+        return "the item does nothing: \"Startups\" belong to \"choices\", which are missing";
+    }
+    if (Says(iItem, "defaultAutoKey"))
+    {
+        oKey = "defaultAutoKey";
+        return "the item does nothing: a \"defaultAutoKey\" belongs to a \"default\", which is missing";
+    }
+    if (Says(iItem, "condition"))
+    {
+        oKey = "condition";
+        return "the item does nothing: a \"condition\" belongs to a \"config\", which is missing";
+    }
+    for (const char* key : {"default", "value", "config"})
+        if (iItem.value.Has(key))
+        {
+            oKey = key;
+            return "the item does nothing: its " + Quoted(key) + " is empty";
+        }
+    return "the item does nothing: it has none of \"choices\", \"value\", \"default\" and \"config\"";
+}
+
+/// What the role of an item leaves unread, and why.
+struct Unread
+{
+    std::vector<const char*> keys;
+    const char* winner;
+};
+
+Unread UnreadBy(ItemRole iRole)
+{
+    switch (iRole)
+    {
+    case ItemRole::Choice:
+        return {{"type", "defaultAutoKey", "value", "list", "config", "condition"}, "choices"};
+    case ItemRole::Values:
+        return {{"type", "default", "defaultAutoKey", "display", "config", "condition", "Startups"}, "value"};
+    case ItemRole::AutomaticDefault:
+    case ItemRole::CustomDefault:
+        return {{"display", "list", "config", "condition", "Startups"}, "default"};
+    case ItemRole::Nested:
+    case ItemRole::Conditional:
+        return {{"type", "defaultAutoKey", "display", "list", "Startups"}, "config"};
+    case ItemRole::ValueWithoutList:
+    case ItemRole::Nothing:
+        break;
+    }
+    return {{}, ""};
+}
+
+void CheckUnread(const SourceItem& iItem, CheckRun& ioRun)
+{
+    const Unread unread = UnreadBy(iItem.role);
+    for (const std::string key : unread.keys)
+    {
+        if (!Says(iItem, key) && !iItem.value.IsTrueAt(key))
+            continue;
+        // Nothing reads the word for the type but people, and what it says may be right.
+        const Severity severity = key == "type" ? Severity::Note : Severity::Warning;
+        ioRun.Add(FindingAt(iItem, key, FindingKind::IgnoredKey, severity,
+                            Quoted(key) + " has no effect in an item with " + Quoted(unread.winner)));
+    }
+    if (iItem.role == ItemRole::Choice && Says(iItem, "path"))
+        ioRun.Add(FindingAt(iItem, "path", FindingKind::IgnoredKey, Severity::Warning,
+                            "the \"path\" of an item with \"choices\" is not followed: the Choice is the object that "
+                            "the configuration is applied to, and a record of its default under that path is lost; "
+                            "reach one that lies deeper by an item with \"config\""));
+}
+} // namespace
+
+void CheckRoles(CheckRun& ioRun)
+{
+    for (const SourceConfiguration& configuration : ioRun.source.Configurations())
+        for (const SourceItem& item : ItemsOf(configuration))
+        {
+            const bool isIdle = item.role == ItemRole::ValueWithoutList || item.role == ItemRole::Nothing;
+            if (!isIdle)
+                CheckUnread(item, ioRun);
+            else if (!HasWrongKey(item.value))
+            {
+                std::string key;
+                std::string why = WhyNothing(item, key);
+                ioRun.Add(FindingAt(item, key, FindingKind::DoesNothing, Severity::Error, std::move(why)));
+            }
+        }
+}
+} // namespace Tool
