@@ -176,9 +176,8 @@ Work ConstructCondition()
 
 std::vector<std::pair<std::string, Work (*)()>> CountedWorks()
 {
-    return {{"1-read-by-path", ReadByPath},       {"2-read-by-keys", ReadByKeys},
-            {"3-write-by-path", WriteByPath},     {"4-read-by-name", ReadByName},
-            {"4-read-held", ReadHeld},            {"5-write-values", WriteValues},
-            {"6-evaluate", EvaluateCondition},    {"6-construct", ConstructCondition}};
+    return {{"1-read-by-path", ReadByPath},    {"2-read-by-keys", ReadByKeys},     {"3-write-by-path", WriteByPath},
+            {"4-read-by-name", ReadByName},    {"4-read-held", ReadHeld},          {"5-write-values", WriteValues},
+            {"6-evaluate", EvaluateCondition}, {"6-construct", ConstructCondition}};
 }
 } // namespace Bench

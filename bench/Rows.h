@@ -45,8 +45,8 @@ struct Opponent
 };
 
 /// Measures ours beside all of them at once; a line each.
-std::vector<Line> Compare(int iRow, const std::string& iText, const Work& iOurs, const std::vector<Opponent>& iOpponents,
-                          int iRounds);
+std::vector<Line> Compare(int iRow, const std::string& iText, const Work& iOurs,
+                          const std::vector<Opponent>& iOpponents, int iRounds);
 
 /// What a child process does for the row of cold loads. @return nanoseconds; negative for what it does not know
 double ColdLoadInChild(const std::string& iWhose, const std::string& iFolder);

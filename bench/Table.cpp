@@ -12,7 +12,11 @@ std::string NumberText(double iNumber)
 {
     char text[32];
     const double size = iNumber < 0 ? -iNumber : iNumber;
-    std::snprintf(text, sizeof(text), size >= 100 ? "%.0f" : size >= 10 ? "%.1f" : size >= 0.1 ? "%.2f" : "%.4f",
+    std::snprintf(text, sizeof(text),
+                  size >= 100   ? "%.0f"
+                  : size >= 10  ? "%.1f"
+                  : size >= 0.1 ? "%.2f"
+                                : "%.4f",
                   iNumber);
     return text;
 }
@@ -30,11 +34,14 @@ std::array<std::string, 8> Cells(const Line& iLine)
         met = "met, aim too";
     if (!iLine.fault.empty())
         met += ": " + iLine.fault;
-    return {std::to_string(iLine.row), iLine.work,
-            iLine.ours,                iLine.peer,
+    return {std::to_string(iLine.row),
+            iLine.work,
+            iLine.ours,
+            iLine.peer,
             iLine.figure ? WithUnit(*iLine.figure, iLine.unit) : "",
             WithUnit(iLine.reach, iLine.unit),
-            aim,                       met};
+            aim,
+            met};
 }
 
 std::string Quoted(const std::string& iText)
@@ -63,9 +70,8 @@ std::string TimeText(double iNanoseconds)
 
 int CountReached(const std::vector<Line>& iLines)
 {
-    return static_cast<int>(std::count_if(iLines.begin(), iLines.end(), [](const Line& iLine) {
-        return iLine.IsReached();
-    }));
+    return static_cast<int>(
+        std::count_if(iLines.begin(), iLines.end(), [](const Line& iLine) { return iLine.IsReached(); }));
 }
 
 void Print(const std::vector<Line>& iLines)

@@ -39,10 +39,10 @@ struct Row
 };
 
 // The large ones last: what they leave in the heap and the caches meets none of the short ones.
-constexpr Row Rows[] = {{1, ReadByPathRow},    {2, ReadByKeysRow},   {3, WriteByPathRow}, {4, OneLevelRow},
-                        {5, WriteValuesRow},   {6, ConditionRow},    {7, CopyAndScopeRow}, {8, ColdLoadRow},
-                        {9, DefaultsRow},      {10, ScalingRow},     {11, SetListRow},    {12, ChoiceRow},
-                        {13, MemoryRow},       {14, LoadAndSaveRow}};
+constexpr Row Rows[] = {{1, ReadByPathRow},  {2, ReadByKeysRow},  {3, WriteByPathRow},  {4, OneLevelRow},
+                        {5, WriteValuesRow}, {6, ConditionRow},   {7, CopyAndScopeRow}, {8, ColdLoadRow},
+                        {9, DefaultsRow},    {10, ScalingRow},    {11, SetListRow},     {12, ChoiceRow},
+                        {13, MemoryRow},     {14, LoadAndSaveRow}};
 
 int NumberOf(const std::string& iText)
 {

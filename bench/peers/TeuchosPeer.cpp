@@ -46,8 +46,7 @@ const PeerEntry readPath("Teuchos", "read path", [](const std::string&) {
     return Work{[list = Filled(PathTree())](std::size_t iTimes) {
         for (std::size_t i = 0; i < iTimes; ++i)
         {
-            double value =
-                list->sublist("boundary").sublist("inflow").sublist("turbulence").get<double>("intensity");
+            double value = list->sublist("boundary").sublist("inflow").sublist("turbulence").get<double>("intensity");
             benchmark::DoNotOptimize(value);
         }
     }};

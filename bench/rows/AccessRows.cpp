@@ -47,9 +47,9 @@ std::vector<Line> ConditionRow(const Settings& iSettings)
 {
     std::vector<Line> lines = Compare(6, "condition a/b==1.5, evaluate", EvaluateCondition(),
                                       {{"Lua t.a.b==1.5", PeerWork("Lua", "evaluate"), 3, 1}}, iSettings.rounds);
-    const std::vector<Line> constructed = Compare(6, "condition a/b==1.5, construct", ConstructCondition(),
-                                                  {{"muParser parse", PeerWork("muParser", "parse"), 0.15, 0.06}},
-                                                  iSettings.rounds);
+    const std::vector<Line> constructed =
+        Compare(6, "condition a/b==1.5, construct", ConstructCondition(),
+                {{"muParser parse", PeerWork("muParser", "parse"), 0.15, 0.06}}, iSettings.rounds);
     lines.insert(lines.end(), constructed.begin(), constructed.end());
     return lines;
 }

@@ -3,8 +3,8 @@
 
 namespace Bench
 {
-std::vector<Line> Compare(int iRow, const std::string& iText, const Work& iOurs, const std::vector<Opponent>& iOpponents,
-                          int iRounds)
+std::vector<Line> Compare(int iRow, const std::string& iText, const Work& iOurs,
+                          const std::vector<Opponent>& iOpponents, int iRounds)
 {
     std::vector<Work> works{iOurs};
     for (const Opponent& opponent : iOpponents)
@@ -16,8 +16,13 @@ std::vector<Line> Compare(int iRow, const std::string& iText, const Work& iOurs,
     std::size_t place = 0;
     for (const Opponent& opponent : iOpponents)
     {
-        Line line{iRow, iText, TimeText(measured.Nanoseconds(0)), opponent.name + ": not installed",
-                  std::nullopt, opponent.reach, opponent.aim};
+        Line line{iRow,
+                  iText,
+                  TimeText(measured.Nanoseconds(0)),
+                  opponent.name + ": not installed",
+                  std::nullopt,
+                  opponent.reach,
+                  opponent.aim};
         if (opponent.work)
         {
             ++place;
