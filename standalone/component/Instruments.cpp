@@ -31,16 +31,42 @@ bool Agrees(const std::string& iWanted, std::string_view iGiven)
     return iWanted.empty() || iWanted == iGiven;
 }
 
+/// What a host call is.
+struct Call
+{
+    const char* operation;
+    std::string_view subject;
+    const FeatureObject* object;
+    /// Its answer is a value, which may be unset.
+    bool readsValue;
+};
+
 /// Counts the call if the fault meets it; true when this is one of those that fail.
-bool Meets(PlantedFault& ioPlanted, const char* iOperation, std::string_view iSubject, const FeatureObject* iObject)
+bool Meets(PlantedFault& ioPlanted, const Call& iCall)
 {
     const Fault& fault = ioPlanted.fault;
-    if (!Agrees(fault.operation, iOperation) || !Agrees(fault.subject, iSubject))
+    if (fault.isUnset && !iCall.readsValue)
         return false;
-    if (!fault.object.empty() && (iObject == nullptr || iObject->Path() != fault.object))
+    if (!Agrees(fault.operation, iCall.operation) || !Agrees(fault.subject, iCall.subject))
+        return false;
+    if (!fault.object.empty() && (iCall.object == nullptr || iCall.object->Path() != fault.object))
         return false;
     ++ioPlanted.met;
     return ioPlanted.met >= fault.call && (fault.times == 0 || ioPlanted.met < fault.call + fault.times);
+}
+
+/// The fault that the call fails by; null for none.
+const Fault* Meet(const Call& iCall)
+{
+    Faults& faults = PerThread<Faults>::Get();
+    const Fault* first = nullptr;
+    // All count the call; the first that fails it says how.
+    for (PlantedFault& planted : faults.planted)
+        if (Meets(planted, iCall) && first == nullptr)
+            first = &planted.fault;
+    if (first != nullptr)
+        ++faults.hits;
+    return first;
 }
 } // namespace
 
@@ -52,18 +78,19 @@ bool Instruments::Fails(const char* iOperation, std::string_view iSubject, const
 {
     if (!s_faults)
         return false;
-    Faults& faults = PerThread<Faults>::Get();
-    bool fails = false;
-    // All count the call; the first that fails it gives the status.
-    for (PlantedFault& planted : faults.planted)
-        if (Meets(planted, iOperation, iSubject, iObject) && !fails)
-        {
-            fails = true;
-            oStatus = planted.fault.status;
-        }
-    if (fails)
-        ++faults.hits;
-    return fails;
+    const Fault* const fault = Meet({iOperation, iSubject, iObject, false});
+    if (fault != nullptr)
+        oStatus = fault->status;
+    return fault != nullptr;
+}
+
+Instruments::Answer Instruments::AnswerOf(const char* iOperation, std::string_view iSubject,
+                                          const FeatureObject* iObject)
+{
+    const Fault* const fault = s_faults ? Meet({iOperation, iSubject, iObject, true}) : nullptr;
+    if (fault == nullptr)
+        return Answer::Value;
+    return fault->isUnset ? Answer::Unset : Answer::Null;
 }
 
 bool Instruments::Fails(const char* iOperation, ORXISpecAttrKey* iKey, const FeatureObject* iObject, HRESULT& oStatus)

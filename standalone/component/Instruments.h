@@ -39,6 +39,15 @@ public:
         return Fails(iOperation, iSubject, iObject, status);
     }
 
+    /// What a planted fault makes of a read that answers a value.
+    enum class Answer
+    {
+        Value,
+        Null,
+        Unset
+    };
+    static Answer AnswerOf(const char* iOperation, std::string_view iSubject, const FeatureObject* iObject);
+
     /// For casts of components that are no objects. Gives null when it is true.
     static bool FailsCast(const IID& iInterface, void** oInterface, HRESULT& oStatus);
 

@@ -38,6 +38,9 @@ struct Fault
     /// 0: all from then on.
     int times = 1;
     HRESULT status = E_FAIL;
+    /// Meets only reads that answer a value, "GetValue" of parameters: they answer one that is not valuated, as for an
+    /// attribute without a value, and no null.
+    bool isUnset = false;
 };
 
 VYRStandaloneExport void PlantFault(const Fault& iFault);

@@ -95,8 +95,8 @@ ORXICkeType_var AttributeParm::GetType()
 
 ORXIValue_var AttributeParm::GetValue()
 {
-    if (Instruments::Active() && Instruments::Fails("GetValue", m_key.Name().View(), &m_object))
-        return {};
+    if (Instruments::Active())
+        return m_current->Answer(Instruments::AnswerOf("GetValue", m_key.Name().View(), &m_object));
     return ORXIValue_var::Share(m_current);
 }
 

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "Census.h"
-#include "Instruments.h"
 #include "SlotBlock.h"
 
 namespace VYRStandalone
@@ -52,6 +51,25 @@ const ValueCell* ValueCell::Of(const ORXICkeInst* iValue) noexcept
     if (iValue == nullptr || typeid(*iValue) != typeid(ValueCell))
         return nullptr;
     return static_cast<const ValueCell*>(iValue);
+}
+
+ORXIValue_var ValueCell::Answer(Instruments::Answer iAnswer)
+{
+    switch (iAnswer)
+    {
+    case Instruments::Answer::Value:
+        return ORXIValue_var::Share(this);
+    case Instruments::Answer::Unset:
+    {
+        ValueCell* const unset = Make(*m_type, false);
+        const ORXIValue_var given = ORXIValue_var::Share(unset);
+        unset->Leave();
+        return given;
+    }
+    case Instruments::Answer::Null:
+        break;
+    }
+    return {};
 }
 
 void ValueCell::Leave()

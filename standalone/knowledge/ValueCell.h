@@ -1,6 +1,7 @@
 #ifndef ValueCell_H
 #define ValueCell_H
 
+#include "Instruments.h"
 #include "KnowledgeType.h"
 #include "ORXIValue.h"
 
@@ -32,6 +33,9 @@ public:
     void Write(Scalar&& iValue) noexcept { m_value = std::move(iValue); }
     bool IsImmortal() const noexcept { return m_isImmortal; }
     unsigned int Holds() const noexcept { return m_holds; }
+
+    /// The cell, null, or a value of its type that is not valuated, which belongs to who holds it.
+    ORXIValue_var Answer(Instruments::Answer iAnswer);
 
     /// The holder gives the cell up for good. It dies now or with its last reference.
     void Leave();

@@ -56,8 +56,8 @@ ORXICkeType_var VolatileParm::GetType()
 
 ORXIValue_var VolatileParm::GetValue()
 {
-    if (Fails("GetValue"))
-        return {};
+    if (Instruments::Active())
+        return m_current->Answer(Instruments::AnswerOf("GetValue", m_name.View(), nullptr));
     return ORXIValue_var::Share(m_current);
 }
 

@@ -30,6 +30,7 @@ void Arm(const Plan& iPlan)
         fault.call = iPlan.number;
         fault.times = iPlan.all ? 0 : 1;
         fault.status = iPlan.status;
+        fault.isUnset = iPlan.unset;
         VYRStandalone::PlantFault(fault);
     }
     else if (iPlan.what == Plan::What::Allocation)
@@ -167,9 +168,10 @@ std::string TextOf(const Plan& iPlan)
 {
     if (iPlan.what == Plan::What::Nothing)
         return "nothing fails";
-    const std::string what = iPlan.what == Plan::What::Call ? "call" : "allocation";
+    const bool isCall = iPlan.what == Plan::What::Call;
+    const std::string what = isCall ? iPlan.unset ? "value" : "call" : "allocation";
     const std::string number = std::to_string(iPlan.number);
-    const std::string status = iPlan.what == Plan::What::Call ? " (" + AnswerOf(iPlan.status) + ")" : "";
+    const std::string status = isCall ? iPlan.unset ? " (unset)" : " (" + AnswerOf(iPlan.status) + ")" : "";
     return iPlan.all ? "all " + what + "s from " + number + " on" + status : what + " " + number + status;
 }
 

@@ -25,6 +25,8 @@ struct Plan
     bool all = false;
     /// Of calls.
     HRESULT status = E_FAIL;
+    /// Of calls: only reads of values are met, and answer one that is not valuated.
+    bool unset = false;
 };
 
 /// For messages: "call 3 (E_FAIL)", "all allocations from 3 on".

@@ -81,6 +81,21 @@ protected:
         return outcome;
     }
 
+    /// The outcomes of one failed call after the other, or of one unset value after the other, as lines.
+    Lines EachFails(const Scenario& iScenario, bool iUnset, const Outcome& iDone)
+    {
+        Lines lines;
+        for (int call = 1; call <= MostCalls && !IsGivenUp(); ++call)
+        {
+            const Outcome outcome = Inject(iScenario, {Plan::What::Call, call, false, E_FAIL, iUnset}, iDone);
+            if (outcome.hits == 0)
+                break;
+            lines.push_back(LineOf(outcome, iDone));
+        }
+        EXPECT_LT(lines.size(), static_cast<std::size_t>(MostCalls)) << iScenario.name;
+        return lines;
+    }
+
     bool IsGivenUp() const { return m_left <= 0; }
 
     /// @param iDefect empty for none
@@ -113,19 +128,10 @@ private:
 class GoldenText
 {
 public:
-    void Add(const Scenario& iScenario, const Lines& iLines, const std::string& iDone)
+    /// @param iCalls one line for each call that fails @param iValues one for each value that is unset
+    void Add(const Scenario& iScenario, const Lines& iCalls, const Lines& iValues, const std::string& iDone)
     {
-        std::string body;
-        for (std::size_t at = 0; at < iLines.size();)
-        {
-            std::size_t behind = at + 1;
-            while (behind < iLines.size() && iLines[behind] == iLines[at])
-                ++behind;
-            body += std::to_string(at + 1) + (behind > at + 1 ? "-" + std::to_string(behind) : "") + ": " + iLines[at] +
-                    '\n';
-            at = behind;
-        }
-        body += "done: " + iDone + '\n';
+        const std::string body = Body("", iCalls) + Body("unset ", iValues) + "done: " + iDone + '\n';
         const auto same = std::find_if(m_sections.begin(), m_sections.end(),
                                        [&](const auto& iOther) { return iOther.second == body; });
         if (same != m_sections.end())
@@ -152,6 +158,21 @@ public:
     }
 
 private:
+    static std::string Body(const std::string& iWhat, const Lines& iLines)
+    {
+        std::string body;
+        for (std::size_t at = 0; at < iLines.size();)
+        {
+            std::size_t behind = at + 1;
+            while (behind < iLines.size() && iLines[behind] == iLines[at])
+                ++behind;
+            body += iWhat + std::to_string(at + 1) + (behind > at + 1 ? "-" + std::to_string(behind) : "") + ": " +
+                    iLines[at] + '\n';
+            at = behind;
+        }
+        return body;
+    }
+
     std::vector<std::pair<std::string, std::string>> m_sections;
 };
 
@@ -161,17 +182,9 @@ TEST_P(FaultTest, EachCallFails)
     for (const Scenario& scenario : Group().scenarios)
     {
         const Outcome done = Begin(scenario);
-        Lines lines;
-        for (int call = 1; call <= MostCalls && !IsGivenUp(); ++call)
-        {
-            const Plan plan{Plan::What::Call, call, false, E_FAIL};
-            const Outcome outcome = Inject(scenario, plan, done);
-            if (outcome.hits == 0)
-                break;
-            lines.push_back(LineOf(outcome, done));
-        }
-        EXPECT_LT(lines.size(), static_cast<std::size_t>(MostCalls)) << scenario.name;
-        golden.Add(scenario, lines, LineOf(done, done));
+        const Lines lines = EachFails(scenario, false, done);
+        const Lines values = EachFails(scenario, true, done);
+        golden.Add(scenario, lines, values, LineOf(done, done));
 
         // The status makes no difference but for itself.
         const int calls = static_cast<int>(lines.size());
@@ -186,6 +199,9 @@ TEST_P(FaultTest, EachCallFails)
                                 Plan{Plan::What::Call, 0, true, S_FALSE}})
             for (int call = 1; call <= calls && RunsEverything() && !IsGivenUp(); ++call)
                 Inject(scenario, {way.what, call, way.all, way.status}, done);
+        const int reads = static_cast<int>(values.size());
+        for (int read = 1; read <= reads && RunsEverything() && !IsGivenUp(); ++read)
+            Inject(scenario, {Plan::What::Call, read, true, E_FAIL, true}, done);
     }
     golden.Compare(Group().name);
 }

@@ -120,6 +120,31 @@ TEST_F(Faults, WhereAPointerOrAHandleIsAnswered_GiveNull)
     EXPECT_TRUE(!KeyOf(m_object, "x"));
 }
 
+TEST_F(Faults, ThatUnset_AnswerAValueWithoutAnyAndMeetNoOtherCall)
+{
+    Fault fault;
+    fault.isUnset = true;
+    VYRStandalone::PlantFault(fault);
+    const int alive = VYRStandalone::LiveComponents();
+    {
+        const ORXICkeParm_var ofAttribute = ORXCke_GetParm(AccessOf(m_object), KeyOf(m_object, "ratio"), 1);
+        const ORXICkeParm_var free =
+            ORXCkeGlobalFunctions::GetVolatileFactory()->CreateParm(ofAttribute->GetType(), "free");
+        free->Valuate(2.5);
+        for (const ORXICkeParm_var& parm : {ofAttribute, free})
+        {
+            VYRStandalone::ClearFaults();
+            VYRStandalone::PlantFault(fault);
+            const ORXIValue_var unset = parm->GetValue();
+            ASSERT_FALSE(!unset);
+            EXPECT_EQ(unset->IsValuated(), 0);
+            EXPECT_EQ(VYRStandalone::FaultsHit(), 1);
+            EXPECT_EQ(parm->GetValue()->IsValuated(), 1);
+        }
+    }
+    EXPECT_EQ(VYRStandalone::LiveComponents(), alive);
+}
+
 TEST_F(Faults, Valuate_DoesNothing)
 {
     const ORXICkeParm_var parm = ParmOf(m_object, "ratio");
