@@ -14,6 +14,10 @@
 
 namespace StrictJson
 {
+/// How many arrays and objects may stand inside each other: more than any file that a person or a program means, and
+/// few enough for whoever walks a document recursively.
+constexpr int DeepestNesting = 1000;
+
 /// Where and why a text is no JSON. Line and column count from 1, columns in characters.
 struct SyntaxError
 {
@@ -24,8 +28,7 @@ struct SyntaxError
 
 /**
  * Parses a text that is strict JSON in UTF-8 throughout: no comments, no byte order mark, nothing behind the value,
- * no number that a double cannot hold, no half of a surrogate pair. Any depth of nesting is read, since neither
- * parsing nor letting the document go is recursive.
+ * no number that a double cannot hold, no half of a surrogate pair, nothing nested deeper than DeepestNesting.
  * @return nothing on success
  */
 std::optional<SyntaxError> Parse(std::string_view iText, rapidjson::Document& oDocument);

@@ -233,10 +233,12 @@ std::string NestedObjects(int iDepth)
     return Repeated("{\"a\":", iDepth) + "1" + Repeated("}", iDepth);
 }
 
+const std::string TooDeep = ": Arrays and objects stand inside each other more than 1000 deep.";
+
 TEST_F(Limits, DeepJson_IsNoModel)
 {
     OnBoundedStack(StackKibibytes, [] {
-        for (const int depth : {512, 100000})
+        for (const int depth : {512, 900})
             for (const std::string& deep : {NestedArrays(depth), NestedObjects(depth)})
             {
                 const char* kind = deep.front() == '[' ? "an array" : "an object";
@@ -253,6 +255,10 @@ TEST_F(Limits, DeepJson_IsNoModel)
                 // Not closed.
                 EXPECT_NE(ParseError(deep.substr(0, deep.size() / 2)), "");
             }
+        for (const std::string& deep : {NestedArrays(100000), NestedObjects(100000)})
+            for (const std::string& text : {deep, deep.substr(0, deep.size() / 2), TestCatalog::Model(deep),
+                                            TestCatalog::ModelOfValues("\"strings\": " + deep)})
+                EXPECT_TRUE(ParseError(text).ends_with(TooDeep)) << ParseError(text);
         EXPECT_EQ(VYRStandalone::LiveComponents(), 0);
     });
 }
@@ -271,27 +277,31 @@ TEST_F(Limits, DeepJson_IsNoCatalog)
                           deep + "}]}]}"})
                     EXPECT_EQ(CatalogError(catalog).find("c.json"), 0U) << depth << ' ' << catalog.substr(0, 120);
         EXPECT_EQ(CatalogError(R"({"catalog": "Deep", "types": [{"name": "DeepType", "startup": )" +
-                               NestedObjects(100000) + "}]}"),
+                               NestedObjects(900) + "}]}"),
                   "c.json: /types/0/startup" + Repeated("/a", 201) +
                       ": components stand inside each other more than 200 deep");
     });
     EXPECT_EQ(VYRStandalone::TypeNames(), before);
 }
 
-TEST_F(Limits, DeepJson_InAConfigurationFileIsReadOrRefusedWithoutHarm)
+TEST_F(Limits, DeepJson_InAConfigurationFileIsReadToTheLimitAndRefusedBeyond)
 {
     OnBoundedStack(StackKibibytes, [this] {
-        for (const int depth : {512, 100000})
+        // The file's own object is one level more.
+        for (const int depth : {512, 999, 1000, 100000})
             for (const std::string& deep : {NestedArrays(depth), NestedObjects(depth)})
             {
+                const bool isRead = depth < 1000;
                 const std::string whole =
                     m_folder.Write("whole.json", R"({"deep": )" + deep + R"(, "configurations": [{"name": "n"}]})");
-                EXPECT_EQ(ErrorOf([&] { VYRStandalone::CheckJson(whole); }), "");
+                const int column = 10 + (deep.front() == '[' ? 999 : 5 * 999);
+                EXPECT_EQ(ErrorOf([&] { VYRStandalone::CheckJson(whole); }),
+                          isRead ? "" : whole + ":1:" + std::to_string(column) + TooDeep);
                 JSON::JIStream stream;
-                ASSERT_TRUE(stream.ParseFile(whole.c_str(), true));
+                ASSERT_EQ(stream.ParseFile(whole.c_str(), true), isRead);
                 EXPECT_TRUE(stream.ReadString("deep").IsEmpty());
-                EXPECT_EQ(stream.ReadObjects("deep").size(), deep.front() == '[' ? 1U : 0U);
-                EXPECT_EQ(stream.ReadObjects("configurations").front().ReadString("name"), ORXUnicodeString("n"))
+                EXPECT_EQ(stream.ReadObjects("deep").size(), isRead && deep.front() == '[' ? 1U : 0U);
+                EXPECT_EQ(stream.ReadObjects("configurations").size(), isRead ? 1U : 0U)
                     << "what stands behind it is read";
 
                 const std::string open = m_folder.Write("open.json", R"({"deep": )" + deep.substr(0, deep.size() / 2));
@@ -302,7 +312,6 @@ TEST_F(Limits, DeepJson_InAConfigurationFileIsReadOrRefusedWithoutHarm)
     });
 }
 
-/// Components inside each other, made from the innermost on, so that each step costs the same.
 ORXISpecObject_var Nest(Model& ioModel, int iDepth)
 {
     ORXISpecObject_var top = ioModel.Create("Part", "innermost");
