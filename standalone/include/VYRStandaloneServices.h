@@ -3,8 +3,8 @@
 
 /**
  * @file
- * Steering of the services: variables of the installation, trace output, notifications, and what is wrong with a JSON
- * file.
+ * Steering of the services: variables of the installation, trace output, notifications, what is wrong with a JSON
+ * file, and saving other texts as safely as models.
  */
 
 #include <functional>
@@ -48,6 +48,10 @@ VYRStandaloneExport void RedirectTraces(std::function<void(const std::string& iT
 /// Reads a file as `JSON::JIStream` does, which only tells that it could not. @throws DocumentError with line and
 /// column of what is no JSON, or for a file that cannot be read; a file of any shape is accepted
 VYRStandaloneExport void CheckJson(const std::string& iFile);
+
+/// Replaces a file, or makes it, in one step: whatever stops it, the old file or the new one is whole. Permissions stay,
+/// and what a link leads to is replaced; devices and pipes are written to as they are. @throws DocumentError
+VYRStandaloneExport void SaveText(const std::string& iFile, const std::string& iText);
 } // namespace VYRStandalone
 
 #endif

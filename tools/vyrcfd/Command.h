@@ -23,7 +23,12 @@ void AddCommonOptions(CLI::App& ioApp, CommonOptions& ioOptions);
 // The options must outlive the job.
 void AddApplyCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
 void AddShowCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
+void AddExplainCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
 void AddListCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
+void AddCheckCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
+void AddDescribeCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
+void AddGraphCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
+void AddPurgeCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
 void AddShellCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
 } // namespace Tool
 

@@ -38,6 +38,11 @@ public:
     /// installation. Types that ask for a manager of Choices get the tool's. @throws VYRStandalone::DocumentError
     VYRStandalone::Model LoadModel(const std::string& iFile) const;
 
+    /// Catalogs of the options, as they were named.
+    const std::vector<std::string>& Catalogs() const noexcept { return m_catalogs; }
+    /// Where catalogs are sought that do not stand beside the file that names them.
+    const std::vector<std::string>& CatalogFolders() const noexcept { return m_catalogFolders; }
+
 private:
     std::string m_path;
     std::vector<std::string> m_catalogs;

@@ -1,0 +1,82 @@
+#include <algorithm>
+#include <memory>
+
+#include "Command.h"
+#include "Explanation.h"
+#include "Failure.h"
+#include "ModelSurvey.h"
+#include "ObjectPath.h"
+#include "Output.h"
+#include "Wording.h"
+
+namespace Tool
+{
+namespace
+{
+struct ExplainArguments
+{
+    std::string model;
+    std::string path;
+};
+
+Explanation ExplanationOf(const VYRStandalone::Model& iModel, const ExplainArguments& iArguments)
+{
+    const Target target = FollowToAttribute(iModel, iArguments.model, iArguments.path);
+    ObjectSnapshot object = TakeSnapshot(iModel, target.object, {}).front();
+    if (object.path.empty())
+        object.path = iArguments.path.substr(0, iArguments.path.rfind('/'));
+    const auto attribute =
+        std::find_if(object.attributes.begin(), object.attributes.end(),
+                     [&](const AttributeSnapshot& iOne) { return iOne.info.name == target.attribute; });
+    // Default management of the object is not among what it manages.
+    if (attribute == object.attributes.end())
+        throw Failure(OneLine(iArguments.model) + ": " + Quoted(iArguments.path) +
+                      " holds the flags and the records of attributes, and has no default of its own");
+    Explanation explanation{iArguments.path, object.path, *attribute, std::nullopt, std::nullopt};
+    if (IsManaged(target.object))
+    {
+        explanation.ladder = LadderOf(iModel, iArguments.path);
+        explanation.unsetting = TryUnset(iModel, iArguments.path);
+    }
+    return explanation;
+}
+
+void Explain(const CommonOptions& iOptions, const ExplainArguments& iArguments)
+{
+    const Installation installation(iOptions);
+    const VYRStandalone::Model model = installation.LoadModel(iArguments.model);
+    const Explanation explanation = ExplanationOf(model, iArguments);
+    const ConfigurationSource configurations(installation);
+    const CatalogSource catalogs(installation, iArguments.model);
+    const ExplanationSources sources{configurations, catalogs};
+    Print(iOptions.json ? ExplanationJson(explanation, sources) : ExplanationText(explanation, sources));
+}
+} // namespace
+
+void AddExplainCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
+{
+    CLI::App* command =
+        ioApp.add_subcommand("explain", "Tells where the value of an attribute comes from, and what would replace it");
+    const auto arguments = std::make_shared<ExplainArguments>();
+    command->add_option("MODEL", arguments->model, "Model file (*.model.json)")->required();
+    command->add_option("PATH", arguments->path, "Path of the attribute")->required();
+    AddCommonOptions(*command, ioOptions);
+    command->footer(
+        std::string(ObjectPathHelp) +
+        "\n\nNothing is changed. The default of an attribute is looked up on a ladder, from the top: a custom default, "
+        "which lives\nin memory only, so that a model in a file has none; the first record about the attribute that a "
+        "configuration has\nleft; the start-up of the feature type. Each rung is told, with \">\" at the one that "
+        "counts. Records do not name\ntheir configuration: every item is told that leaves such a record, by its "
+        "configuration, its number, and its place.\nWhat `unset` would do was tried on a copy.\n"
+        "With --json: {\"path\", \"object\", \"attribute\", \"kind\", \"value\", \"set\", \"auto\", \"source\", "
+        "\"ladder\": {\"customDefault\",\n\"records\": [{\"position\", the texts of the record, \"value\", \"items\": "
+        "[{\"configuration\", \"item\", \"file\", \"line\",\n\"column\"}]}], \"prototype\": {\"path\", \"value\", "
+        "\"declaredBy\", \"declarations\": [{\"catalog\", \"file\", \"line\", \"column\"}],\n\"values\": the same of "
+        "the "
+        "places that give the value, of which the last counts}}, \"winner\", \"afterUnset\":\n{\"value\", \"set\", "
+        "\"auto\"}}; \"winner\" is \"record\", \"start-up\" or \"none\". \"ladder\" and \"afterUnset\" are null for an "
+        "object\nwithout default management, and \"customDefault\" always is.");
+    command->callback(
+        [&ioOptions, &oJob, arguments] { oJob = [&ioOptions, arguments] { Explain(ioOptions, *arguments); }; });
+}
+} // namespace Tool
