@@ -82,6 +82,7 @@ ExitStatus RunCommandLine(int argc, const char* const* argv)
     Tool::AddApplyCommand(app, options, job);
     Tool::AddShowCommand(app, options, job);
     Tool::AddListCommand(app, options, job);
+    Tool::AddCheckCommand(app, options, job);
     Tool::AddShellCommand(app, options, job);
 
     try

@@ -1,0 +1,136 @@
+#include <algorithm>
+#include <charconv>
+
+#include "ItemTrial.h"
+#include "ScratchObjects.h"
+#include "VYRCfdUtilityMethods.h"
+#include "VYRStandaloneCatalog.h"
+#include "Wording.h"
+
+namespace Tool
+{
+namespace
+{
+using Comparison = VYRCfdConditionOperator;
+
+struct Oddity
+{
+    std::string message{};
+    std::string unknown{};
+    std::vector<std::string> known{};
+};
+
+bool AsksForEquality(const ConditionText& iParts)
+{
+    return iParts.comparison == Comparison::Equal || iParts.comparison == Comparison::NotEqual;
+}
+
+/// The result is the attribute's value itself. So a comparison that reads like it is in order.
+Oddity OfBoolean(const ConditionText& iParts)
+{
+    bool truth = false;
+    const bool isTruth = VYRCfdUtilityMethods::ConvertToBoolean(UnicodeOf(iParts.value), truth,
+                                                                VYRCfdUtilityMethods::VYRCfdEmptyIsInvalid) >= 0;
+    const bool readsAsTrue = isTruth && AsksForEquality(iParts) && truth == (iParts.comparison == Comparison::Equal);
+    if (readsAsTrue)
+        return {};
+    return {Quoted(iParts.path) + " is a boolean, and what stands behind it plays no part: the condition holds "
+                                  "whenever it is true"};
+}
+
+/// Whether a number and nothing else stands there, blanks aside.
+template <class Number> bool IsWhole(const std::string& iText)
+{
+    const std::size_t first = std::min(iText.find_first_not_of(" \t"), iText.size());
+    const std::size_t last = iText.find_last_not_of(" \t") + 1;
+    const std::size_t digits = first + (first < last && iText[first] == '+' ? 1 : 0);
+    Number number{};
+    const auto read = std::from_chars(iText.data() + digits, iText.data() + std::max(last, digits), number);
+    return read.ec == std::errc() && read.ptr == iText.data() + last;
+}
+
+Oddity OfReal(const ConditionText& iParts)
+{
+    double number = 0.0;
+    if (VYRCfdUtilityMethods::ConvertToDouble(UnicodeOf(iParts.value), number) < 0)
+        return {Quoted(iParts.path) + " is a real, and is compared with no number: the condition never holds"};
+    if (!IsWhole<double>(iParts.value))
+        return {Quoted(iParts.path) + " is a real, and of " + Quoted(iParts.value) +
+                " only the number at its head is compared, in SI units"};
+    return {};
+}
+
+Oddity OfEnumeration(const ConditionText& iParts, const std::vector<std::string>& iTexts)
+{
+    const auto named = std::find(iTexts.begin(), iTexts.end(), iParts.value);
+    const std::string number = named != iTexts.end() ? std::to_string(named - iTexts.begin() + 1) : std::string();
+    return {Quoted(iParts.path) + " is an enumeration, and compares as the number of its text, from 1 to " +
+                std::to_string(iTexts.size()) + ": the condition never holds" +
+                (number.empty() ? "" : "; " + Quoted(iParts.value) + " has the number " + number),
+            {},
+            {}};
+}
+
+Oddity OfInteger(const ConditionText& iParts, const std::vector<std::string>& iTexts)
+{
+    int number = 0;
+    const bool isRead = VYRCfdUtilityMethods::ConvertToInteger(UnicodeOf(iParts.value), number) >= 0;
+    const bool isOutside = number < 1 || static_cast<std::size_t>(number) > iTexts.size();
+    if (!iTexts.empty() && (!isRead || (iParts.comparison == Comparison::Equal && isOutside)))
+        return OfEnumeration(iParts, iTexts);
+    if (!isRead)
+        return {Quoted(iParts.path) + " is an integer, and is compared with no number: the condition never holds"};
+    if (!IsWhole<int>(iParts.value))
+        return {Quoted(iParts.path) + " is an integer, and of " + Quoted(iParts.value) + " only " +
+                std::to_string(number) + " is compared"};
+    return {};
+}
+
+Oddity OfText(const ConditionText& iParts, const VYRCfdObjectAccess& iAttribute)
+{
+    if (!AsksForEquality(iParts))
+        return {Quoted(iParts.path) + " is a text, and can be compared by == and != only: the condition never holds"};
+    const VYRCfdObjectAccess owner{iAttribute.Self()};
+    const std::vector<std::string> choices =
+        iAttribute.GetName() == ORXUnicodeString("value") ? ChoicesOf(owner) : std::vector<std::string>();
+    if (choices.empty() || std::find(choices.begin(), choices.end(), iParts.value) != choices.end())
+        return {};
+    return {Quoted(iParts.value) + " is no choice of " + Quoted(iParts.path) + ": the condition " +
+                (iParts.comparison == Comparison::Equal ? "never" : "always") + " holds",
+            iParts.value, choices};
+}
+
+std::vector<std::string> TextsOf(const VYRCfdObjectAccess& iAttribute)
+{
+    for (const VYRStandalone::AttributeInfo& info : VYRStandalone::Attributes(ORXISpecObject_var(iAttribute.Self())))
+        if (UnicodeOf(info.name) == iAttribute.GetName())
+            return info.values;
+    return {};
+}
+
+/// Asked in the order in which the engine does.
+Oddity OddityOf(const ConditionText& iParts, const VYRCfdObjectAccess& iAttribute)
+{
+    if (iAttribute.IsDouble())
+        return OfReal(iParts);
+    if (iAttribute.IsInteger())
+        return OfInteger(iParts, iAttribute.IsEnum() ? TextsOf(iAttribute) : std::vector<std::string>());
+    if (iAttribute.IsString())
+        return OfText(iParts, iAttribute);
+    if (iAttribute.IsBoolean())
+        return OfBoolean(iParts);
+    return {Quoted(iParts.path) + " is neither a number, a text nor a boolean: the condition never holds"};
+}
+} // namespace
+
+void CheckComparison(const SourceItem& iItem, const Trial& iTrial, const ConditionText& iParts,
+                     const VYRCfdObjectAccess& iAttribute, TrialFindings& oFindings)
+{
+    Oddity oddity = OddityOf(iParts, iAttribute);
+    if (oddity.message.empty())
+        return;
+    oFindings.push_back({FindingAt(iItem, "condition", FindingKind::OddCondition, Severity::Warning,
+                                   oddity.message + " (" + iTrial.Where() + ")"),
+                         std::move(oddity.unknown), std::move(oddity.known)});
+}
+} // namespace Tool

@@ -1,0 +1,172 @@
+#include <algorithm>
+#include <charconv>
+
+#include "AttributeReader.h"
+#include "ItemTrial.h"
+#include "ORXISpecAttrKey.h"
+#include "ORXKeySetVYRCfdBase.h"
+#include "ORXSimBCInitializeServices.h"
+#include "ORXTypeCode.h"
+#include "ScratchObjects.h"
+#include "VYRIMpaDefaultManagementProtected.h"
+#include "VYRStandaloneCatalog.h"
+#include "Wording.h"
+
+namespace Tool
+{
+namespace
+{
+VYRStandalone::AttributeInfo InfoOf(const VYRCfdObjectAccess& iObject, const std::string& iName)
+{
+    for (VYRStandalone::AttributeInfo& info : VYRStandalone::Attributes(ORXISpecObject_var(iObject.Self())))
+        if (info.name == iName)
+            return info;
+    return {};
+}
+
+/// "an integer", "a real in Pa".
+std::string KindOf(const VYRStandalone::AttributeInfo& iInfo)
+{
+    switch (iInfo.type)
+    {
+    case tk_double:
+        return iInfo.unit.empty() ? "a real" : "a real in " + iInfo.unit;
+    case tk_integer:
+        return "an integer";
+    case tk_boolean:
+        return "a boolean";
+    case tk_enum:
+        return "an enumeration";
+    case tk_string:
+        return "a text";
+    case tk_list:
+        return "a list";
+    default:
+        return "an object";
+    }
+}
+
+/// Whether the text is an integer and nothing else: the engine is content with one at its head.
+bool IsWholeInteger(const std::string& iText)
+{
+    const std::size_t first = iText.find_first_not_of(" \t");
+    if (first == std::string::npos)
+        return false;
+    const std::size_t last = iText.find_last_not_of(" \t") + 1;
+    const std::size_t digits = first + (iText[first] == '+' ? 1 : 0);
+    int number = 0;
+    const auto read = std::from_chars(iText.data() + digits, iText.data() + last, number);
+    return read.ec == std::errc() && read.ptr == iText.data() + last;
+}
+
+/// The record that a default leaves with the model, alone in the list of them.
+VYRCfdObjectAccess RecordOn(const VYRCfdObjectAccess& iObject)
+{
+    const VYRCfdObjectAccess records = iObject["defaultManagement"][VYRCFDBASE(DefaultManagement, configuration)];
+    std::vector<VYRCfdObjectAccess> entries;
+    records.List(entries);
+    if (!entries.empty())
+        return entries.front();
+    const ORXISpecObject_var spObject = iObject.Self();
+    ORXIContainer_var spContainer = spObject->GetContainer();
+    ORXISpecObject_var spRecord;
+    ORXSimBCInitializeServices::CreateBasicComponent("VYRCfdConfigItem", "ConfigItem", spContainer, spRecord);
+    const VYRCfdObjectAccess record{ORXBaseUnknown_var(spRecord)};
+    records.SetList({record});
+    return record;
+}
+
+/// What default management finds in a record once the model was closed and opened.
+Value Reopened(const VYRIMpaDefaultManagementProtected_var& iManagement, const VYRCfdObjectAccess& iObject,
+               const ORXUnicodeString& iName, const std::string& iText, int iType)
+{
+    const VYRCfdObjectAccess record = RecordOn(iObject);
+    record["path"].SetPlainString(iName);
+    record["default"].SetPlainString(UnicodeOf(iText));
+    iManagement->RemoveCustomDefault(iName);
+    ORXICkeInst_var spDefault;
+    iManagement->GetDefault(iName, spDefault);
+    const Value value = ValueOf(spDefault, iType);
+    iManagement->RemoveCustomDefault(iName);
+    record["path"].SetPlainString(ORXUnicodeString());
+    return value;
+}
+} // namespace
+
+void DefaultTrial::Check(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings)
+{
+    const std::string name(iItem.Text("path"));
+    const std::string text(iItem.Text("default"));
+    if (name.empty() || name.find('/') != std::string::npos)
+        return;
+    if (!KeyOf(iTrial.object, name))
+    {
+        AddNowhere(iItem, iTrial, "path", name,
+                   {PathEnd::Kind::Nowhere, iTrial.object, iTrial.place, name, "No attribute " + name}, oFindings);
+        return;
+    }
+    // What a Choice takes depends on what it offers at the moment.
+    const std::tuple key(std::string(iTrial.object.GetType().View()), name, text);
+    const auto known = IsChoice(iTrial.object) ? m_verdicts.end() : m_verdicts.find(key);
+    const Verdict verdict = known != m_verdicts.end() ? known->second : Try(iTrial, name, text);
+    m_verdicts.insert_or_assign(key, verdict);
+    if (verdict.isGood)
+        return;
+    oFindings.push_back({FindingAt(iItem, "default", verdict.kind,
+                                   verdict.isCertain ? iTrial.Worst() : Severity::Warning, verdict.message),
+                         text, verdict.known});
+}
+
+DefaultTrial::Verdict DefaultTrial::Try(const Trial& iTrial, const std::string& iName, const std::string& iText)
+{
+    if (iName == "value" && IsChoice(iTrial.object))
+    {
+        const std::vector<std::string> choices = ChoicesOf(iTrial.object);
+        if (!choices.empty() && std::find(choices.begin(), choices.end(), iText) == choices.end())
+            return {false, FindingKind::DefaultNotInChoices, true,
+                    "the default " + Quoted(iText) + " is none of the choices " + iTrial.Where(), choices};
+    }
+    return TryOnAttribute(iTrial, iName, iText);
+}
+
+DefaultTrial::Verdict DefaultTrial::TryOnAttribute(const Trial& iTrial, const std::string& iName,
+                                                   const std::string& iText)
+{
+    const VYRStandalone::AttributeInfo info = InfoOf(iTrial.object, iName);
+    const std::string what = Quoted(iName) + ", " + KindOf(info) + ", ";
+    const VYRIMpaDefaultManagementProtected_var spManagement = iTrial.object.Self();
+    if (!spManagement)
+        return {};
+    const ORXUnicodeString name = UnicodeOf(iName);
+    ORXUnicodeString text = UnicodeOf(iText);
+    ORXICkeInst_var spDefault;
+    if (!IsScalar(info.type) || spManagement->SetCustomDefault(name, text) < 0)
+        return {false,
+                FindingKind::DefaultInvalid,
+                true,
+                what + "takes no default " + iTrial.Where() + ", and the configuration fails here",
+                {}};
+    spManagement->GetDefault(name, spDefault);
+    const Value now = ValueOf(spDefault, info.type);
+    const Value later = Reopened(spManagement, iTrial.object, name, iText, info.type);
+    if (now.IsUnset())
+        return {false, FindingKind::DefaultInvalid, true,
+                what + "cannot take " + Quoted(iText) + " " + iTrial.Where() + ", and gets no default",
+                info.type == tk_boolean ? std::vector<std::string>{"true", "false"} : info.values};
+    if (info.type == tk_integer && !IsWholeInteger(iText))
+        return {false,
+                FindingKind::DefaultInvalid,
+                false,
+                what + "takes only " + now.Shown() + " of " + Quoted(iText) + " " + iTrial.Where(),
+                {}};
+    if (!(now == later))
+        return {false,
+                FindingKind::DefaultReopensDifferently,
+                false,
+                what + "has the default " + now.Shown() + " " + iTrial.Where() +
+                    " until the model is closed; opened again, it has " +
+                    (later.IsUnset() ? std::string("none") : "the default " + later.Shown()),
+                {}};
+    return {};
+}
+} // namespace Tool

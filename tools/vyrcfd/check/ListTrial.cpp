@@ -1,0 +1,92 @@
+#include <algorithm>
+
+#include "ItemTrial.h"
+#include "ScratchObjects.h"
+#include "VYRICfdChoice.h"
+#include "VYRICfdChoiceMgr.h"
+#include "Wording.h"
+
+namespace Tool
+{
+namespace
+{
+bool Holds(const std::vector<std::string>& iTexts, std::string_view iText)
+{
+    return std::find(iTexts.begin(), iTexts.end(), iText) != iTexts.end();
+}
+
+void AddFailed(const SourceItem& iItem, const Trial& iTrial, const char* iKey, FindingKind iKind,
+               const std::string& iMessage, TrialFindings& oFindings)
+{
+    oFindings.push_back({FindingAt(iItem, iKey, iKind, iTrial.Worst(),
+                                   iMessage + " " + iTrial.Where() + ", and the configuration fails here")});
+}
+
+/// A manager offers nothing that the type does not declare, and wants a default.
+void TryManager(const SourceItem& iItem, const Trial& iTrial, const VYRICfdChoiceMgr_var& iManager,
+                TrialFindings& oFindings)
+{
+    std::vector<ORXUnicodeString> all;
+    ORXUnicodeString standard;
+    iManager->GetAllChoices(all, standard);
+    std::vector<std::string> declared;
+    for (const ORXUnicodeString& choice : all)
+        declared.emplace_back(choice.View());
+    for (const std::string& choice : SplitTexts(iItem.Text("choices")))
+        if (!Holds(declared, choice))
+        {
+            AddFailed(iItem, iTrial, "choices", FindingKind::DefaultNotInChoices,
+                      "the choice " + Quoted(choice) + " is none of those that are declared", oFindings);
+            oFindings.back().unknown = choice;
+            oFindings.back().known = declared;
+            return;
+        }
+    const std::string_view chosen = iItem.Text("default");
+    if (chosen.empty())
+        AddFailed(iItem, iTrial, "default", FindingKind::DefaultNotInChoices,
+                  "a Choice that has a manager wants a \"default\" beside \"choices\"", oFindings);
+    else if (iManager->ConfigureChoiceMgr(SplitList(iItem.Text("choices")), UnicodeOf(chosen),
+                                          UnicodeOf(iItem.Text("display"))) < 0 &&
+             Holds(SplitTexts(iItem.Text("choices")), chosen))
+        AddFailed(iItem, iTrial, "choices", FindingKind::DoesNothing, "the manager refuses these choices", oFindings);
+}
+} // namespace
+
+void TryValues(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings)
+{
+    const std::string name(iItem.Text("path"));
+    if (name.empty() || name.find('/') != std::string::npos)
+        return;
+    if (!KeyOf(iTrial.object, name))
+        AddNowhere(iItem, iTrial, "path", name,
+                   {PathEnd::Kind::Nowhere, iTrial.object, iTrial.place, name, "No attribute " + name}, oFindings);
+    else if (iTrial.object[UnicodeOf(name)].SetStrings(SplitList(iItem.Text("value"))) < 0)
+        AddFailed(iItem, iTrial, "path", FindingKind::DefaultInvalid, Quoted(name) + " is no list of texts", oFindings);
+}
+
+bool TryChoice(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings)
+{
+    const std::vector<ORXUnicodeString> choices = SplitList(iItem.Text("choices"));
+    std::vector<ORXUnicodeString> startups;
+    if (iItem.value.Has("Startups"))
+        startups = SplitList(iItem.Text("Startups"));
+    const VYRICfdChoice_var spChoice = iTrial.object.Self();
+    const VYRICfdChoiceMgr_var spManager = iTrial.object.Self();
+    if (startups.empty() && !!spManager)
+    {
+        TryManager(iItem, iTrial, spManager, oFindings);
+        return true;
+    }
+    if (!spChoice)
+    {
+        AddFailed(iItem, iTrial, "choices", FindingKind::PathNowhere,
+                  "an item with \"choices\" is for a Choice, and there is none", oFindings);
+        return false;
+    }
+    const ORXUnicodeString chosen = UnicodeOf(iItem.Text("default"));
+    const bool isEqual = startups.empty() || startups.size() == choices.size();
+    if (spChoice->Configure(choices, startups, chosen, UnicodeOf(iItem.Text("display"))) < 0 && isEqual)
+        AddFailed(iItem, iTrial, "choices", FindingKind::DoesNothing, "the Choice refuses these choices", oFindings);
+    return true;
+}
+} // namespace Tool

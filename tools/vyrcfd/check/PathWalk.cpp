@@ -1,0 +1,195 @@
+#include "PathWalk.h"
+
+#include <algorithm>
+#include <set>
+
+#include "ORXISpecAttrKey.h"
+#include "ORXSimBCInitializeServices.h"
+#include "ORXTypeCode.h"
+#include "ScratchObjects.h"
+#include "SourceItem.h"
+#include "VYRStandaloneCatalog.h"
+
+namespace Tool
+{
+namespace
+{
+/// Longer paths lead in circles.
+constexpr std::size_t MostNames = 100;
+
+/// The names of a path up to the first empty one, where the cursor stops as well.
+std::vector<std::string> NamesIn(const std::string& iPath)
+{
+    std::vector<std::string> names;
+    ORXUnicodeString rest = UnicodeOf(iPath);
+    while (!rest.IsEmpty() && names.size() <= MostNames)
+    {
+        ORXUnicodeString head;
+        ORXUnicodeString tail;
+        VYRCfdObjectAccess::SplitPath(rest, head, tail);
+        if (head.IsEmpty())
+            break;
+        names.emplace_back(head.View());
+        rest = tail;
+    }
+    return names;
+}
+
+bool HoldsObjects(int iType)
+{
+    return iType == tk_component || iType == tk_specobject;
+}
+
+PathEnd Open()
+{
+    return {PathEnd::Kind::Open};
+}
+
+PathEnd Nowhere(const PathEnd& iFrom, const std::string& iName, std::string iReason)
+{
+    return {PathEnd::Kind::Nowhere, iFrom.access, iFrom.place, iName, std::move(iReason)};
+}
+
+bool IsType(const std::string& iName)
+{
+    static const std::vector<std::string> names = VYRStandalone::TypeNames();
+    return std::find(names.begin(), names.end(), iName) != names.end();
+}
+
+/// Where an object that does not come with its owner stands: its start-up is its type's.
+ObjectPlace PlaceOfType(const VYRCfdObjectAccess& iObject)
+{
+    return {std::string(iObject.GetType().View())};
+}
+} // namespace
+
+void PathWalk::Restrict(const VYRCfdObjectAccess& iChoice, const ConditionText& iParts, const std::string& iCondition)
+{
+    m_restricted = iChoice.Self();
+    m_parts = iParts;
+    m_condition = iCondition;
+}
+
+std::vector<PathEnd> PathWalk::Follow(const std::string& iPath) const
+{
+    std::vector<PathEnd> ends;
+    const Names names = NamesIn(iPath);
+    if (names.size() > MostNames)
+        ends.push_back(Open());
+    else
+        Step({PathEnd::Kind::Object, m_start, m_place}, names, 0, ends);
+    return ends;
+}
+
+void PathWalk::Step(const PathEnd& iFrom, const Names& iNames, std::size_t iNext, std::vector<PathEnd>& oEnds) const
+{
+    const bool leadsOn = iFrom.kind == PathEnd::Kind::Object || iFrom.kind == PathEnd::Kind::Attribute;
+    if (!leadsOn || iNext == iNames.size())
+    {
+        oEnds.push_back(iFrom);
+        return;
+    }
+    const std::string& name = iNames[iNext];
+    if (iFrom.kind == PathEnd::Kind::Attribute)
+        Step(StepInList(iFrom, name), iNames, iNext + 1, oEnds);
+    else if (name == "Data" && IsChoice(iFrom.access))
+        StepToData(iFrom, iNames, iNext + 1, oEnds);
+    else
+        Step(StepOnObject(iFrom, name), iNames, iNext + 1, oEnds);
+}
+
+void PathWalk::StepToData(const PathEnd& iFrom, const Names& iNames, std::size_t iNext,
+                          std::vector<PathEnd>& oEnds) const
+{
+    if (ChoicesOf(iFrom.access).empty())
+        return oEnds.push_back(Open());
+    std::vector<PathEnd> failed;
+    for (const std::string& choice : Candidates(iFrom.access))
+    {
+        Select(iFrom.access, choice);
+        if (IsRestricted(iFrom.access) && !VYRCfdObjectCondition(m_start, UnicodeOf(m_condition)))
+            continue;
+        const VYRCfdObjectAccess data = iFrom.access.Get("Data");
+        if (data.IsNull())
+            continue;
+        std::vector<PathEnd> ends;
+        Step({PathEnd::Kind::Object, data, PlaceOfType(data)}, iNames, iNext, ends);
+        for (PathEnd& end : ends)
+            (end.kind == PathEnd::Kind::Nowhere ? failed : oEnds).push_back(std::move(end));
+    }
+    // A way on that some of the data objects have is one.
+    if (oEnds.empty() && !failed.empty())
+        oEnds.push_back(failed.front());
+    else if (oEnds.empty())
+        oEnds.push_back(Nowhere(iFrom, "Data",
+                                IsRestricted(iFrom.access) ? "No choice that meets the condition has a data object"
+                                                           : "No choice has a data object"));
+}
+
+bool PathWalk::IsRestricted(const VYRCfdObjectAccess& iChoice) const
+{
+    return !!m_restricted && m_restricted->IsEqual(iChoice.Self().Pointer()) != 0;
+}
+
+std::vector<std::string> PathWalk::Candidates(const VYRCfdObjectAccess& iChoice) const
+{
+    const std::vector<std::string> choices = ChoicesOf(iChoice);
+    const bool isRestricted = IsRestricted(iChoice);
+    const bool isOffered = std::find(choices.begin(), choices.end(), m_parts.value) != choices.end();
+    if (isRestricted && m_parts.comparison == VYRCfdConditionOperator::Equal)
+        return isOffered ? std::vector<std::string>{m_parts.value} : std::vector<std::string>();
+    const std::vector<std::string> startups = StartupsOf(iChoice);
+    std::vector<std::string> candidates;
+    std::set<std::string> seen;
+    for (std::size_t i = 0; i < std::min(choices.size(), startups.size()); ++i)
+        if (!startups[i].empty() && (isRestricted || seen.insert(startups[i]).second))
+            candidates.push_back(choices[i]);
+    return candidates;
+}
+
+PathEnd PathWalk::StepOnObject(const PathEnd& iFrom, const std::string& iName) const
+{
+    const ORXISpecAttrKey_var spKey = KeyOf(iFrom.access, iName);
+    if (!spKey)
+    {
+        const std::vector<std::string> choices = ChoicesOf(iFrom.access);
+        if (std::find(choices.begin(), choices.end(), iName) != choices.end())
+            Select(iFrom.access, iName);
+        const VYRCfdObjectAccess next = iFrom.access.Get(UnicodeOf(iName));
+        if (!next.IsNull())
+            return {PathEnd::Kind::Object, next, PlaceOfType(next)};
+        // The cursor looks through this list, and a model may hold anything in it.
+        if (!!KeyOf(iFrom.access, "SonsList"))
+            return Open();
+        return Nowhere(iFrom, iName, std::string(next.GetError().View()));
+    }
+    const VYRCfdObjectAccess next = iFrom.access.Get(UnicodeOf(iName));
+    if (!HoldsObjects(spKey->GetType()))
+        return {PathEnd::Kind::Attribute, next, iFrom.place};
+    if (next.IsNull())
+        return Open();
+    return {PathEnd::Kind::Object, next,
+            spKey->GetType() == tk_component ? iFrom.place.Component(iName) : PlaceOfType(next)};
+}
+
+PathEnd PathWalk::StepInList(const PathEnd& iFrom, const std::string& iName)
+{
+    if (!iFrom.access.IsObjectList())
+        return Nowhere(iFrom, iName, std::string(iFrom.access.Get(UnicodeOf(iName)).GetError().View()));
+    VYRCfdObjectAccess entry = iFrom.access.Get(UnicodeOf(iName));
+    if (entry.IsNull() && IsType(iName))
+    {
+        const ORXISpecObject_var spOwner = iFrom.access.Self();
+        ORXIContainer_var spContainer = spOwner->GetContainer();
+        ORXISpecObject_var spEntry;
+        ORXSimBCInitializeServices::CreateBasicComponent(UnicodeOf(iName), "Scratch", spContainer, spEntry);
+        const ORXISpecAttrAccess_var spAccess = iFrom.access.Access();
+        const ORXISpecAttrKey_var spKey = ORXISpecAttrKey_var::Adopt(spAccess->GetAttrKey(iFrom.access.GetName()));
+        spAccess->InsertAtPosition(spKey.Pointer(), spEntry, 1);
+        entry = iFrom.access.Get(UnicodeOf(iName));
+    }
+    if (entry.IsNull())
+        return Open();
+    return {PathEnd::Kind::Object, entry, PlaceOfType(entry)};
+}
+} // namespace Tool

@@ -1,0 +1,63 @@
+#ifndef TypedCheck_H
+#define TypedCheck_H
+
+#include <deque>
+#include <set>
+#include <string>
+#include <tuple>
+#include <unordered_set>
+#include <vector>
+
+#include "CheckRun.h"
+#include "ItemTrial.h"
+#include "ScratchObjects.h"
+#include "TypeGuess.h"
+
+namespace Tool
+{
+/**
+ * The checks that need catalogs: every configuration is tried out on objects that it is for. These are the types for
+ * which catalogs mean it, and where the paths of other configurations lead; for the rest, the types that most of its
+ * paths fit.
+ */
+class TypedCheck
+{
+public:
+    explicit TypedCheck(CheckRun& ioRun);
+
+    void Check();
+
+private:
+    struct Task
+    {
+        const SourceConfiguration* configuration;
+        ObjectPlace place;
+        bool isGuessed;
+    };
+
+    void Put(std::string_view iConfiguration, const ObjectPlace& iPlace, bool iIsGuessed);
+    void WorkOff();
+    void GuessRest();
+    void Guess(const SourceConfiguration& iConfiguration);
+    TrialFindings Try(const Task& iTask);
+    void TryItem(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
+    void TryReference(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
+    /// @return false where the condition itself leads nowhere
+    static bool TryCondition(const SourceItem& iItem, const Trial& iTrial, PathWalk& ioWalk, TrialFindings& oFindings);
+    void TryTarget(const SourceItem& iItem, const Trial& iTrial, const PathEnd& iEnd, TrialFindings& oFindings);
+    void CheckTypeNames();
+    void Report(TrialFindings iFindings);
+
+    CheckRun& m_run;
+    ScratchObjects m_objects;
+    DefaultTrial m_defaults;
+    TypeGuess m_guess;
+    std::deque<Task> m_tasks;
+    std::set<std::tuple<const SourceConfiguration*, std::string, std::string>> m_known;
+    std::unordered_set<const SourceConfiguration*> m_tried;
+    /// False while several types are tried for one configuration: where its paths lead on each of them says nothing.
+    bool m_followsReferences = true;
+};
+} // namespace Tool
+
+#endif
