@@ -14,6 +14,8 @@ namespace
 {
 using VYRStandalone::Model;
 
+constexpr int UnsetInARow = 8;
+
 char currentRun[256];
 
 [[noreturn]] void Terminate()
@@ -28,7 +30,7 @@ void Arm(const Plan& iPlan)
     {
         VYRStandalone::Fault fault;
         fault.call = iPlan.number;
-        fault.times = iPlan.all ? 0 : 1;
+        fault.times = !iPlan.all ? 1 : iPlan.unset ? UnsetInARow : 0;
         fault.status = iPlan.status;
         fault.isUnset = iPlan.unset;
         VYRStandalone::PlantFault(fault);
@@ -172,7 +174,8 @@ std::string TextOf(const Plan& iPlan)
     const std::string what = isCall ? iPlan.unset ? "value" : "call" : "allocation";
     const std::string number = std::to_string(iPlan.number);
     const std::string status = isCall ? iPlan.unset ? " (unset)" : " (" + AnswerOf(iPlan.status) + ")" : "";
-    return iPlan.all ? "all " + what + "s from " + number + " on" + status : what + " " + number + status;
+    const std::string many = isCall && iPlan.unset ? std::to_string(UnsetInARow) : "all";
+    return iPlan.all ? many + " " + what + "s from " + number + " on" + status : what + " " + number + status;
 }
 
 Outcome RunScenario(const Scenario& iScenario, const Plan& iPlan)

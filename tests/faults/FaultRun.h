@@ -21,7 +21,8 @@ struct Plan
     What what = What::Nothing;
     /// The first that fails.
     int number = 0;
-    /// All from then on.
+    /// All from then on. Of unset values only some in a row: on a host where nothing that is written is ever set, an
+    /// update that gives the value its default, and is told of that write, never comes to its end.
     bool all = false;
     /// Of calls.
     HRESULT status = E_FAIL;
