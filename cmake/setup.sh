@@ -1,4 +1,4 @@
-# Shared by ./run and ./test, which read it in: what must be installed, and building a preset.
+# Shared by ./run, ./test and ./measure, which read it in: what must be installed, and building a preset.
 # Expects $root, the folder of the repository.
 
 # Everything goes to standard error: the standard output of ./run is the tool's.
@@ -21,6 +21,14 @@ is_there() {
         libgtest-dev) has_header gtest/gtest.h && has_library libgtest.a ;;
         libclang-rt-14-dev) command -v clang++ >/dev/null && [ -f "$(clang++ -print-runtime-dir)/libclang_rt.asan-$(uname -m).a" ] ;;
         llvm-14) command -v llvm-cov-14 >/dev/null ;;
+        libbenchmark-dev) has_header benchmark/benchmark.h && has_library libbenchmark.so ;;
+        libtrilinos-teuchos-dev) has_library libtrilinos_teuchosparameterlist.so ;;
+        libglib2.0-dev) command -v pkg-config >/dev/null && pkg-config --exists gobject-2.0 ;;
+        qt6-base-dev) has_library libQt6Core.so ;;
+        nlohmann-json3-dev) has_header nlohmann/json.hpp ;;
+        libsimdjson-dev) has_header simdjson.h && has_library libsimdjson.so ;;
+        libmuparser-dev) has_header muParser.h && has_library libmuparser.so ;;
+        liblua5.4-dev) has_header lua5.4/lua.h && has_library liblua5.4.so ;;
         binutils) command -v nm >/dev/null ;;
         *) command -v "$1" >/dev/null ;;
     esac
@@ -57,8 +65,12 @@ set_up() {
 }
 
 RUN_PACKAGES=(g++ cmake ninja-build ccache rapidjson-dev libudunits2-dev libcli11-dev libreadline-dev)
-TEST_PACKAGES=("${RUN_PACKAGES[@]}" libgtest-dev python3 binutils)
+TEST_PACKAGES=("${RUN_PACKAGES[@]}" libgtest-dev libbenchmark-dev python3 binutils valgrind)
 SANITIZER_PACKAGES=(clang libclang-rt-14-dev)
+MEASURE_PACKAGES=(g++ cmake ninja-build ccache rapidjson-dev libudunits2-dev libbenchmark-dev)
+# What ./measure compares with, beside RapidJSON. It measures without those that cannot be had.
+PEER_PACKAGES=(libtrilinos-teuchos-dev libglib2.0-dev qt6-base-dev nlohmann-json3-dev libsimdjson-dev libmuparser-dev
+    liblua5.4-dev)
 
 # build PRESET [--target TARGET...] [-D...]: configures and builds it below build/.
 build() {

@@ -34,7 +34,8 @@ ROOMS = {
     "standalone": ((HOST, "standalone"), ANY_LIBRARY),
     "tools": (PUBLIC_FACES + (OWN,), ANY_LIBRARY),
     "tests": (PUBLIC_FACES + (OWN, "tests/support"), ANY_LIBRARY),
-    "bench": (PUBLIC_FACES + (OWN,), ANY_LIBRARY),
+    # One program, in folders.
+    "bench": (PUBLIC_FACES + ("bench",), ANY_LIBRARY),
     # The tool is a program: what it reads from others can be driven from inside only.
     "fuzz": (PUBLIC_FACES + (OWN, "tools/vyrcfd"), ANY_LIBRARY),
 }
