@@ -232,7 +232,9 @@ bool Quantity::Convert(std::string_view iUnit, double iNumber, double& oValue) c
         known = table.conversions.emplace(entry, parts.conversion).first;
     }
     const Conversion& conversion = known->second;
-    const double value = (iNumber + conversion.origin) * conversion.multiplier / conversion.divisor;
+    // Adding nothing would take the sign of a negative zero away.
+    const double shifted = conversion.origin != 0.0 ? iNumber + conversion.origin : iNumber;
+    const double value = shifted * conversion.multiplier / conversion.divisor;
     if (!std::isfinite(value))
         return false;
     oValue = value;

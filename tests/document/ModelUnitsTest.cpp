@@ -68,6 +68,7 @@ INSTANTIATE_TEST_SUITE_P(
                     QuantityCase{"NumberText", "length", "\"2\"", "E.length = 2 m\n", "2.0,"},
                     QuantityCase{"OtherUnit", "length", "\"250 cm\"", "E.length = 2.5 m\n", "2.5,"},
                     QuantityCase{"SiUnit", "length", "\"0.5 m\"", "E.length = 0.5 m\n", "0.5,"},
+                    QuantityCase{"NegativeZero", "length", "\"-0 m\"", "E.length = -0 m\n", "-0.0,"},
                     QuantityCase{"Unset", "length", "null", "E.length = (unset)\n", "null,"},
                     QuantityCase{"Pressure", "pressure", "\"2 bar\"", "E.pressure = 2e+05 Pa\n", "2e+05\n"},
                     QuantityCase{"List", "lengths", "[\"1 mm\", 2, \"0.5 km\"]",
