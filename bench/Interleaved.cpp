@@ -1,12 +1,20 @@
 #include "Interleaved.h"
 
 #include <algorithm>
+#include <ctime>
 #include <stdexcept>
 
 namespace Bench
 {
 namespace
 {
+double ProcessorTime()
+{
+    timespec time{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) * 1e9 + static_cast<double>(time.tv_nsec);
+}
+
 /// How often a work is to be done to fill a slice.
 std::size_t TimesFor(const Work& iWork, double iSlice)
 {
@@ -36,12 +44,12 @@ double TimeOf(const Work& iWork, std::size_t iTimes)
 {
     if (iWork.prepare)
         iWork.prepare(iTimes);
-    const auto begin = std::chrono::steady_clock::now();
+    const double begin = ProcessorTime();
     iWork.run(iTimes);
-    const auto end = std::chrono::steady_clock::now();
+    const double end = ProcessorTime();
     if (iWork.finish)
         iWork.finish();
-    return static_cast<double>(std::chrono::duration_cast<std::chrono::nanoseconds>(end - begin).count());
+    return end - begin;
 }
 
 Interleaved::Interleaved(std::vector<Work> iWorks, int iRounds, std::chrono::nanoseconds iSlice)
@@ -75,11 +83,8 @@ double Interleaved::Ratio(std::size_t iWork, std::size_t iOther) const
     return Median(ratios);
 }
 
-double Interleaved::Difference(std::size_t iWork, std::size_t iOther) const
+double Interleaved::Fastest(std::size_t iWork) const
 {
-    std::vector<double> differences;
-    for (std::size_t round = 0; round < m_times[iWork].size(); ++round)
-        differences.push_back(m_times[iWork][round] - m_times[iOther][round]);
-    return Median(differences);
+    return *std::min_element(m_times[iWork].begin(), m_times[iWork].end());
 }
 } // namespace Bench

@@ -17,7 +17,7 @@ namespace Bench
 struct Settings
 {
     /// Of short works; long ones take fewer.
-    int rounds = 31;
+    int rounds = 61;
 };
 
 std::vector<Line> ReadByPathRow(const Settings& iSettings);

@@ -71,12 +71,9 @@ Line Beside(const char* iText, const Work& iWork, double iReach, int iRounds)
     const std::size_t allocations = Allocations() - before;
 
     const Interleaved measured({iWork, CountPair()}, iRounds);
-    Line line{7,
-              iText,
-              TimeText(measured.Nanoseconds(0)),
-              "a count pair " + TimeText(measured.Nanoseconds(1)),
-              measured.Difference(0, 1),
-              iReach};
+    const double ours = measured.Fastest(0);
+    const double pair = measured.Fastest(1);
+    Line line{7, iText, TimeText(ours), "a count pair " + TimeText(pair), ours - pair, iReach};
     line.unit = "ns more";
     if (allocations > 0)
         line.fault = std::to_string(allocations) + " allocations in 1000";
