@@ -30,7 +30,8 @@ protected:
 TEST_F(ListTest, Definitions_StandWithTheirFiles_InTheOrderOfTheFiles)
 {
     Write(std::string(Configurations) + "conditionsConfig_Flow.json",
-          R"({"configurations": [{"name": "inlet", "config": [{}]}, {"name": "far\tfield"}, {"name": ""}]})");
+          R"({"configurations": [{"name": "inlet", "config": [{}]}, {"name": "far\tfield"},
+              {"name": ""}]})");
     Write(std::string(Configurations) + "meshFYEConfig.json",
           R"({"configurations": [{"name": "mesh", "config": [{}, {"path": "a"}]}, {"name": "inlet", "config": []}]})");
     Write(std::string(Configurations) + "solverConfig_Flow.json",
@@ -41,17 +42,18 @@ TEST_F(ListTest, Definitions_StandWithTheirFiles_InTheOrderOfTheFiles)
     {
         expected += folder + name + "\n";
         if (name == "conditionsConfig_Flow.json")
-            expected += "    inlet       1 item\n"
-                        "    far\\tfield  0 items\n"
-                        "    \"\"          0 items\n";
+            expected += "    inlet       1 item, line 1\n"
+                        "    far\\tfield  0 items, line 1\n"
+                        "    \"\"          0 items, line 2\n";
         if (name == "solverConfig_Flow.json")
-            expected += "    mesh        0 items\n"
-                        "    mesh        0 items  without effect: defined in " +
-                        folder + "solverConfig_Flow.json\n";
+            expected += "    mesh        0 items, line 1\n"
+                        "    mesh        0 items, line 1  without effect: defined in " +
+                        folder + "solverConfig_Flow.json, line 1\n";
         if (name == "meshFYEConfig.json")
-            expected += "    mesh        2 items  without effect: defined in " + folder + "solverConfig_Flow.json\n" +
-                        "    inlet       0 items  without effect: defined in " + folder +
-                        "conditionsConfig_Flow.json\n";
+            expected += "    mesh        2 items, line 1  without effect: defined in " + folder +
+                        "solverConfig_Flow.json, line 1\n" +
+                        "    inlet       0 items, line 1  without effect: defined in " + folder +
+                        "conditionsConfig_Flow.json, line 1\n";
     }
     const ToolRun run = Run({"list"});
     EXPECT_EQ(Outcome(run), Outcome(0, ""));
@@ -61,7 +63,8 @@ TEST_F(ListTest, Definitions_StandWithTheirFiles_InTheOrderOfTheFiles)
 TEST_F(ListTest, Json_HasOneEntryADefinition)
 {
     Write(std::string(Configurations) + "measurementsConfig.json",
-          R"({"configurations": [{"name": "lift", "config": [{}]}, {"name": "lift"}]})");
+          R"({"configurations": [{"name": "lift", "config": [{}]},
+              {"name": "lift"}]})");
     const ToolRun run = Run({"list", "--json"});
     EXPECT_EQ(Outcome(run), Outcome(0, ""));
     EXPECT_EQ(run.output, R"({
@@ -69,14 +72,20 @@ TEST_F(ListTest, Json_HasOneEntryADefinition)
     {
       "name": "lift",
       "file": "samples/reffiles/VYRCfdApp/measurementsConfig.json",
+      "line": 1,
+      "column": 30,
       "items": 1,
-      "hiddenBy": null
+      "hiddenBy": null,
+      "hiddenByLine": null
     },
     {
       "name": "lift",
       "file": "samples/reffiles/VYRCfdApp/measurementsConfig.json",
+      "line": 2,
+      "column": 24,
       "items": 0,
-      "hiddenBy": "samples/reffiles/VYRCfdApp/measurementsConfig.json"
+      "hiddenBy": "samples/reffiles/VYRCfdApp/measurementsConfig.json",
+      "hiddenByLine": 1
     }
   ]
 }

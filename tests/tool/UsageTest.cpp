@@ -74,7 +74,9 @@ TEST_P(Help, NamesWhatTheCommandTakes)
 
 INSTANTIATE_TEST_SUITE_P(Usage, Help,
                          testing::Values(std::vector<std::string>{}, std::vector<std::string>{"apply"},
-                                         std::vector<std::string>{"show"}, std::vector<std::string>{"list"}));
+                                         std::vector<std::string>{"show"}, std::vector<std::string>{"list"},
+                                         std::vector<std::string>{"explain"}, std::vector<std::string>{"describe"},
+                                         std::vector<std::string>{"graph"}, std::vector<std::string>{"purge"}));
 
 TEST_F(ToolTest, HelpOfTheShell_TellsItsCommands)
 {

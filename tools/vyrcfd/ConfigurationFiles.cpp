@@ -17,9 +17,9 @@ std::vector<ConfigurationFile> ReadConfigurationFiles(const Installation& iInsta
             files.emplace_back(ConfigurationFile{file.Path(), {}}).definitions;
         for (; next != source.Configurations().end() && next->file == &file; ++next)
         {
-            definitions.push_back({next->name, next->items.size(), std::nullopt});
+            definitions.push_back({next->name, next->items.size(), next->position, std::nullopt});
             if (next->hiddenBy != nullptr)
-                definitions.back().hiddenBy = next->hiddenBy->file->Path();
+                definitions.back().hiddenBy = {next->hiddenBy->file->Path(), next->hiddenBy->position};
         }
     }
     return files;

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "Installation.h"
+#include "SourceValue.h"
 
 namespace Tool
 {
@@ -20,8 +21,15 @@ struct ConfigurationDefinition
 {
     std::string name;
     std::size_t items = 0;
-    /// Path of the file whose earlier definition of the name holds in place of this one.
-    std::optional<std::string> hiddenBy;
+    /// Of the name.
+    SourcePosition position;
+    /// The earlier definition of the name, which holds in place of this one.
+    struct Earlier
+    {
+        std::string file;
+        SourcePosition position;
+    };
+    std::optional<Earlier> hiddenBy;
 };
 
 struct ConfigurationFile

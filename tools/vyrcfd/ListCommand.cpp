@@ -23,9 +23,10 @@ std::string ListText(const std::vector<ConfigurationFile>& iFiles)
         {
             const std::string name = definition.name.empty() ? "\"\"" : OneLine(definition.name);
             text += "    " + name + std::string(width - std::min(width, Characters(name)), ' ') + "  " +
-                    Counted(definition.items, "item");
+                    Counted(definition.items, "item") + ", line " + std::to_string(definition.position.line);
             if (definition.hiddenBy)
-                text += colours.Removed("  without effect: defined in " + OneLine(*definition.hiddenBy));
+                text += colours.Removed("  without effect: defined in " + OneLine(definition.hiddenBy->file) +
+                                        ", line " + std::to_string(definition.hiddenBy->position.line));
             text += "\n";
         }
     }
@@ -37,11 +38,20 @@ void WriteDefinition(JsonWriter& oWriter, const ConfigurationFile& iFile, const 
     oWriter.StartObject();
     WriteMember(oWriter, "name", iDefinition.name);
     WriteMember(oWriter, "file", OneLine(iFile.path));
+    WriteKey(oWriter, "line");
+    oWriter.Int(iDefinition.position.line);
+    WriteKey(oWriter, "column");
+    oWriter.Int(iDefinition.position.column);
     WriteKey(oWriter, "items");
     oWriter.Uint64(iDefinition.items);
     WriteKey(oWriter, "hiddenBy");
     if (iDefinition.hiddenBy)
-        WriteText(oWriter, OneLine(*iDefinition.hiddenBy));
+        WriteText(oWriter, OneLine(iDefinition.hiddenBy->file));
+    else
+        oWriter.Null();
+    WriteKey(oWriter, "hiddenByLine");
+    if (iDefinition.hiddenBy)
+        oWriter.Int(iDefinition.hiddenBy->position.line);
     else
         oWriter.Null();
     oWriter.EndObject();
@@ -64,12 +74,14 @@ std::string ListJson(const std::vector<ConfigurationFile>& iFiles)
 
 void AddListCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
 {
-    CLI::App* command = ioApp.add_subcommand(
-        "list", "Lists the configurations, with the file that each comes from, in the order in which they are read");
+    CLI::App* command = ioApp.add_subcommand("list", "Lists the configurations, with the file and the line that each "
+                                                     "comes from, in the order in which they are read");
     AddCommonOptions(*command, ioOptions);
     command->footer("Of a name that is defined twice the first definition holds; the others are marked.\n"
-                    "With --json: {\"configurations\": [{\"name\", \"file\", \"items\", \"hiddenBy\"}]}, where "
-                    "\"hiddenBy\" is\nthe file of the definition that holds, null for that one itself.");
+                    "With --json: {\"configurations\": [{\"name\", \"file\", \"line\", \"column\", \"items\", "
+                    "\"hiddenBy\",\n\"hiddenByLine\"}]}, where the last two tell the definition that holds, and are "
+                    "null for that one "
+                    "itself.");
     command->callback([&ioOptions, &oJob] {
         oJob = [&ioOptions] {
             const std::vector<ConfigurationFile> files = ReadConfigurationFiles(Installation(ioOptions));

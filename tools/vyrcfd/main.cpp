@@ -81,8 +81,12 @@ ExitStatus RunCommandLine(int argc, const char* const* argv)
     Tool::AddCommonOptions(app, options);
     Tool::AddApplyCommand(app, options, job);
     Tool::AddShowCommand(app, options, job);
+    Tool::AddExplainCommand(app, options, job);
     Tool::AddListCommand(app, options, job);
     Tool::AddCheckCommand(app, options, job);
+    Tool::AddDescribeCommand(app, options, job);
+    Tool::AddGraphCommand(app, options, job);
+    Tool::AddPurgeCommand(app, options, job);
     Tool::AddShellCommand(app, options, job);
 
     try
