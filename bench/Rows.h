@@ -17,7 +17,7 @@ namespace Bench
 struct Settings
 {
     /// Of short works; long ones take fewer.
-    int rounds = 61;
+    int rounds = 101;
 };
 
 std::vector<Line> ReadByPathRow(const Settings& iSettings);

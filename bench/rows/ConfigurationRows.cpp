@@ -33,7 +33,7 @@ template <class Maker> Line SlopeLine(const char* iText, const Maker& iMaker)
 std::vector<Line> DefaultsRow(const Settings&)
 {
     return Compare(9, "apply 1,000 default items, records written", ApplyDefaults(1000),
-                   {{"Teuchos validateParametersAndSetDefaults", PeerWork("Teuchos", "defaults", "1000"), 6, 2}}, 9);
+                   {{"Teuchos validateParametersAndSetDefaults", PeerWork("Teuchos", "defaults", "1000"), 6, 2}}, 21);
 }
 
 std::vector<Line> ScalingRow(const Settings&)

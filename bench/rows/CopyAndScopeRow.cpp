@@ -70,7 +70,8 @@ Line Beside(const char* iText, const Work& iWork, double iReach, int iRounds)
     iWork.run(1000);
     const std::size_t allocations = Allocations() - before;
 
-    const Interleaved measured({iWork, CountPair()}, iRounds);
+    // Long enough that the machine is left alone at some time.
+    const Interleaved measured({iWork, CountPair()}, 5 * iRounds);
     const double ours = measured.Fastest(0);
     const double pair = measured.Fastest(1);
     Line line{7, iText, TimeText(ours), "a count pair " + TimeText(pair), ours - pair, iReach};
