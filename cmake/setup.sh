@@ -30,6 +30,7 @@ is_there() {
         libmuparser-dev) has_header muParser.h && has_library libmuparser.so ;;
         liblua5.4-dev) has_header lua5.4/lua.h && has_library liblua5.4.so ;;
         binutils) command -v nm >/dev/null ;;
+        python3-jsonschema) python3 -c "import jsonschema" 2>/dev/null ;;
         *) command -v "$1" >/dev/null ;;
     esac
 }
@@ -65,7 +66,7 @@ set_up() {
 }
 
 RUN_PACKAGES=(g++ cmake ninja-build ccache rapidjson-dev libudunits2-dev libcli11-dev libreadline-dev)
-TEST_PACKAGES=("${RUN_PACKAGES[@]}" libgtest-dev libbenchmark-dev python3 binutils valgrind)
+TEST_PACKAGES=("${RUN_PACKAGES[@]}" libgtest-dev libbenchmark-dev python3 python3-jsonschema binutils valgrind)
 SANITIZER_PACKAGES=(clang libclang-rt-14-dev)
 MEASURE_PACKAGES=(g++ cmake ninja-build ccache rapidjson-dev libudunits2-dev libbenchmark-dev)
 # What ./measure compares with, beside RapidJSON. It measures without those that cannot be had.
