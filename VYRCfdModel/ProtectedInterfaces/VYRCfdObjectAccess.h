@@ -217,7 +217,7 @@ public:
     HRESULT CleanList(const GUID& iInterface) const;
 
 private:
-    VYRCfdObjectAccess(const ORXISpecAttrAccess_var& iAttr, const ORXISpecAttrKey_var& iKey);
+    VYRCfdObjectAccess(ORXISpecAttrAccess_var iAttr, ORXISpecAttrKey_var iKey);
 
     VYRCfdObjectAccess ObjectAt(ORXISpecAttrKey* iKey, int iIndex) const;
     VYRCfdObjectAccess GetOnObject(const ORXUnicodeString& iName) const;

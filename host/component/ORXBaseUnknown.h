@@ -8,6 +8,7 @@
  */
 
 #include <cstddef>
+#include <cstdint>
 #include <new>
 
 #include "IUnknown.h"
@@ -74,6 +75,26 @@ public:
     /// Asks the component to change to another implementation. No component of this application does: E_NOTIMPL.
     virtual HRESULT ChangeComponentState(int iState, int iFlags, const void* iContext);
 
+    /**
+     * As `AddRef` and `Release`, for handles: without a virtual call where the host counts the component in a place
+     * that it has told, or not at all. The last reference always goes by `Release`.
+     */
+    void CountIn() noexcept
+    {
+        if (!IsCountedElsewhere())
+            AddRef();
+        else if (unsigned int* const count = PlaceOfCount())
+            ++*count;
+    }
+    void CountOut()
+    {
+        unsigned int* const count = IsCountedElsewhere() ? PlaceOfCount() : nullptr;
+        if (count != nullptr && *count > 1)
+            --*count;
+        else if (count != nullptr || !IsCountedElsewhere())
+            Release();
+    }
+
     static const IID& ClassId() noexcept { return IID_ORXBaseUnknown; }
 
     /// Instances and ties are allocated here, so that the component model can link what is being constructed.
@@ -92,8 +113,15 @@ protected:
 private:
     friend class ORXComponentLink;
 
-    /// A count of its own, shifted left with bit 0 set, or the linked object's root. One word, since every value and
-    /// every parameter carries it.
+    static constexpr std::uintptr_t StateKind = 3;
+    static constexpr std::uintptr_t CountedElsewhere = 2;
+
+    bool IsCountedElsewhere() const noexcept { return (m_state & StateKind) == CountedElsewhere; }
+    /// Null for a component that is not counted.
+    unsigned int* PlaceOfCount() const noexcept { return reinterpret_cast<unsigned int*>(m_state & ~StateKind); }
+
+    /// A count of its own, shifted left with bit 0 set; the linked object's root; or, with bit 1 set and bit 0 not, the
+    /// place of its count. One word, since every value and every parameter carries it.
     std::uintptr_t m_state;
 };
 

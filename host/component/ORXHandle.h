@@ -52,6 +52,12 @@ public:
     /// Takes the reference; the source is null afterwards.
     ORXHandle(ORXHandle&& ioOther) noexcept : m_pointer(std::exchange(ioOther.m_pointer, nullptr)) {}
 
+    /// Takes the reference of a handle whose interface derives from this one; the source is null afterwards.
+    template <class Other>
+    requires(!std::is_same_v<Other, Interface> && std::is_base_of_v<Interface, Other>)
+        ORXHandle(ORXHandle<Other>&& ioOther)
+    noexcept : m_pointer(ioOther.GiveUp()) {}
+
     /// The cast. The handle holds a reference of its own.
     template <class Other>
     requires(!std::is_same_v<Other, Interface>) ORXHandle(const ORXHandle<Other>& iOther)
@@ -67,7 +73,11 @@ public:
 
     ~ORXHandle()
     {
-        if (m_pointer != nullptr)
+        if (m_pointer == nullptr)
+            return;
+        if constexpr (std::is_base_of_v<ORXBaseUnknown, Interface>)
+            m_pointer->CountOut();
+        else
             m_pointer->Release();
     }
 
@@ -123,6 +133,9 @@ public:
     operator Interface*() const noexcept { return m_pointer; }
     Interface* Pointer() const noexcept { return m_pointer; }
 
+    /// Borrowed no more: the reference is the caller's.
+    [[nodiscard]] Interface* GiveUp() noexcept { return std::exchange(m_pointer, nullptr); }
+
     [[noreturn]] static void ThrowErrorNullVar() { ORXThrowErrorNullVar(); }
 
     /// See `ORXSameComponent`.
@@ -131,7 +144,11 @@ public:
 private:
     void AddReference() const noexcept
     {
-        if (m_pointer != nullptr)
+        if (m_pointer == nullptr)
+            return;
+        if constexpr (std::is_base_of_v<ORXBaseUnknown, Interface>)
+            m_pointer->CountIn();
+        else
             m_pointer->AddRef();
     }
 

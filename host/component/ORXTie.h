@@ -18,7 +18,7 @@ struct ORXTieRecord
 {
     /// The tie itself.
     ORXBaseUnknown* tie = nullptr;
-    /// Root of the extended object. The tie holds one reference on it for its whole life.
+    /// Root of the extended object. The tie holds one reference on it as long as anybody but the object holds the tie.
     ORXBaseUnknown* extended = nullptr;
     /// The extension instance that the tie forwards to; owned by the extended object.
     ORXBaseUnknown* instance = nullptr;
@@ -26,6 +26,9 @@ struct ORXTieRecord
     ORXMetaClass* meta = nullptr;
     /// References on the tie.
     unsigned int count = 0;
+    /// Those of them that are the object's own, which keeps the tie for its next notification. None on a tie that it
+    /// does not keep.
+    unsigned int kept = 0;
 };
 
 /**

@@ -166,7 +166,49 @@ private:
     }
 
     /// Fills a string that holds nothing yet. More than 4 GiB throw std::length_error.
-    void Assign(const char* iText, std::size_t iBytes);
+    void Assign(const char* iText, std::size_t iBytes)
+    {
+        if (iBytes < InlinedBytes)
+            AssignInlined(iText, iBytes);
+        else
+            AssignHeap(iText, iBytes);
+    }
+
+    /// In one or two pieces that may overlap: names have a few bytes, and a call costs more than copying them. Pure
+    /// ASCII needs no count.
+    void AssignInlined(const char* iText, std::size_t iBytes) noexcept
+    {
+        constexpr std::uint64_t BeyondAscii = 0x8080808080808080U;
+        std::uint64_t seen = 0;
+        char* const target = m_text.inlined;
+        if (iBytes >= sizeof(std::uint64_t))
+        {
+            std::uint64_t words[3] = {};
+            std::memcpy(&words[0], iText, sizeof words[0]);
+            std::memcpy(&words[2], iText + iBytes - sizeof words[2], sizeof words[2]);
+            seen = words[0] | words[2];
+            if (iBytes > 2 * sizeof words[0])
+            {
+                std::memcpy(&words[1], iText + sizeof words[0], sizeof words[1]);
+                std::memcpy(target + sizeof words[0], &words[1], sizeof words[1]);
+                seen |= words[1];
+            }
+            std::memcpy(target, &words[0], sizeof words[0]);
+            std::memcpy(target + iBytes - sizeof words[2], &words[2], sizeof words[2]);
+        }
+        else
+            for (std::size_t at = 0; at < iBytes; ++at)
+            {
+                target[at] = iText[at];
+                seen |= static_cast<unsigned char>(iText[at]);
+            }
+        target[iBytes] = '\0';
+        m_bytes = static_cast<std::uint32_t>(iBytes);
+        m_characters = (seen & BeyondAscii) == 0 ? m_bytes : CountCharacters(target, iBytes);
+    }
+
+    void AssignHeap(const char* iText, std::size_t iBytes);
+    static std::uint32_t CountCharacters(const char* iText, std::size_t iBytes) noexcept;
     void FreeHeap() noexcept;
     std::size_t ByteOffset(std::size_t iCharacter) const noexcept;
 

@@ -3,9 +3,11 @@
 #include <algorithm>
 
 #include "Census.h"
+#include "KeptTie.h"
 #include "ORXComponentLink.h"
 #include "ORXInstanceListeners.h"
 #include "ORXKweInstanceAdapter.h"
+#include "ORXTie.h"
 
 namespace VYRStandalone
 {
@@ -60,9 +62,36 @@ bool ExtensionTable::IsUnderConstruction(const ORXMetaClass& iClass) const noexc
     return false;
 }
 
-void ExtensionTable::AddLink(const IID& iInterface, ORXBaseUnknown& iFacet)
+void ExtensionTable::AddLink(const IID& iInterface, ORXBaseUnknown& iFacet, ORXTieRecord* iTie)
 {
-    m_links.push_back({iInterface, &iFacet});
+    m_links.push_back({iInterface, &iFacet, iTie});
+}
+
+void ExtensionTable::KeepTie(const IID& iInterface) noexcept
+{
+    for (const Link& link : m_links)
+        if (link.tie != nullptr && link.tie->kept == 0 && link.interfaceId == iInterface)
+        {
+            KeptTie::Keep(*link.tie);
+            return;
+        }
+}
+
+ORXTieRecord* ExtensionTable::FindKeptTie(const IID& iInterface) const noexcept
+{
+    for (const Link& link : m_links)
+        if (link.tie != nullptr && link.tie->kept != 0 && link.interfaceId == iInterface)
+            return link.tie;
+    return nullptr;
+}
+
+/// One that somebody else holds as well stays his.
+void ExtensionTable::DropKeptTies()
+{
+    // Each takes its own link out.
+    for (std::size_t index = m_links.size(); index > 0; --index)
+        if (ORXTieRecord* const tie = m_links[index - 1].tie; tie != nullptr && tie->kept != 0)
+            KeptTie::Drop(*tie);
 }
 
 void ExtensionTable::RemoveLinksTo(const ORXBaseUnknown& iFacet) noexcept
@@ -75,6 +104,7 @@ void ExtensionTable::RemoveLinksTo(const ORXBaseUnknown& iFacet) noexcept
 void ExtensionTable::Clear()
 {
     m_isClearing = true;
+    DropKeptTies();
     m_links.clear();
     while (!m_instances.empty())
     {

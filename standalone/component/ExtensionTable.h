@@ -6,6 +6,8 @@
 #include "ORXFillDictionary.h"
 #include "ORXMetaClass.h"
 
+struct ORXTieRecord;
+
 namespace VYRStandalone
 {
 /**
@@ -35,8 +37,14 @@ public:
                 return link.facet;
         return nullptr;
     }
-    void AddLink(const IID& iInterface, ORXBaseUnknown& iFacet);
+    /// A tie is known with its record, a direct interface without.
+    void AddLink(const IID& iInterface, ORXBaseUnknown& iFacet, ORXTieRecord* iTie = nullptr);
     void RemoveLinksTo(const ORXBaseUnknown& iFacet) noexcept;
+
+    /// Keeps the shared tie of an interface, which somebody holds, until the table is cleared. Others are left alone.
+    void KeepTie(const IID& iInterface) noexcept;
+    /// One that is kept; null for none.
+    ORXTieRecord* FindKeptTie(const IID& iInterface) const noexcept;
 
     /// Deletes the instances, the youngest first. None is made meanwhile.
     void Clear();
@@ -56,9 +64,12 @@ private:
     {
         IID interfaceId;
         ORXBaseUnknown* facet;
+        /// Null for a direct interface.
+        ORXTieRecord* tie;
     };
 
     void Forget(const ORXMetaClass& iClass) noexcept;
+    void DropKeptTies();
 
     bool m_isClearing = false;
     std::vector<Instance> m_instances;

@@ -43,7 +43,10 @@ public:
             NotePending(iMemory, iSize);
     }
 
-    static bool IsLinked(const ORXBaseUnknown& iComponent) noexcept { return (iComponent.m_state & 1) == 0; }
+    static bool IsLinked(const ORXBaseUnknown& iComponent) noexcept
+    {
+        return (iComponent.m_state & ORXBaseUnknown::StateKind) == 0;
+    }
     /// Of a linked component.
     static ORXBaseUnknown* Root(const ORXBaseUnknown& iComponent) noexcept
     {
@@ -57,6 +60,13 @@ public:
     static void Link(ORXBaseUnknown& ioComponent, ORXBaseUnknown& iRoot) noexcept
     {
         ioComponent.m_state = reinterpret_cast<std::uintptr_t>(&iRoot);
+    }
+
+    /// Handles count the component there from now on; its `AddRef` and `Release` must do the same, and more with the
+    /// last reference only. Null for a component that is not counted.
+    static void CountAt(ORXBaseUnknown& ioComponent, unsigned int* iPlace) noexcept
+    {
+        ioComponent.m_state = reinterpret_cast<std::uintptr_t>(iPlace) | ORXBaseUnknown::CountedElsewhere;
     }
 
     static constexpr std::uintptr_t OneReference = 3;

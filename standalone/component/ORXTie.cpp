@@ -2,11 +2,13 @@
 
 #include "Census.h"
 #include "FeatureObject.h"
+#include "KeptTie.h"
 #include "ORXComponentLink.h"
 #include "ORXOmxInternals.h"
 
 using VYRStandalone::Census;
 using VYRStandalone::FeatureObject;
+using VYRStandalone::KeptTie;
 
 ORXBaseUnknown* ToCreateBOA(ORXBaseUnknown* iExtended, ORXBaseUnknown* iExtension, ORXMetaClass* iClass,
                             const IID& iInterface, ORXInstanceConstructor iConstructor)
@@ -52,7 +54,7 @@ void Tie_Construct(ORXTieRecord& ioTie, ORXBaseUnknown* iTie, ORXMetaClass* iTie
     ioTie.meta = iTieMeta;
     ioTie.count = 1;
     if (iTieMeta->Kind() == ORXSharedTieClass)
-        object->Extensions().AddLink(iInterface, *iTie);
+        object->Extensions().AddLink(iInterface, *iTie, &ioTie);
 }
 
 HRESULT Tie_Query(ORXTieRecord& ioTie, const IID& iInterface, void** oInterface)
@@ -60,20 +62,27 @@ HRESULT Tie_Query(ORXTieRecord& ioTie, const IID& iInterface, void** oInterface)
     if (!(iInterface == ioTie.meta->InterfaceId()))
         return ioTie.extended->QueryInterface(iInterface, oInterface);
     *oInterface = ioTie.tie;
-    ++ioTie.count;
+    Tie_AddRef(ioTie);
     return S_OK;
 }
 
 unsigned int Tie_AddRef(ORXTieRecord& ioTie)
 {
-    return ++ioTie.count;
+    ++ioTie.count;
+    if (ioTie.kept != 0 && ioTie.count == ioTie.kept + 1)
+        KeptTie::Take(ioTie);
+    return ioTie.count - ioTie.kept;
 }
 
 unsigned int Tie_Release(int* oMustDelete, ORXTieRecord& ioTie, ENUMTypeOfClass)
 {
     const unsigned int left = --ioTie.count;
     *oMustDelete = left == 0 ? 1 : 0;
-    return left;
+    const unsigned int others = left - ioTie.kept;
+    // With the reference on the object the tie itself may go: nothing of it is touched behind that.
+    if (others == 0 && ioTie.kept != 0)
+        KeptTie::GiveBack(ioTie);
+    return others;
 }
 
 void Tie_Destruct(ORXTieRecord& ioTie, ENUMTypeOfClass)

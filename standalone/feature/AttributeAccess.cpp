@@ -63,7 +63,7 @@ std::string TextList(const ORXListValORXUnicodeString& iValues)
 
 FeatureObject* AttributeAccess::ObjectOf(ORXISpecAttrAccess* iAccess) noexcept
 {
-    if (iAccess == nullptr || typeid(*iAccess) != typeid(AttributeAccess))
+    if (iAccess == nullptr || !(typeid(*iAccess) == typeid(AttributeAccess)))
         return nullptr;
     return &static_cast<AttributeAccess*>(iAccess)->m_object;
 }

@@ -4,6 +4,7 @@
 
 #include "Census.h"
 #include "Instruments.h"
+#include "ORXComponentLink.h"
 
 namespace VYRStandalone
 {
@@ -21,6 +22,7 @@ FeatureKey::FeatureKey(const Traits& iTraits, FeatureType& iDeclaring, std::size
     : m_traits(iTraits), m_slot(SlotKindOf(iTraits)), m_declaring(&iDeclaring), m_componentType(iComponentType),
       m_home(nullptr), m_offset(iOffset)
 {
+    ORXComponentLink::CountAt(*this, nullptr);
 }
 
 FeatureKey::FeatureKey(const Traits& iTraits, AddedAttribute& iHome)
@@ -34,13 +36,6 @@ FeatureKey::~FeatureKey()
 {
     if (IsAdded())
         Census::Died(Census::FeatureKey);
-}
-
-FeatureKey* FeatureKey::Of(ORXISpecAttrKey* iKey) noexcept
-{
-    if (iKey == nullptr || typeid(*iKey) != typeid(FeatureKey))
-        return nullptr;
-    return static_cast<FeatureKey*>(iKey);
 }
 
 bool FeatureKey::SameKind(const Traits& iLeft, const Traits& iRight)

@@ -1,6 +1,8 @@
 #ifndef FeatureKey_H
 #define FeatureKey_H
 
+#include <typeinfo>
+
 #include "KnowledgeType.h"
 #include "ORXISpecAttrKey.h"
 
@@ -43,7 +45,10 @@ public:
     ~FeatureKey() override;
 
     /// The key behind an interface pointer; null for null and for a key that is not the host's.
-    static FeatureKey* Of(ORXISpecAttrKey* iKey) noexcept;
+    static FeatureKey* Of(ORXISpecAttrKey* iKey) noexcept
+    {
+        return iKey != nullptr && typeid(*iKey) == typeid(FeatureKey) ? static_cast<FeatureKey*>(iKey) : nullptr;
+    }
 
     const ORXUnicodeString& Name() const noexcept { return m_traits.name; }
     int TypeCode() const noexcept { return m_traits.type; }

@@ -10,7 +10,10 @@
 #include "Dictionary.h"
 #include "Instruments.h"
 #include "InterfaceNames.h"
+#include "KeptTie.h"
+#include "ORXComponentLink.h"
 #include "ORXIInstance.h"
+#include "ORXTie.h"
 #include "ObjectNames.h"
 #include "RecordLines.h"
 #include "SlotMaking.h"
@@ -24,6 +27,8 @@ FeatureObject::FeatureObject(FeatureType& iType, const ORXUnicodeString& iName, 
     : m_access(*this), m_slotCount(static_cast<unsigned int>(iType.Keys().size())), m_isPrototype(iIsPrototype),
       m_type(&iType), m_block(SlotBlock::Make(iType.SlotBytes())), m_startup(iStartup), m_name(iName)
 {
+    ORXComponentLink::CountAt(*this, PlaceOfCount());
+    ORXComponentLink::CountAt(m_access, PlaceOfCount());
     MakeSlots();
     if (!m_isPrototype)
         Census::Born(Census::FeatureObject);
@@ -155,18 +160,13 @@ std::vector<FeatureKey*> FeatureObject::Keys() const
     return keys;
 }
 
-FeatureKey* FeatureObject::Carried(ORXISpecAttrKey* iKey) const noexcept
+FeatureKey* FeatureObject::CarriedAdded(FeatureKey& iKey) const noexcept
 {
-    FeatureKey* const key = FeatureKey::Of(iKey);
-    if (key == nullptr)
-        return nullptr;
-    if (!key->IsAdded())
-        return m_type->Carries(*key) && IsMade(*key) ? key : nullptr;
-    if (key->Home() != nullptr && &key->Home()->Object() == this)
-        return key;
+    if (iKey.Home() != nullptr && &iKey.Home()->Object() == this)
+        return &iKey;
     // A key of another object's attribute serves here when name and kind agree.
-    FeatureKey* const own = m_added != nullptr ? m_added->names.Find(key->Name().View()) : nullptr;
-    return own != nullptr && FeatureKey::SameKind(own->Kind(), key->Kind()) ? own : nullptr;
+    FeatureKey* const own = m_added != nullptr ? m_added->names.Find(iKey.Name().View()) : nullptr;
+    return own != nullptr && FeatureKey::SameKind(own->Kind(), iKey.Kind()) ? own : nullptr;
 }
 
 const std::vector<AddedAttribute*>& FeatureObject::Added() const noexcept
@@ -416,41 +416,32 @@ void FeatureObject::Tell(const FeatureKey& iKey, ORXIValue* iValue)
     // The listener may let the last other reference go, and may write the value again.
     const ORXISpecObject_var object = ORXISpecObject_var::Share(this);
     const ORXIValue_var value = ORXIValue_var::Share(iValue);
+    if (ORXTieRecord* const kept = m_extensions.FindKeptTie(IID_ORXIInstance))
+    {
+        const KeptTie::Use use(*kept);
+        Advise(static_cast<ORXIInstance&>(*kept->tie), iKey, value);
+        return;
+    }
     const ORXIInstance_var instance =
         ORXIInstance_var::Adopt(static_cast<ORXIInstance*>(ExtensionFacet(IID_ORXIInstance, entry)));
     if (!instance)
         return;
-    const bool isRecording = Instruments::IsRecording();
-    if (!isRecording)
+    m_extensions.KeepTie(IID_ORXIInstance);
+    Advise(*instance.Pointer(), iKey, value);
+}
+
+void FeatureObject::Advise(ORXIInstance& ioInstance, const FeatureKey& iKey, const ORXIValue_var& iValue)
+{
+    if (!Instruments::IsRecording())
     {
-        instance->AdviseAttributeChanged(iKey.Name(), value);
+        ioInstance.AdviseAttributeChanged(iKey.Name(), iValue);
         return;
     }
     // Made before the listener is told, which may take the object elsewhere.
     const std::string done = RecordLines::Call("done", *this, iKey.Name().View(), 0);
     Instruments::Record(RecordLines::Advise(*this, iKey));
-    instance->AdviseAttributeChanged(iKey.Name(), value);
+    ioInstance.AdviseAttributeChanged(iKey.Name(), iValue);
     Instruments::Record(done);
-}
-
-HRESULT FeatureObject::QueryInterface(const IID& iInterface, void** oInterface)
-{
-    HRESULT planted = S_OK;
-    if (Instruments::Active() &&
-        Instruments::Fails("QueryInterface", std::string_view(InterfaceNames::Of(iInterface)), this, planted))
-    {
-        *oInterface = nullptr;
-        return planted;
-    }
-    if (ORXBaseUnknown* const facet = OwnFacet(iInterface))
-    {
-        AddReference();
-        *oInterface = facet;
-        return S_OK;
-    }
-    Dictionary::EnsureFresh();
-    *oInterface = ExtensionFacet(iInterface, m_type->FindExtension(iInterface));
-    return *oInterface != nullptr ? S_OK : E_NOINTERFACE;
 }
 
 ORXBaseUnknown* FeatureObject::OwnFacet(const IID& iInterface) noexcept
@@ -473,6 +464,26 @@ ORXBaseUnknown* FeatureObject::OwnFacet(const IID& iInterface) noexcept
     default:
         return nullptr;
     }
+}
+
+HRESULT FeatureObject::QueryInterface(const IID& iInterface, void** oInterface)
+{
+    HRESULT planted = S_OK;
+    if (Instruments::Active() &&
+        Instruments::Fails("QueryInterface", std::string_view(InterfaceNames::Of(iInterface)), this, planted))
+    {
+        *oInterface = nullptr;
+        return planted;
+    }
+    if (ORXBaseUnknown* const facet = OwnFacet(iInterface))
+    {
+        AddReference();
+        *oInterface = facet;
+        return S_OK;
+    }
+    Dictionary::EnsureFresh();
+    *oInterface = ExtensionFacet(iInterface, m_type->FindExtension(iInterface));
+    return *oInterface != nullptr ? S_OK : E_NOINTERFACE;
 }
 
 ORXBaseUnknown* FeatureObject::ExtensionFacet(const IID& iInterface, const ExtensionEntry* iEntry)

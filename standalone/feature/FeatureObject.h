@@ -17,6 +17,8 @@
 #include "Slots.h"
 #include "Subscribers.h"
 
+class ORXIInstance;
+
 namespace VYRStandalone
 {
 class Container;
@@ -62,6 +64,8 @@ public:
     FeatureType& Type() const noexcept { return *m_type; }
     const ORXUnicodeString& Name() const noexcept { return m_name; }
     bool IsPrototype() const noexcept { return m_isPrototype; }
+    /// Where this object, its facets and its parameters are counted; null for a start-up, which is not.
+    unsigned int* PlaceOfCount() noexcept { return m_isPrototype ? nullptr : &m_references; }
     /// An owner that has come to its end is none.
     FeatureObject* Owner() const noexcept { return m_owner != nullptr && !m_owner->m_isDying ? m_owner : nullptr; }
     /// The owner's attribute that holds this object; null without an owner.
@@ -94,7 +98,13 @@ public:
     /// Adds an optional attribute, with the value of the start-up.
     void MakeOptional(const FeatureKey& iKey) noexcept { Mark(iKey) = true; }
     /// This object's own key for a key of any origin; null when the object does not carry the attribute.
-    FeatureKey* Carried(ORXISpecAttrKey* iKey) const noexcept;
+    FeatureKey* Carried(ORXISpecAttrKey* iKey) const noexcept
+    {
+        FeatureKey* const key = FeatureKey::Of(iKey);
+        if (key == nullptr || key->IsAdded())
+            return key != nullptr ? CarriedAdded(*key) : nullptr;
+        return m_type->Carries(*key) && IsMade(*key) ? key : nullptr;
+    }
 
     /// The added attributes in the order in which they were added.
     const std::vector<AddedAttribute*>& Added() const noexcept;
@@ -220,8 +230,11 @@ private:
     void LeaveStrays() noexcept;
     void TakeObjects(const FeatureKey& iKey, std::vector<FeatureObject*>& ioTaken);
     void Die();
+    /// Of a key of an added attribute.
+    FeatureKey* CarriedAdded(FeatureKey& iKey) const noexcept;
+    void Advise(ORXIInstance& ioInstance, const FeatureKey& iKey, const ORXIValue_var& iValue);
     /// A facet that is no extension; null when the object has none of that interface. No reference is added.
-    ORXBaseUnknown* OwnFacet(const IID& iInterface) noexcept;
+    [[gnu::always_inline]] inline ORXBaseUnknown* OwnFacet(const IID& iInterface) noexcept;
     /// New reference.
     ORXBaseUnknown* ExtensionFacet(const IID& iInterface, const ExtensionEntry* iEntry);
     ObjectNames& Names();

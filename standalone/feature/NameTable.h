@@ -27,7 +27,7 @@ public:
             const Place& candidate = m_places[place];
             if (candidate.key == nullptr)
                 return nullptr;
-            if (candidate.hash == hash && candidate.key->Name().View() == iName)
+            if (candidate.hash == hash && IsSame(candidate.key->Name().View(), iName))
                 return candidate.key;
         }
     }
@@ -54,6 +54,30 @@ private:
         FeatureKey* key = nullptr;
     };
 
+    /// By words: names have a few of them, and a call costs more than comparing.
+    static bool IsSame(std::string_view iLeft, std::string_view iRight) noexcept
+    {
+        if (iLeft.size() != iRight.size())
+            return false;
+        const char* left = iLeft.data();
+        const char* right = iRight.data();
+        std::size_t size = iLeft.size();
+        for (; size >= sizeof(std::uint64_t); size -= sizeof(std::uint64_t))
+        {
+            std::uint64_t words[2];
+            std::memcpy(&words[0], left, sizeof words[0]);
+            std::memcpy(&words[1], right, sizeof words[1]);
+            if (words[0] != words[1])
+                return false;
+            left += sizeof words[0];
+            right += sizeof words[1];
+        }
+        for (std::size_t at = 0; at < size; ++at)
+            if (left[at] != right[at])
+                return false;
+        return true;
+    }
+
     static std::uint32_t Hash(std::string_view iName) noexcept
     {
         constexpr std::uint64_t factor = 0x9e3779b97f4a7c15ULL;
@@ -67,8 +91,26 @@ private:
             hash = (hash ^ word) * factor;
             hash ^= hash >> 32;
         }
-        for (; left > 0; --left, ++text)
-            hash = (hash ^ static_cast<unsigned char>(*text)) * factor;
+        if (left > 0)
+        {
+            // What is left in one piece: of a long name by a word that reaches back into what was read.
+            std::uint64_t word = 0;
+            if (iName.size() >= sizeof word)
+                std::memcpy(&word, text + left - sizeof word, sizeof word);
+            else if (left >= sizeof(std::uint32_t))
+            {
+                std::uint32_t first;
+                std::uint32_t last;
+                std::memcpy(&first, text, sizeof first);
+                std::memcpy(&last, text + left - sizeof last, sizeof last);
+                word = first | static_cast<std::uint64_t>(last) << 32;
+            }
+            else
+                word = static_cast<unsigned char>(text[0]) |
+                       static_cast<std::uint64_t>(static_cast<unsigned char>(text[left / 2])) << 8 |
+                       static_cast<std::uint64_t>(static_cast<unsigned char>(text[left - 1])) << 16;
+            hash = (hash ^ word) * factor;
+        }
         return static_cast<std::uint32_t>(hash >> 32);
     }
 

@@ -6,6 +6,7 @@
 #include "FeatureObject.h"
 #include "Instruments.h"
 #include "Manipulator.h"
+#include "ORXComponentLink.h"
 #include "ParmReading.h"
 #include "RecordLines.h"
 
@@ -15,6 +16,7 @@ AttributeParm::AttributeParm(FeatureObject& iObject, const FeatureKey& iKey, Slo
     : m_object(iObject), m_key(iKey), m_current(nullptr), m_cell(*iKey.Knowledge(), &iBlock, iObject.IsPrototype())
 {
     m_current = &m_cell;
+    ORXComponentLink::CountAt(*this, iObject.PlaceOfCount());
 }
 
 AttributeParm::~AttributeParm()

@@ -9,6 +9,7 @@
 #include <typeinfo>
 
 #include "Instruments.h"
+#include "ORXComponentLink.h"
 #include "ORXTypeCode.h"
 #include "Quantity.h"
 
@@ -42,6 +43,7 @@ std::string Quoted(std::string_view iText)
 KnowledgeType::KnowledgeType(ValueKind iKind, const std::string& iName, KnowledgeType* iBase)
     : m_kind(iKind), m_name(iName.c_str(), iName.size()), m_base(iBase)
 {
+    ORXComponentLink::CountAt(*this, nullptr);
 }
 
 // The types are immortal, and so made past the allocation that the census counts.

@@ -1,6 +1,8 @@
 #include "ORXKweInstanceAdapter.h"
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 #include "FeatureObject.h"
 #include "Instruments.h"
@@ -20,13 +22,26 @@ ORXICkeParm_var ParmOf(const ORXBaseUnknown& iExtension, const ORXUnicodeString&
     return ORXCke_GetParm(access, key, 1);
 }
 
-/// Tells all listeners, from a snapshot, since a listener may unsubscribe while it is told.
-template <class Advise> HRESULT Tell(std::vector<ORXIInstance_var> iListeners, const Advise& iAdvise)
+using Listeners = std::vector<ORXIInstance_var>;
+
+/// Tells all listeners, from a snapshot, since a listener may unsubscribe while it is told. Few are copied to the
+/// stack.
+template <class Advise> HRESULT Tell(const Listeners& iListeners, const Advise& iAdvise)
 {
-    for (const ORXIInstance_var& listener : iListeners)
+    constexpr std::size_t Few = 4;
+    const std::size_t size = iListeners.size();
+    if (size <= Few)
+    {
+        ORXIInstance_var listeners[Few];
+        std::copy(iListeners.begin(), iListeners.end(), listeners);
+        std::for_each_n(listeners, size, [&](const ORXIInstance_var& iListener) { iAdvise(*iListener.Pointer()); });
+        return S_OK;
+    }
+    for (const ORXIInstance_var& listener : Listeners(iListeners))
         iAdvise(*listener.Pointer());
     return S_OK;
 }
+
 /// Whether a planted fault meets an operation of an extension's adapter.
 bool IsStopped(const char* iOperation, const ORXBaseUnknown& iExtension, std::string_view iSubject, HRESULT& oStatus)
 {

@@ -2,6 +2,7 @@
 
 #include "Instruments.h"
 #include "KnowledgeType.h"
+#include "ORXComponentLink.h"
 
 namespace VYRStandalone
 {
@@ -14,6 +15,11 @@ ORXICkeType_var BaseType(const char* iOperation, KnowledgeType* iType)
     return ORXICkeType_var::Share(iType);
 }
 } // namespace
+
+ParmDictionary::ParmDictionary()
+{
+    ORXComponentLink::CountAt(*this, nullptr);
+}
 
 ParmDictionary& ParmDictionary::Instance()
 {

@@ -21,7 +21,7 @@ public:
     ORXICkeType_var GetEnumType() override;
 
 private:
-    ParmDictionary() = default;
+    ParmDictionary();
 };
 } // namespace VYRStandalone
 

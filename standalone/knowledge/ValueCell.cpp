@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "Census.h"
+#include "ORXComponentLink.h"
 #include "SlotBlock.h"
 
 namespace VYRStandalone
@@ -36,6 +37,7 @@ int WithoutFraction(double iValue)
 ValueCell::ValueCell(const KnowledgeType& iType, SlotBlock* iBlock, bool iIsImmortal)
     : m_type(&iType), m_block(iBlock), m_isImmortal(iIsImmortal)
 {
+    ORXComponentLink::CountAt(*this, iIsImmortal ? nullptr : &m_count);
 }
 
 ValueCell::~ValueCell() = default;
@@ -80,7 +82,7 @@ void ValueCell::Leave()
             KeepReplaced(this);
         return;
     }
-    if (m_holds == 0)
+    if (Holds() == 0)
     {
         if (m_block == nullptr)
             ::delete this;
@@ -89,6 +91,7 @@ void ValueCell::Leave()
         return;
     }
     m_isLeft = true;
+    --m_count;
     Census::Born(Census::Value);
     if (m_block != nullptr)
         m_block->Hold();
@@ -123,15 +126,19 @@ HRESULT ValueCell::QueryInterface(const IID& iInterface, void** oInterface)
 
 unsigned int ValueCell::AddRef()
 {
-    return m_isImmortal ? 1 : ++m_holds;
+    if (m_isImmortal)
+        return 1;
+    ++m_count;
+    return Holds();
 }
 
 unsigned int ValueCell::Release()
 {
     if (m_isImmortal)
         return 1;
-    const unsigned int left = --m_holds;
-    if (left == 0 && m_isLeft)
+    --m_count;
+    const unsigned int left = Holds();
+    if (m_count == 0)
         Bury();
     return left;
 }

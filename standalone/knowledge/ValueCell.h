@@ -12,9 +12,9 @@ class SlotBlock;
 /**
  * A value that an attribute or a volatile parameter holds and hands out.
  *
- * The holder counts nothing. As long as nobody else holds the cell, the holder may write into it; otherwise it takes
- * another cell and leaves this one as it is. A cell that its holder has left dies with its last reference. Cells of
- * start-ups are immortal and shared between threads: they count nothing and are never written into again.
+ * The holder counts one reference. As long as nobody else holds the cell, the holder may write into it; otherwise it
+ * takes another cell and leaves this one as it is. A cell that its holder has left dies with its last reference. Cells
+ * of start-ups are immortal and shared between threads: they count nothing and are never written into again.
  */
 class ValueCell final : public ORXIValue
 {
@@ -32,7 +32,8 @@ public:
     void Write(const Scalar& iValue) { m_value = iValue; }
     void Write(Scalar&& iValue) noexcept { m_value = std::move(iValue); }
     bool IsImmortal() const noexcept { return m_isImmortal; }
-    unsigned int Holds() const noexcept { return m_holds; }
+    /// Of others than the holder.
+    unsigned int Holds() const noexcept { return m_isLeft ? m_count : m_count - 1; }
 
     /// The cell, null, or a value of its type that is not valuated, which belongs to who holds it.
     ORXIValue_var Answer(Instruments::Answer iAnswer);
@@ -58,7 +59,7 @@ private:
 
     const KnowledgeType* m_type;
     SlotBlock* m_block;
-    unsigned int m_holds = 0;
+    unsigned int m_count = 1;
     bool m_isImmortal;
     /// The holder has gone.
     bool m_isLeft = false;

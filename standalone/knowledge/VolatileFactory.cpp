@@ -1,10 +1,16 @@
 #include "VolatileFactory.h"
 
 #include "Instruments.h"
+#include "ORXComponentLink.h"
 #include "VolatileParm.h"
 
 namespace VYRStandalone
 {
+VolatileFactory::VolatileFactory()
+{
+    ORXComponentLink::CountAt(*this, nullptr);
+}
+
 VolatileFactory& VolatileFactory::Instance()
 {
     static VolatileFactory* const factory = ::new VolatileFactory;

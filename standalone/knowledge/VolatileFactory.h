@@ -18,7 +18,7 @@ public:
     ORXICkeParm_var CreateParm(const ORXICkeType_var& iType, const ORXUnicodeString& iName) override;
 
 private:
-    VolatileFactory() = default;
+    VolatileFactory();
 };
 } // namespace VYRStandalone
 

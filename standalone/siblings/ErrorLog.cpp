@@ -4,6 +4,8 @@
 
 #include "PerThread.h"
 
+constinit thread_local unsigned char ErrorLog::s_status = 0;
+
 ErrorLog& ErrorLog::Current()
 {
     return PerThread<ErrorLog>::Get();
@@ -23,11 +25,11 @@ const std::vector<Report>& Reports()
 
 unsigned char ErrorStatus()
 {
-    return ErrorLog::Current().status;
+    return ErrorLog::s_status;
 }
 
 void SetErrorStatus(unsigned char iStatus)
 {
-    ErrorLog::Current().status = iStatus;
+    ErrorLog::s_status = iStatus;
 }
 } // namespace VYRStandalone

@@ -13,10 +13,13 @@
 struct ErrorLog
 {
     std::vector<VYRStandalone::Report> reports;
-    unsigned char status = 0;
 
     /// That of this thread.
     static ErrorLog& Current();
+
+    /// The status byte of this thread. Apart from the reports, and of the cheapest model, since every typed read and
+    /// write of a cursor begins with it.
+    [[gnu::tls_model("initial-exec")]] static constinit thread_local unsigned char s_status;
 };
 
 #endif

@@ -29,7 +29,7 @@ void Record(Report::Kind iKind, const Place& iPlace, std::string iText, HRESULT 
 
 void VYRFeaErrorManager::SetErrorStatus(unsigned char iStatus)
 {
-    ErrorLog::Current().status = iStatus;
+    ErrorLog::s_status = iStatus;
 }
 
 void VYRFeaErrorManager::CreateAssertionError(const char* iFile, const char* iFunction, int iLine,

@@ -21,15 +21,6 @@ bool ContinuesCharacter(char iByte) noexcept
     return (static_cast<unsigned char>(iByte) & 0xC0U) == 0x80U;
 }
 
-/// A continuation byte at the very start has no character before it, so it begins one.
-std::uint32_t CountCharacters(std::string_view iText) noexcept
-{
-    if (iText.empty())
-        return 0;
-    const auto inner = std::count_if(iText.begin() + 1, iText.end(), ContinuesCharacter);
-    return static_cast<std::uint32_t>(iText.size() - static_cast<std::size_t>(inner));
-}
-
 /// Blocks grow in powers of two, and the size of one follows from the text's length alone: appending piece by piece
 /// allocates seldom, though no capacity is kept.
 std::size_t BlockSize(std::size_t iBytes) noexcept
@@ -74,20 +65,33 @@ ORXUnicodeString FromView(std::string_view iText)
 }
 } // namespace
 
-void ORXUnicodeString::Assign(const char* iText, std::size_t iBytes)
+/// A continuation byte at the very start has no character before it, so it begins one.
+std::uint32_t ORXUnicodeString::CountCharacters(const char* iText, std::size_t iBytes) noexcept
+{
+    if (iBytes == 0)
+        return 0;
+    // Texts are mostly ASCII: by words as far as they are.
+    constexpr std::uint64_t BeyondAscii = 0x8080808080808080U;
+    std::size_t plain = 0;
+    for (std::uint64_t word = 0; plain + sizeof word <= iBytes; plain += sizeof word)
+    {
+        std::memcpy(&word, iText + plain, sizeof word);
+        if ((word & BeyondAscii) != 0)
+            break;
+    }
+    const auto inner = std::count_if(iText + std::max<std::size_t>(plain, 1), iText + iBytes, ContinuesCharacter);
+    return static_cast<std::uint32_t>(iBytes - static_cast<std::size_t>(inner));
+}
+
+void ORXUnicodeString::AssignHeap(const char* iText, std::size_t iBytes)
 {
     CheckLength(iBytes);
-    char* target = m_text.inlined;
-    if (iBytes >= InlinedBytes)
-    {
-        target = static_cast<char*>(::operator new(BlockSize(iBytes)));
-        m_text.heap = target;
-    }
-    if (iBytes > 0)
-        std::memcpy(target, iText, iBytes);
+    char* const target = static_cast<char*>(::operator new(BlockSize(iBytes)));
+    m_text.heap = target;
+    std::memcpy(target, iText, iBytes);
     target[iBytes] = '\0';
     m_bytes = static_cast<std::uint32_t>(iBytes);
-    m_characters = CountCharacters({target, iBytes});
+    m_characters = CountCharacters(target, iBytes);
 }
 
 void ORXUnicodeString::FreeHeap() noexcept
@@ -214,7 +218,7 @@ int ORXUnicodeString::FindPosition(const ORXUnicodeString& iText, int iFrom) con
     const std::size_t at = FindWhole(View(), iText.View(), from);
     if (at == std::string_view::npos)
         return -1;
-    return static_cast<int>(m_characters == m_bytes ? at : CountCharacters(View().substr(0, at)));
+    return static_cast<int>(m_characters == m_bytes ? at : CountCharacters(CastToCharPtr(), at));
 }
 
 void ORXUnicodeString::ReplaceSubString(const ORXUnicodeString& iOld, const ORXUnicodeString& iNew)

@@ -2,6 +2,8 @@
 
 #include <memory>
 #include <new>
+#include <string_view>
+#include <utility>
 
 #include "ORXCkeGlobalFunctions.h"
 #include "ORXIAlias.h"
@@ -21,10 +23,31 @@ bool IsObjectType(int iType)
 }
 
 /// An error that is navigated further shows in the debug trace, where a chain is most easily lost.
-void TraceError(const ORXUnicodeString& iError)
+[[gnu::noinline]] void TraceError(const ORXUnicodeString& iError)
 {
     if (VYRCfd::IsActive(VYRCfdTraceManager::_Debug))
         VYRCfdTraceManager::_Debug->TraPrint(140, "ERROR: %s\n", iError.CastToCharPtr());
+}
+
+/// Cuts a path at its first "/", as `SplitPath` does, without making texts: a path is walked segment by segment, and
+/// what is left of it would be copied each time.
+HRESULT CutPath(std::string_view iPath, std::string_view& oHead, std::string_view& oTail)
+{
+    // A byte that continues a character belongs to the one before it, also behind a "/" in a text that is no UTF-8.
+    const auto continues = [&](std::size_t iOffset) {
+        return iOffset < iPath.size() && (static_cast<unsigned char>(iPath[iOffset]) & 0xC0U) == 0x80U;
+    };
+    std::size_t position = iPath.find('/');
+    while (position != std::string_view::npos && continues(position + 1))
+        position = iPath.find('/', position + 1);
+    oHead = iPath.substr(0, position);
+    oTail = position == std::string_view::npos ? std::string_view() : iPath.substr(position + 1);
+    return S_OK;
+}
+
+ORXUnicodeString TextOf(std::string_view iText)
+{
+    return ORXUnicodeString(iText.data(), iText.size());
 }
 
 /// Room for the cursor at which the walk of a path stands. It is constructed where it stays, so that nothing is copied.
@@ -85,8 +108,8 @@ VYRCfdObjectAccess::VYRCfdObjectAccess(const VYRCfdObjectAccess& iOther)
     VYRCFD_ENTER(50);
 }
 
-VYRCfdObjectAccess::VYRCfdObjectAccess(const ORXISpecAttrAccess_var& iAttr, const ORXISpecAttrKey_var& iKey)
-    : _spAttr(iAttr), _spKey(iKey)
+VYRCfdObjectAccess::VYRCfdObjectAccess(ORXISpecAttrAccess_var iAttr, ORXISpecAttrKey_var iKey)
+    : _spAttr(std::move(iAttr)), _spKey(std::move(iKey))
 {
     VYRCFD_ENTER(50);
 }
@@ -177,7 +200,10 @@ ORXISpecAttrAccess_var VYRCfdObjectAccess::Access() const
 
 // ---- navigation -----------------------------------------------------------------------------------------------------
 
-VYRCfdObjectAccess VYRCfdObjectAccess::ObjectAt(ORXISpecAttrKey* iKey, int iIndex) const
+// Each link of a chain comes through here, and the calls between the steps of one cost more than the steps: they are
+// made one function.
+
+[[gnu::always_inline]] inline VYRCfdObjectAccess VYRCfdObjectAccess::ObjectAt(ORXISpecAttrKey* iKey, int iIndex) const
 {
     return VYRCfdObjectAccess(ORXBaseUnknown_var(ORXISpecObject_var::Adopt(_spAttr->GetSpecObject(iKey, iIndex))));
 }
@@ -208,7 +234,7 @@ VYRCfdObjectAccess VYRCfdObjectAccess::Get(ORXISpecAttrKey* iKey, int iIndex) co
     return ObjectAt(iKey, iIndex);
 }
 
-VYRCfdObjectAccess VYRCfdObjectAccess::Get(VYRCfdKeyFunction iKeyFunction, int iIndex) const
+[[gnu::flatten]] VYRCfdObjectAccess VYRCfdObjectAccess::Get(VYRCfdKeyFunction iKeyFunction, int iIndex) const
 {
     VYRCFD_ENTER(30);
     if (HasError())
@@ -263,7 +289,7 @@ VYRCfdObjectAccess VYRCfdObjectAccess::GetOnObject(const ORXUnicodeString& iName
     return VYRCfdObjectAccess("No attribute " + iName);
 }
 
-bool VYRCfdObjectAccess::IsCurrentChoice(const ORXUnicodeString& iName) const
+[[gnu::noinline]] bool VYRCfdObjectAccess::IsCurrentChoice(const ORXUnicodeString& iName) const
 {
     static const ORXUnicodeString choiceType("VYRCfdChoice");
     const ORXISpecObject_var spSpec = _spAttr;
@@ -353,7 +379,7 @@ VYRCfdObjectAccess VYRCfdObjectAccess::operator[](ORXISpecAttrKey* iKey) const
     return Get(iKey, 0);
 }
 
-VYRCfdObjectAccess VYRCfdObjectAccess::operator[](VYRCfdKeyFunction iKeyFunction) const
+[[gnu::flatten]] VYRCfdObjectAccess VYRCfdObjectAccess::operator[](VYRCfdKeyFunction iKeyFunction) const
 {
     return Get(iKeyFunction, 0);
 }
@@ -419,7 +445,7 @@ VYRCfdObjectAccess VYRCfdObjectAccess::GetByPath(const ORXUnicodeString& iPath) 
     // the one before it is still needed, so two places serve in turn and nothing is copied.
     Place places[2];
     const VYRCfdObjectAccess* current = this;
-    ORXUnicodeString path = iPath;
+    std::string_view path = iPath.View();
     for (int place = 0;; place = 1 - place)
     {
         VYRCFD_ENTER(25);
@@ -427,16 +453,16 @@ VYRCfdObjectAccess VYRCfdObjectAccess::GetByPath(const ORXUnicodeString& iPath) 
             return VYRCfdObjectAccess(current->_error);
         if (!current->_spAttr)
             return VYRCfdObjectAccess("Null object");
-        ORXUnicodeString head;
-        ORXUnicodeString tail;
-        if (SplitPath(path, head, tail) < 0)
-            return VYRCfdObjectAccess("Invalid path: " + path);
-        if (head.IsEmpty())
+        std::string_view head;
+        std::string_view tail;
+        if (CutPath(path, head, tail) < 0)
+            return VYRCfdObjectAccess("Invalid path: " + TextOf(path));
+        if (head.empty())
             return *current;
-        if (tail.IsEmpty())
-            return current->Get(head);
-        current = &places[place].Move(*current, head);
-        path = std::move(tail);
+        if (tail.empty())
+            return current->Get(TextOf(head));
+        current = &places[place].Move(*current, TextOf(head));
+        path = tail;
     }
 }
 
@@ -578,9 +604,9 @@ HRESULT VYRCfdObjectAccess::ParameterValue(const char* iFunction, ORXIValue_var&
     VYRCFD_ASSERT_FOR(iFunction, spParm);
     const ORXICkeType_var spType = spParm->GetType();
     VYRCFD_ASSERT_FOR(iFunction, !!spType);
-    const ORXIValue_var spVal = spParm->GetValue();
+    ORXIValue_var spVal = spParm->GetValue();
     VYRCFD_ASSERT_FOR(iFunction, spVal);
-    oValue = spVal;
+    oValue = std::move(spVal);
     return S_OK;
 }
 
@@ -711,7 +737,7 @@ HRESULT VYRCfdObjectAccess::SetInteger(int iValue, int index) const
     return S_OK;
 }
 
-HRESULT VYRCfdObjectAccess::GetDouble(double& oValue) const
+[[gnu::flatten]] HRESULT VYRCfdObjectAccess::GetDouble(double& oValue) const
 {
     VYRCFD_ENTER_RESET(25);
     VYRCFD_PASS(CheckObject(VYRCFD_FUNCTION));
