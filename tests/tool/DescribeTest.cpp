@@ -81,7 +81,7 @@ TEST_F(SmallTest, Describe_OfACircle_Ends)
     const ToolRun run = Run({"describe", "circle", "--nested"});
     EXPECT_EQ(Outcome(run), Outcome(0, ""));
     EXPECT_EQ(run.output, "circle  1 item  " + std::string(Configurations) +
-                              "conditionsConfig_Flow.json:53\n"
+                              "conditionsConfig_Flow.json:51\n"
                               "   1. applies circle to the object itself\n"
                               "          in a circle: this is one of those that lead here\n");
 }

@@ -147,7 +147,7 @@ const Rung RungCases[] = {
      "iterations",
      "record          (unset)  (1. iterations: configuration \"cavity\", on condition \"steady==true\")",
      "(unset), by the record"},
-    {"NoLadderForLists", {}, "weights", "", "[1, 0.25], since it has no default"},
+    {"NoLadderForLists", {}, "weights", "", "[1, 0.25], as before: it has no default"},
 };
 INSTANTIATE_TEST_SUITE_P(Explain, Rungs, testing::ValuesIn(RungCases),
                          [](const auto& iInfo) { return iInfo.param.name; });
@@ -186,7 +186,7 @@ const Misled MisledCases[] = {
      {"small.model.json", "Case.1/defaultManagement"},
      "small.model.json: \"Case.1/defaultManagement\" holds the flags and the records of attributes, and has no default "
      "of its own\n"},
-    {"NoModel", {"none.model.json", "a/b"}, "none.model.json: cannot be read: No such file or directory\n"},
+    {"NoModel", {"none.model.json", "a/b"}, "none.model.json: cannot be opened: No such file or directory\n"},
 };
 INSTANTIATE_TEST_SUITE_P(Explain, MisledExplanations, testing::ValuesIn(MisledCases),
                          [](const auto& iInfo) { return iInfo.param.name; });

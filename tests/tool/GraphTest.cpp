@@ -46,6 +46,9 @@ protected:
 
 using Lines = std::vector<std::string>;
 
+/// What begins in the first box.
+const std::string Blue = R"(, color="0.599 0.70 0.60", fontcolor="0.599 0.70 0.50"];)";
+
 TEST_F(GraphTest, References_StandWithTheirConditions)
 {
     Define(R"({"name": "a", "config": [{"config": "b", "path": "p"}, {"config": "b", "condition": "x==\"1\""},
@@ -53,10 +56,11 @@ TEST_F(GraphTest, References_StandWithTheirConditions)
               {"name": "b"})");
     EXPECT_EQ(Graph({}), (Lines{R"(c1 [label="a", tooltip="meshFYEConfig.json:1, 3 items"];)",
                                 R"(c2 [label="b", tooltip="meshFYEConfig.json:3, 0 items"];)",
-                                R"(c1 -> c2 [edgetooltip="item 1, on p"];)",
+                                R"(c1 -> c2 [edgetooltip="item 1, on p")" + Blue,
                                 R"(c1 -> c2 [edgetooltip="item 2, on the object itself, if x==\"1\"\nitem 3, on q, )"
                                 R"(if y<2", style=dashed, label="x==\"1\"\ny<2", labeltooltip="item 2, on the )"
-                                R"(object itself, if x==\"1\"\nitem 3, on q, if y<2"];)"}));
+                                R"(object itself, if x==\"1\"\nitem 3, on q, if y<2")" +
+                                    Blue}));
 }
 
 TEST_F(GraphTest, ConfigurationsWithoutReferences_StandOnlyWithAll)
@@ -74,7 +78,7 @@ TEST_F(GraphTest, FromAConfiguration_StandsWhatCanBeReached)
         R"({"name": "top", "config": [{"config": "a"}]}, {"name": "a", "config": [{"config": "b"}]}, {"name": "b"})");
     EXPECT_EQ(Graph({"a"}), (Lines{R"(c1 [label="a", tooltip="meshFYEConfig.json:1, 1 item"];)",
                                    R"(c2 [label="b", tooltip="meshFYEConfig.json:1, 0 items"];)",
-                                   R"(c1 -> c2 [edgetooltip="item 1, on the object itself"];)"}));
+                                   R"(c1 -> c2 [edgetooltip="item 1, on the object itself")" + Blue}));
     EXPECT_EQ(Graph({"b"}).size(), 1U);
 }
 
@@ -88,7 +92,7 @@ TEST_F(GraphTest, CirclesAndNamesWithoutConfiguration_AreRed)
                                 R"(style=dashed];)",
                                 R"(c1 -> c2 [edgetooltip="item 1, on the object itself", color=red, fontcolor=red];)",
                                 R"(c2 -> c1 [edgetooltip="item 1, on the object itself", color=red, fontcolor=red];)",
-                                R"(c2 -> c3 [edgetooltip="item 2, on the object itself"];)"}));
+                                R"(c2 -> c3 [edgetooltip="item 2, on the object itself")" + Blue}));
 }
 
 TEST_F(GraphTest, LettersThatMeanSomethingToDot_AreThoseOfTheName)
@@ -201,7 +205,7 @@ const WrongGraph WrongGraphCases[] = {
      {"-o", "picture.png"},
      2,
      "vyrcfd: --output: \"picture.png\" must end in .svg, .dot or .gv; see vyrcfd graph --help\n"},
-    {"PartOfAll", {"cavity", "--all"}, 2, "vyrcfd: --all excludes CONFIG; see vyrcfd graph --help\n"},
+    {"PartOfAll", {"cavity", "--all"}, 2, "vyrcfd: CONFIG excludes --all; see vyrcfd graph --help\n"},
     {"JsonInAFile",
      {"--json", "-o", "graph.dot"},
      2,

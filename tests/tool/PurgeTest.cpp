@@ -43,8 +43,7 @@ TEST_F(SmallTest, Purge_ToAnotherFile_LeavesTheModelAlone)
     ASSERT_EQ(Outcome(Run({"purge", Small, "--yes", "-o", "purged.model.json"})), Outcome(0, ""));
     files["purged.model.json"] = Read("purged.model.json");
     EXPECT_EQ(Files(), files);
-    EXPECT_EQ(Run({"purge", "purged.model.json"}).output, "purged.model.json: something refers to each of its 2 "
-                                                          "records.\n");
+    EXPECT_EQ(Run({"purge", "purged.model.json"}).output, "purged.model.json: 2 records, still referred to.\n");
 }
 
 TEST_F(SmallTest, Purge_OfAModelWithNothingToRemove_WritesOnlyACopyThatWasAskedFor)
@@ -103,7 +102,7 @@ TEST_P(Referrers, KeepTheRecord)
 }
 
 const std::string Record = R"({"type": "VYRCfdConfigItem", "name": "ConfigItem", "id": 1})";
-constexpr char Kept[] = "something refers to each of its 1 record.";
+constexpr char Kept[] = "1 record, still referred to.";
 const Referrer ReferrerCases[] = {
     {"Nobody", Record, "nothing refers to 1 of 1 record; --yes removes it."},
     {"AReference", Record + R"(, {"type": "Keeper", "name": "K", "values": {"one": {"ref": 1}}})", Kept},

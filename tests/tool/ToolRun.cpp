@@ -23,7 +23,7 @@ std::vector<std::string> Environment(const ToolSettings& iSettings)
 {
     std::vector<std::string> environment;
     for (const char* name : HandedOn)
-        if (const char* value = std::getenv(name); value != nullptr)
+        if (const char* value = std::getenv(name); value != nullptr && iSettings.environment.count(name) == 0)
             environment.push_back(std::string(name) + "=" + value);
     for (const auto& [name, value] : iSettings.environment)
         environment.push_back(name + "=" + value);

@@ -25,7 +25,7 @@ struct ToolSettings
 
     /// Working folder.
     std::string folder;
-    /// Variables beside the few that are handed on.
+    /// Variables beside the few that are handed on, or in place of them.
     std::map<std::string, std::string> environment;
     /// In place of being caught, standard output goes to this file.
     std::string outputFile;

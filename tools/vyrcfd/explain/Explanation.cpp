@@ -129,7 +129,7 @@ std::string UnsettingText(const Explanation& iExplanation, const Colours& iColou
     const Ladder& ladder = *iExplanation.ladder;
     std::string text = after.value.Shown();
     if (!ladder.isFound)
-        text += ", since it has no default";
+        text += ", as before: it has no default";
     else if (ladder.byDefault.origin == DefaultOrigin::Record)
         text += ", by the record";
     else

@@ -1,3 +1,5 @@
+#include <cmath>
+#include <cstdio>
 #include <filesystem>
 #include <map>
 #include <tuple>
@@ -77,27 +79,56 @@ std::string NodeText(const ReferenceNode& iNode, std::size_t iNumber)
     return start + ", tooltip=" + Dotted(place) + "];\n";
 }
 
+/// The boxes of files, numbered from 1 in their order; 0 stands for what is in none.
+std::vector<std::size_t> BoxesOf(const ReferenceGraph& iGraph)
+{
+    std::vector<std::size_t> boxes;
+    const SourceFile* last = nullptr;
+    std::size_t count = 0;
+    for (const ReferenceNode& node : iGraph.nodes)
+    {
+        const SourceFile* const file = node.configuration != nullptr ? node.configuration->file : nullptr;
+        if (file != nullptr && file != last)
+            ++count;
+        last = file;
+        boxes.push_back(file != nullptr ? count : 0);
+    }
+    return boxes;
+}
+
+/// A colour for what belongs to a box, far from those of its neighbours, and from red, which means something.
+std::string Colour(std::size_t iBox, const char* iSaturationAndBrightness)
+{
+    constexpr double GoldenRatio = 0.618034;
+    constexpr double FirstHue = 0.08;
+    constexpr double Hues = 0.84;
+    char hue[16];
+    std::snprintf(hue, sizeof(hue), "%.3f", FirstHue + Hues * std::fmod(static_cast<double>(iBox) * GoldenRatio, 1.0));
+    return std::string("\"") + hue + " " + iSaturationAndBrightness + "\"";
+}
+
 /// The configurations of each file in a box, and behind them what is in none.
 std::string NodesText(const ReferenceGraph& iGraph)
 {
+    const std::vector<std::size_t> boxes = BoxesOf(iGraph);
     std::string text;
-    const SourceFile* open = nullptr;
-    std::size_t boxes = 0;
+    std::size_t open = 0;
     for (std::size_t i = 0; i < iGraph.nodes.size(); ++i)
     {
-        const SourceFile* const file =
-            iGraph.nodes[i].configuration != nullptr ? iGraph.nodes[i].configuration->file : nullptr;
-        if (file != open && open != nullptr)
-            text += "  }\n";
-        if (file != open && file != nullptr)
-            text += "  subgraph cluster" + std::to_string(++boxes) + " {\n    label=" + Dotted(FileName(*file)) + ";\n";
-        open = file;
-        text += (open != nullptr ? "    " : "  ") + NodeText(iGraph.nodes[i], i);
+        if (boxes[i] != open)
+            text += open != 0 ? "  }\n" : "";
+        if (boxes[i] != open && boxes[i] != 0)
+            text += "  subgraph cluster" + std::to_string(boxes[i]) +
+                    " {\n    label=" + Dotted(FileName(*iGraph.nodes[i].configuration->file)) +
+                    "; bgcolor=" + Colour(boxes[i], "0.06 1.00") + ";\n";
+        open = boxes[i];
+        text += (open != 0 ? "    " : "  ") + NodeText(iGraph.nodes[i], i);
     }
-    return text + (open != nullptr ? "  }\n" : "");
+    return text + (open != 0 ? "  }\n" : "");
 }
 
-std::string EdgeText(const Edge& iEdge, const EdgeWords& iWords)
+/// @param iBox of the configuration that the reference begins at
+std::string EdgeText(const Edge& iEdge, const EdgeWords& iWords, std::size_t iBox)
 {
     std::string text =
         "  " + NodeName(iEdge.from) + " -> " + NodeName(iEdge.to) + " [edgetooltip=" + Dotted(iWords.items);
@@ -105,6 +136,8 @@ std::string EdgeText(const Edge& iEdge, const EdgeWords& iWords)
         text += ", style=dashed, label=" + Dotted(iWords.conditions) + ", labeltooltip=" + Dotted(iWords.items);
     if (iWords.isInCircle)
         text += ", color=red, fontcolor=red";
+    else
+        text += ", color=" + Colour(iBox, "0.70 0.60") + ", fontcolor=" + Colour(iBox, "0.70 0.50");
     return text + "];\n";
 }
 
@@ -126,9 +159,10 @@ std::string EdgesText(const ReferenceGraph& iGraph)
             words.conditions.emplace_back(item.Text("condition"));
         words.isInCircle = words.isInCircle || reference.isInCircle;
     }
+    const std::vector<std::size_t> boxes = BoxesOf(iGraph);
     std::string text;
     for (const auto& [edge, words] : edges)
-        text += EdgeText(edge, words);
+        text += EdgeText(edge, words, boxes[edge.from]);
     return text;
 }
 } // namespace
@@ -137,13 +171,13 @@ std::string GraphDot(const ReferenceGraph& iGraph)
 {
     return "digraph configurations {\n"
            "  rankdir=LR;\n"
-           "  ranksep=1.2;\n"
+           "  ranksep=1;\n"
            "  nodesep=0.12;\n"
            "  fontname=\"Helvetica\";\n"
            "  graph [style=rounded, color=gray60, fontcolor=gray30, labeljust=l];\n"
            "  node [shape=box, style=\"rounded,filled\", fillcolor=white, height=0.3, fontname=\"Helvetica\", "
            "fontsize=11];\n"
-           "  edge [color=gray40, fontname=\"Helvetica\", fontsize=9, arrowsize=0.7];\n" +
+           "  edge [fontname=\"Helvetica\", fontsize=10, arrowsize=0.7];\n" +
            NodesText(iGraph) + EdgesText(iGraph) + "}\n";
 }
 } // namespace Tool

@@ -18,7 +18,7 @@ struct Span
     std::size_t end = 0;
 };
 
-/// Finds the objects of the array under "objects", and that array.
+/// Finds the objects of the array under "objects", and that array. The parser tells of a bracket before it takes it.
 class ObjectFinder : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, ObjectFinder>
 {
 public:
@@ -33,7 +33,7 @@ public:
     bool StartObject()
     {
         if (IsAtElement())
-            objects.push_back({m_stream.Tell() - 1, 0});
+            objects.push_back({m_stream.Tell(), 0});
         ++m_depth;
         return true;
     }
@@ -41,13 +41,13 @@ public:
     {
         --m_depth;
         if (IsAtElement())
-            objects.back().end = m_stream.Tell();
+            objects.back().end = m_stream.Tell() + 1;
         return true;
     }
     bool StartArray()
     {
         if (m_isInObjects && m_depth == 1)
-            array.begin = m_stream.Tell();
+            array.begin = m_stream.Tell() + 1;
         ++m_depth;
         return true;
     }
@@ -55,7 +55,7 @@ public:
     {
         --m_depth;
         if (m_isInObjects && m_depth == 1)
-            array.end = m_stream.Tell() - 1;
+            array.end = m_stream.Tell();
         return true;
     }
     bool Default() { return true; }

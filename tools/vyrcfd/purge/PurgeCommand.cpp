@@ -65,7 +65,7 @@ std::string PurgeText(const PurgeArguments& iArguments, const Purge& iPurge)
         text += colours.Removed("- " + std::to_string(one.position) + ". " + one.record.Shown()) + "\n";
     text += OneLine(iArguments.model) + ": ";
     if (found == 0)
-        text += all == 0 ? "no records" : "something refers to each of its " + Counted(all, "record");
+        text += all == 0 ? "no records" : Counted(all, "record") + ", still referred to";
     else
         text += "nothing refers to " + std::to_string(found) + " of " + Counted(all, "record");
     if (!iPurge.savedTo.empty())
