@@ -82,20 +82,25 @@ bool EqualsIgnoringCase(std::string_view iLeft, std::string_view iRight)
                       [&](char iOne, char iOther) { return lower(iOne) == lower(iOther); });
 }
 
-/// Letters to insert, take out or replace to come from one text to the other.
+/// Letters to insert, take out or replace, or neighbours to swap, to come from one text to the other.
 std::size_t EditDistance(std::string_view iLeft, std::string_view iRight)
 {
+    // Distances between beginnings of the texts: of the left one in this row, the one before, and the one before that.
     std::vector<std::size_t> row(iRight.size() + 1);
+    std::vector<std::size_t> before(row.size());
+    std::vector<std::size_t> twoBefore(row.size());
     std::iota(row.begin(), row.end(), std::size_t{0});
-    for (std::size_t i = 0; i < iLeft.size(); ++i)
+    for (std::size_t i = 1; i <= iLeft.size(); ++i)
     {
-        std::size_t diagonal = row[0];
-        row[0] = i + 1;
-        for (std::size_t j = 0; j < iRight.size(); ++j)
+        twoBefore.swap(before);
+        before.swap(row);
+        row[0] = i;
+        for (std::size_t j = 1; j <= iRight.size(); ++j)
         {
-            const std::size_t replaced = diagonal + (iLeft[i] == iRight[j] ? 0 : 1);
-            diagonal = row[j + 1];
-            row[j + 1] = std::min({replaced, row[j] + 1, diagonal + 1});
+            const std::size_t replaced = before[j - 1] + (iLeft[i - 1] == iRight[j - 1] ? 0 : 1);
+            row[j] = std::min({replaced, row[j - 1] + 1, before[j] + 1});
+            if (i > 1 && j > 1 && iLeft[i - 1] == iRight[j - 2] && iLeft[i - 2] == iRight[j - 1])
+                row[j] = std::min(row[j], twoBefore[j - 2] + 1);
         }
     }
     return row.back();

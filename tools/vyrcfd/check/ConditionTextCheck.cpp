@@ -15,15 +15,6 @@ bool HasWhiteEdge(const std::string& iText)
     return iText.find_first_of(White) == 0 || iText.find_last_of(White) + 1 == iText.size();
 }
 
-/// The text without white space at its ends.
-std::string Trimmed(const std::string& iText)
-{
-    const std::size_t first = iText.find_first_not_of(White);
-    if (first == std::string::npos)
-        return {};
-    return iText.substr(first, iText.find_last_not_of(White) + 1 - first);
-}
-
 /// Numbers are read from behind white space, and what stands beside a boolean plays no part.
 bool MayStandBesideBlanks(const std::string& iValue)
 {

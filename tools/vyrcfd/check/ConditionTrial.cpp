@@ -29,7 +29,7 @@ bool AsksForEquality(const ConditionText& iParts)
 Oddity OfBoolean(const ConditionText& iParts)
 {
     bool truth = false;
-    const bool isTruth = VYRCfdUtilityMethods::ConvertToBoolean(UnicodeOf(iParts.value), truth,
+    const bool isTruth = VYRCfdUtilityMethods::ConvertToBoolean(UnicodeOf(Trimmed(iParts.value)), truth,
                                                                 VYRCfdUtilityMethods::VYRCfdEmptyIsInvalid) >= 0;
     const bool readsAsTrue = isTruth && AsksForEquality(iParts) && truth == (iParts.comparison == Comparison::Equal);
     if (readsAsTrue)

@@ -14,11 +14,12 @@ std::string LineOf(const Finding& iFinding, const Colours& iColours)
     std::string line = iFinding.file + ":" + std::to_string(iFinding.position.line) + ":" +
                        std::to_string(iFinding.position.column) + ": ";
     line += iFinding.severity == Severity::Error ? iColours.Removed(severity) : iColours.Heading(severity);
-    if (iFinding.configuration != nullptr)
-        line += " " + Quoted(iFinding.configuration->name);
+    std::string place;
+    if (iFinding.configuration != nullptr && !iFinding.configuration->name.empty())
+        place = " " + Quoted(iFinding.configuration->name);
     if (iFinding.item != 0)
-        line += ", item " + std::to_string(iFinding.item);
-    line += (iFinding.configuration != nullptr ? ": " : " ") + iFinding.message;
+        place += (place.empty() ? " item " : ", item ") + std::to_string(iFinding.item);
+    line += place + (place.empty() ? " " : ": ") + iFinding.message;
     if (!iFinding.suggestion.empty())
         line += "; did you mean " + Quoted(iFinding.suggestion) + "?";
     return line + " [" + NameOf(iFinding.kind) + "]\n";

@@ -17,6 +17,9 @@ namespace
 /// Longer paths lead in circles.
 constexpr std::size_t MostNames = 100;
 
+/// Choices within the data objects of Choices multiply; beyond this nothing is said of a path.
+constexpr std::size_t MostTried = 500;
+
 /// The names of a path up to the first empty one, where the cursor stops as well.
 std::vector<std::string> NamesIn(const std::string& iPath)
 {
@@ -56,6 +59,17 @@ bool IsType(const std::string& iName)
     return std::find(names.begin(), names.end(), iName) != names.end();
 }
 
+/// A choice with a startup that is no type has no data object, and that is told already.
+bool HasStartup(const VYRCfdObjectAccess& iChoice, const std::string& iValue)
+{
+    const std::vector<std::string> choices = ChoicesOf(iChoice);
+    const std::vector<std::string> startups = StartupsOf(iChoice);
+    for (std::size_t i = 0; i < std::min(choices.size(), startups.size()); ++i)
+        if (choices[i] == iValue)
+            return !startups[i].empty();
+    return false;
+}
+
 /// Where an object that does not come with its owner stands: its start-up is its type's.
 ObjectPlace PlaceOfType(const VYRCfdObjectAccess& iObject)
 {
@@ -73,6 +87,7 @@ void PathWalk::Restrict(const VYRCfdObjectAccess& iChoice, const ConditionText& 
 std::vector<PathEnd> PathWalk::Follow(const std::string& iPath) const
 {
     std::vector<PathEnd> ends;
+    m_tried = 0;
     const Names names = NamesIn(iPath);
     if (names.size() > MostNames)
         ends.push_back(Open());
@@ -101,17 +116,22 @@ void PathWalk::Step(const PathEnd& iFrom, const Names& iNames, std::size_t iNext
 void PathWalk::StepToData(const PathEnd& iFrom, const Names& iNames, std::size_t iNext,
                           std::vector<PathEnd>& oEnds) const
 {
-    if (ChoicesOf(iFrom.access).empty())
+    if (ChoicesOf(iFrom.access).empty() || m_tried > MostTried)
         return oEnds.push_back(Open());
     std::vector<PathEnd> failed;
     for (const std::string& choice : Candidates(iFrom.access))
     {
+        ++m_tried;
         Select(iFrom.access, choice);
         if (IsRestricted(iFrom.access) && !VYRCfdObjectCondition(m_start, UnicodeOf(m_condition)))
             continue;
         const VYRCfdObjectAccess data = iFrom.access.Get("Data");
         if (data.IsNull())
+        {
+            if (HasStartup(iFrom.access, choice))
+                failed.push_back(Open());
             continue;
+        }
         std::vector<PathEnd> ends;
         Step({PathEnd::Kind::Object, data, PlaceOfType(data)}, iNames, iNext, ends);
         for (PathEnd& end : ends)
@@ -121,9 +141,19 @@ void PathWalk::StepToData(const PathEnd& iFrom, const Names& iNames, std::size_t
     if (oEnds.empty() && !failed.empty())
         oEnds.push_back(failed.front());
     else if (oEnds.empty())
-        oEnds.push_back(Nowhere(iFrom, "Data",
-                                IsRestricted(iFrom.access) ? "No choice that meets the condition has a data object"
-                                                           : "No choice has a data object"));
+        oEnds.push_back(IsNeverMet(iFrom.access) ? Open()
+                                                 : Nowhere(iFrom, "Data",
+                                                           IsRestricted(iFrom.access)
+                                                               ? "No choice that meets the condition has a data object"
+                                                               : "No choice has a data object"));
+}
+
+/// What no choice meets is told of the condition, and says nothing of the path.
+bool PathWalk::IsNeverMet(const VYRCfdObjectAccess& iChoice) const
+{
+    const std::vector<std::string> choices = ChoicesOf(iChoice);
+    return IsRestricted(iChoice) && m_parts.comparison == VYRCfdConditionOperator::Equal &&
+           std::find(choices.begin(), choices.end(), m_parts.value) == choices.end();
 }
 
 bool PathWalk::IsRestricted(const VYRCfdObjectAccess& iChoice) const
@@ -159,7 +189,7 @@ PathEnd PathWalk::StepOnObject(const PathEnd& iFrom, const std::string& iName) c
         if (!next.IsNull())
             return {PathEnd::Kind::Object, next, PlaceOfType(next)};
         // The cursor looks through this list, and a model may hold anything in it.
-        if (!!KeyOf(iFrom.access, "SonsList"))
+        if (!!KeyOf(iFrom.access, "SonsList") || HasStartup(iFrom.access, iName))
             return Open();
         return Nowhere(iFrom, iName, std::string(next.GetError().View()));
     }

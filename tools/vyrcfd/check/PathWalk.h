@@ -64,12 +64,15 @@ private:
     /// The choices whose data objects are worth a look: of those that share a type, the first.
     std::vector<std::string> Candidates(const VYRCfdObjectAccess& iChoice) const;
     bool IsRestricted(const VYRCfdObjectAccess& iChoice) const;
+    bool IsNeverMet(const VYRCfdObjectAccess& iChoice) const;
 
     VYRCfdObjectAccess m_start;
     ObjectPlace m_place;
     ORXBaseUnknown_var m_restricted;
     ConditionText m_parts{};
     std::string m_condition;
+    /// Data objects that the present path has been tried on.
+    mutable std::size_t m_tried = 0;
 };
 } // namespace Tool
 

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "ItemTrial.h"
 #include "ScratchObjects.h"
 #include "Wording.h"
@@ -15,7 +17,10 @@ void AddNowhere(const SourceItem& iItem, const Trial& iTrial, const char* iKey, 
     std::string message = Quoted(iPath) + " leads nowhere " + iTrial.Where() + ": " + OneLine(iEnd.reason);
     if (!(iEnd.place == iTrial.place))
         message += " on " + iEnd.place.Shown();
+    const std::vector<std::string> known = NamesOn(iEnd.access);
+    // What is there and leads nowhere all the same is not misspelt.
+    const bool isThere = std::find(known.begin(), known.end(), iEnd.name) != known.end();
     oFindings.push_back({FindingAt(iItem, iKey, FindingKind::PathNowhere, iTrial.Worst(), std::move(message)),
-                         iEnd.name, NamesOn(iEnd.access)});
+                         isThere ? std::string() : iEnd.name, known});
 }
 } // namespace Tool

@@ -98,6 +98,13 @@ TrialFindings TypedCheck::Try(const Task& iTask)
     m_tried.insert(iTask.configuration);
     TrialFindings findings;
     const Trial trial{m_objects.At(iTask.place), iTask.place, iTask.isGuessed};
+    if (!VYRIMpaDefaultManagementProtected_var(trial.object.Self()))
+    {
+        findings.push_back({FindingAt(*iTask.configuration, "name", FindingKind::PathNowhere, trial.Worst(),
+                                      "the configuration is meant for " + iTask.place.Shown() +
+                                          ", which has no default management and cannot be configured")});
+        return findings;
+    }
     bool isSpoilt = false;
     for (const SourceItem& item : ItemsOf(*iTask.configuration))
     {

@@ -30,4 +30,13 @@ std::optional<ConditionText> PartsOf(std::string_view iCondition)
     }
     return std::nullopt;
 }
+
+std::string Trimmed(std::string_view iText)
+{
+    constexpr char white[] = " \t\r\n";
+    const std::size_t first = iText.find_first_not_of(white);
+    if (first == std::string_view::npos)
+        return {};
+    return std::string(iText.substr(first, iText.find_last_not_of(white) + 1 - first));
+}
 } // namespace Tool

@@ -27,6 +27,9 @@ struct ConditionText
 /// Nothing for a text that is no condition; whether it is one the engine also says, by
 /// `VYRCfdObjectCondition::HasError`.
 std::optional<ConditionText> PartsOf(std::string_view iCondition);
+
+/// The text without white space at its ends, as its writer may have meant it.
+std::string Trimmed(std::string_view iText);
 } // namespace Tool
 
 #endif

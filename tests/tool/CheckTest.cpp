@@ -1,0 +1,299 @@
+/**
+ * @file
+ * vyrcfd check. Each folder in data/check/wrong/ is an installation with one mistake, with what is found beside it in
+ * expected.txt; those in data/check/odd/ are odd but right. renew_check.sh shows what has changed.
+ */
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <regex>
+#include <set>
+
+#include "ToolTest.h"
+
+namespace
+{
+namespace fs = std::filesystem;
+
+const std::string Reffiles = "installation/reffiles/VYRCfdApp/";
+const std::string Wrong = "check/wrong";
+const std::string Odd = "check/odd";
+
+std::vector<std::string> FoldersIn(const std::string& iFolder)
+{
+    std::vector<std::string> names;
+    for (const fs::directory_entry& entry : fs::directory_iterator(std::string(VYR_TEST_DATA_DIR) + "/" + iFolder))
+        names.push_back(entry.path().filename().string());
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+/// An installation in which nothing is configured but what a test adds, with the catalog of the rig.
+class CheckTest : public testing::Test
+{
+protected:
+    CheckTest()
+    {
+        for (const char* name :
+             {"SolverConfigurations", "conditionsConfig_Flow", "conditionsConfig_Energy", "conditionsConfig_Turbulence",
+              "conditionsConfig_Species", "conditionsConfig_Phase", "solverConfig_Flow", "solverConfig_Energy",
+              "solverConfig_Turbulence", "solverConfig_MultiSpecies", "measurementsConfig", "solverConfig_Radiation",
+              "conditionsConfig_Radiation", "conditionsConfig_ECooling", "solverConfig_MultiPhase", "meshFYEConfig"})
+            m_folder.Write(Reffiles + name + ".json", "{}");
+        m_folder.Write("installation/catalogs/Rig.catalog.json", ReadData("check/Rig.catalog.json"));
+    }
+
+    /// Takes the configuration files and the catalogs of a folder of the data over.
+    void AddCase(const std::string& iCase)
+    {
+        for (const fs::directory_entry& entry : fs::directory_iterator(std::string(VYR_TEST_DATA_DIR) + "/" + iCase))
+        {
+            const std::string name = entry.path().filename().string();
+            if (entry.path().extension() != ".json")
+                continue;
+            const bool isCatalog = name.find(".catalog.") != std::string::npos;
+            m_folder.Write((isCatalog ? "installation/catalogs/" : Reffiles) + name, ReadData(iCase + "/" + name));
+        }
+    }
+
+    void AddConfigurations(const std::string& iText) { m_folder.Write(Reffiles + "SolverConfigurations.json", iText); }
+
+    ToolRun Check(std::vector<std::string> iArguments = {}) const
+    {
+        iArguments.insert(iArguments.begin(), {"--installation", "installation", "check"});
+        return RunTool(iArguments, {m_folder.Path()});
+    }
+
+    TemporaryFolder m_folder;
+};
+
+/// The lines of findings without the folder of the files, and without the last line, which counts them.
+std::string FindingsIn(const ToolRun& iRun)
+{
+    std::string text = std::regex_replace(iRun.output, std::regex(Reffiles + "|installation/"), "");
+    const std::size_t last = text.rfind('\n', text.size() - 2);
+    text.erase(last == std::string::npos ? 0 : last + 1);
+    return text;
+}
+
+std::string NameOf(const testing::TestParamInfo<std::string>& iInfo)
+{
+    std::string name = iInfo.param;
+    std::replace(name.begin(), name.end(), '-', '_');
+    return name;
+}
+
+class WrongInstallations : public CheckTest, public testing::WithParamInterface<std::string>
+{
+};
+
+TEST_P(WrongInstallations, AreFoundToBeSo)
+{
+    const std::string folder = Wrong + "/" + GetParam();
+    AddCase(folder);
+    const ToolRun run = Check();
+    const std::string found = FindingsIn(run);
+    if (const char* renewed = std::getenv("VYR_RENEWED_CHECKS"); renewed != nullptr)
+    {
+        fs::create_directories(std::string(renewed) + "/" + GetParam());
+        std::ofstream(std::string(renewed) + "/" + GetParam() + "/expected.txt", std::ios::binary) << found;
+        GTEST_SKIP() << "renewed, not compared";
+    }
+    EXPECT_EQ(found, ReadData(folder + "/expected.txt")) << run.errors;
+    EXPECT_NE(found, "");
+    EXPECT_EQ(run.status, found.find(": error: ") != std::string::npos ? 1 : 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Check, WrongInstallations, testing::ValuesIn(FoldersIn(Wrong)), NameOf);
+
+class OddInstallations : public CheckTest, public testing::WithParamInterface<std::string>
+{
+};
+
+TEST_P(OddInstallations, AreFoundToBeRight)
+{
+    AddCase(Odd + "/" + GetParam());
+    const ToolRun run = Check({"--strict"});
+    EXPECT_EQ(FindingsIn(run), "");
+    EXPECT_EQ(Outcome(run), Outcome(0, ""));
+}
+
+INSTANTIATE_TEST_SUITE_P(Check, OddInstallations, testing::ValuesIn(FoldersIn(Odd)), NameOf);
+
+TEST(WrongFolders, HaveOneAtLeastForEveryKindOfFinding)
+{
+    const std::set<std::string> kinds{"unknown-key",
+                                      "wrong-kind",
+                                      "does-nothing",
+                                      "ignored-key",
+                                      "duplicate-name",
+                                      "unknown-config",
+                                      "unused-config",
+                                      "cycle",
+                                      "bad-condition",
+                                      "odd-condition",
+                                      "unequal-lists",
+                                      "blank-in-list",
+                                      "path-nowhere",
+                                      "unknown-type",
+                                      "default-not-in-choices",
+                                      "default-invalid",
+                                      "default-reopens-differently"};
+    std::set<std::string> found;
+    for (const std::string& name : FoldersIn(Wrong))
+    {
+        const std::string text = ReadData(Wrong + "/" + name + "/expected.txt");
+        const std::regex kind(R"(\[([a-z-]+)\]\n)");
+        for (std::sregex_iterator match(text.begin(), text.end(), kind); match != std::sregex_iterator(); ++match)
+            found.insert((*match)[1]);
+    }
+    EXPECT_EQ(found, kinds);
+}
+
+TEST_F(CheckTest, Json_HoldsAllOfAFinding)
+{
+    AddConfigurations(R"({"configurations": [
+  {"name": "main", "config": [{"path": "relaxation", "defualt": "0.5"}]},
+  {"name": "main"}]})");
+    const ToolRun run = Check({"--json"});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.output, R"({
+  "findings": [
+    {
+      "kind": "unknown-key",
+      "severity": "error",
+      "file": "installation/reffiles/VYRCfdApp/SolverConfigurations.json",
+      "line": 2,
+      "column": 54,
+      "configuration": "main",
+      "item": 1,
+      "key": "defualt",
+      "message": "no key of an item is called \"defualt\"",
+      "suggestion": "default",
+      "related": []
+    },
+    {
+      "kind": "duplicate-name",
+      "severity": "error",
+      "file": "installation/reffiles/VYRCfdApp/SolverConfigurations.json",
+      "line": 3,
+      "column": 12,
+      "configuration": "main",
+      "item": null,
+      "key": "name",
+      "message": "a configuration \"main\" is defined already in )"
+                          R"(installation/reffiles/VYRCfdApp/SolverConfigurations.json:2, and that one holds in place )"
+                          R"(of this one",
+      "suggestion": null,
+      "related": [
+        {
+          "file": "installation/reffiles/VYRCfdApp/SolverConfigurations.json",
+          "line": 2
+        }
+      ]
+    }
+  ]
+}
+)");
+}
+
+TEST_F(CheckTest, Json_WithoutFindings_IsAnEmptyList)
+{
+    AddConfigurations(R"({"configurations": [{"name": "main"}]})");
+    const ToolRun run = Check({"--json"});
+    EXPECT_EQ(Outcome(run), Outcome(0, ""));
+    EXPECT_EQ(run.output, "{\n  \"findings\": []\n}\n");
+}
+
+constexpr char Unused[] = R"({"configurations": [{"name": "main"}, {"name": "idle"}]})";
+
+TEST_F(CheckTest, Warnings_FailOnlyWhenItIsStrict)
+{
+    AddConfigurations(Unused);
+    EXPECT_EQ(Outcome(Check()), Outcome(0, ""));
+    EXPECT_EQ(Outcome(Check({"--strict"})),
+              Outcome(1, "vyrcfd: the check found 0 errors, 1 warning and 0 notes in 2 configurations with 0 items\n"));
+}
+
+TEST_F(CheckTest, Notes_DoNotFailEvenWhenItIsStrict)
+{
+    AddConfigurations(
+        R"({"configurations": [{"name": "main", "config": [{"path": "pump", "type": "real", "config": "pump"}]},
+                               {"name": "pump"}]})");
+    const ToolRun run = Check({"--strict"});
+    EXPECT_EQ(Outcome(run), Outcome(0, ""));
+    EXPECT_NE(FindingsIn(run).find(": note: "), std::string::npos);
+}
+
+TEST_F(CheckTest, WithoutCatalogs_OnlyTheFilesAreChecked)
+{
+    fs::remove_all(m_folder.Path("installation/catalogs"));
+    AddConfigurations(R"({"configurations": [{"name": "main", "config": [{"path": "nowhere", "default": "1"}]}]})");
+    const ToolRun run = Check();
+    EXPECT_EQ(Outcome(run), Outcome(0, ""));
+    EXPECT_EQ(FindingsIn(run), "SolverConfigurations.json:1:30: note: \"main\": no other configuration refers to "
+                               "\"main\", and no catalog says what is applied by itself [unused-config]\n");
+}
+
+TEST_F(CheckTest, CatalogsThatAreNamed_AreTakenInPlaceOfTheInstalled)
+{
+    AddConfigurations(R"({"configurations": [{"name": "main", "config": [{"path": "relaxation", "default": "1"}]}]})");
+    m_folder.Write("Other.catalog.json", R"({"catalog": "Other", "types": [
+        {"name": "Other", "base": "VYRCfdValues", "configurations": ["main"]}]})");
+    const std::string expected =
+        "SolverConfigurations.json:1:58: error: \"main\", item 1: \"relaxation\" leads nowhere "
+        "on \"Other\": No attribute relaxation; there is \"defaultManagement\" "
+        "[path-nowhere]\n";
+    EXPECT_EQ(FindingsIn(Check()), "");
+    EXPECT_EQ(FindingsIn(Check({"Other.catalog.json"})), expected);
+    EXPECT_EQ(FindingsIn(Check({"--catalog", "Other.catalog.json"})), expected);
+}
+
+TEST_F(CheckTest, AFileThatIsNoJson_IsToldWithItsPlace)
+{
+    AddConfigurations("{\n  \"configurations\": [}\n");
+    EXPECT_EQ(Outcome(Check()), Outcome(1, Reffiles + "SolverConfigurations.json:2:22: Invalid value.\n"));
+}
+
+TEST_F(CheckTest, DeepNesting_IsRead)
+{
+    const std::string deep = std::string(900, '[') + std::string(900, ']');
+    AddConfigurations(R"({"configurations": [{"name": "main", "config": [{"path": "relaxation", "default": )" + deep +
+                      "}]}]}");
+    EXPECT_EQ(FindingsIn(Check()), "SolverConfigurations.json:1:83: error: \"main\", item 1: \"default\" must be a "
+                                   "text, not an array [wrong-kind]\n");
+}
+
+TEST_F(CheckTest, Findings_StandInTheOrderOfTheFilesAndOfTheirPlaces)
+{
+    m_folder.Write(Reffiles + "meshFYEConfig.json", R"({"wrong": 1})");
+    m_folder.Write(Reffiles + "conditionsConfig_Flow.json", R"({"wrong": 1, "wronger": 1})");
+    AddConfigurations(R"({"configurations": [{"name": "main"}], "wrong": 1})");
+    const std::string text = FindingsIn(Check());
+    std::string places;
+    const std::regex place(R"((\w+)\.json:(\d+):(\d+))");
+    for (std::sregex_iterator match(text.begin(), text.end(), place); match != std::sregex_iterator(); ++match)
+        places += match->str() + "\n";
+    EXPECT_EQ(places, "SolverConfigurations.json:1:40\n"
+                      "conditionsConfig_Flow.json:1:2\n"
+                      "conditionsConfig_Flow.json:1:14\n"
+                      "meshFYEConfig.json:1:2\n");
+}
+
+TEST_F(ToolTest, Check_OfTheSample_FindsNothing)
+{
+    const auto before = Files();
+    const ToolRun run = Run({"check", "--strict"});
+    EXPECT_EQ(Outcome(run), Outcome(0, ""));
+    EXPECT_EQ(run.output.substr(0, 29), "0 errors, 0 warnings and 0 no");
+    EXPECT_EQ(Files(), before);
+}
+
+TEST_F(ToolTest, Check_OfTheSampleWithTheOtherFirstFile_FindsNothing)
+{
+    ToolSettings settings{m_folder.Path()};
+    settings.environment["VYRCfd_USE_DxSLOPE_CONVG_CRIT"] = "";
+    EXPECT_EQ(Outcome(Run({"check", "--strict"}, settings)), Outcome(0, ""));
+}
+} // namespace
