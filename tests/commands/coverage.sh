@@ -9,9 +9,10 @@ build coverage -DVYRCFD_BUILD_TESTS=ON
 profiles=$root/build/coverage/profiles
 rm -rf "$profiles"
 mkdir -p "$profiles"
-# One file a library, into which each process merges what it has run.
-(cd "$root" && LLVM_PROFILE_FILE="$profiles/%m.profraw" ctest --preset coverage -j2 >"$profiles/ctest.log") ||
-    { tail -n 30 "$profiles/ctest.log" >&2 && echo "FAILED - coverage: the tests failed" && exit 1; }
+# Listing the tests runs every program once, which is not to be measured.
+(cd "$root" && LLVM_PROFILE_FILE=/dev/null ctest --preset coverage --show-only=json-v1 >"$profiles/tests.json")
+python3 -B "$root/tests/coverage/run_tests.py" "$profiles/tests.json" "$profiles" ||
+    { echo "FAILED - coverage: the tests failed" && exit 1; }
 llvm-profdata-14 merge -o "$profiles/all.profdata" "$profiles"/*.profraw
 exported=()
 for library in VYRCfdBase VYRStandaloneHost; do
