@@ -236,18 +236,31 @@ TEST_F(CheckTest, WithoutCatalogs_OnlyTheFilesAreChecked)
                                "\"main\", and no catalog says what is applied by itself [unused-config]\n");
 }
 
-TEST_F(CheckTest, CatalogsThatAreNamed_AreTakenInPlaceOfTheInstalled)
+constexpr char MainOnly[] =
+    R"({"configurations": [{"name": "main", "config": [{"path": "relaxation", "default": "1"}]}]})";
+
+TEST_F(CheckTest, CatalogsThatAreNamed_AreTakenBesideTheInstalled)
 {
-    AddConfigurations(R"({"configurations": [{"name": "main", "config": [{"path": "relaxation", "default": "1"}]}]})");
-    m_folder.Write("Other.catalog.json", R"({"catalog": "Other", "types": [
-        {"name": "Other", "base": "VYRCfdValues", "configurations": ["main"]}]})");
+    AddConfigurations(MainOnly);
+    m_folder.Write("Other.catalog.json", R"({"catalog": "Other", "uses": ["Rig"], "types": [
+        {"name": "Other", "base": "Pump", "configurations": ["main"]}]})");
     const std::string expected =
         "SolverConfigurations.json:1:58: error: \"main\", item 1: \"relaxation\" leads nowhere "
-        "on \"Other\": No attribute relaxation; there is \"defaultManagement\" "
-        "[path-nowhere]\n";
+        "on \"Other\": No attribute relaxation; there are \"defaultManagement\", \"speed\", "
+        "\"power\" [path-nowhere]\n";
     EXPECT_EQ(FindingsIn(Check()), "");
     EXPECT_EQ(FindingsIn(Check({"Other.catalog.json"})), expected);
     EXPECT_EQ(FindingsIn(Check({"--catalog", "Other.catalog.json"})), expected);
+}
+
+TEST_F(CheckTest, ACatalogThatIsNamed_HoldsInPlaceOfAnInstalledOneOfItsName)
+{
+    AddConfigurations(MainOnly);
+    m_folder.Write("Rig.catalog.json", R"({"catalog": "Rig", "types": [
+        {"name": "Rig", "base": "VYRCfdValues", "configurations": ["main"]}]})");
+    EXPECT_EQ(FindingsIn(Check({"Rig.catalog.json"})),
+              "SolverConfigurations.json:1:58: error: \"main\", item 1: \"relaxation\" leads nowhere on \"Rig\": No "
+              "attribute relaxation; there is \"defaultManagement\" [path-nowhere]\n");
 }
 
 TEST_F(CheckTest, AFileThatIsNoJson_IsToldWithItsPlace)
@@ -263,6 +276,14 @@ TEST_F(CheckTest, DeepNesting_IsRead)
                       "}]}]}");
     EXPECT_EQ(FindingsIn(Check()), "SolverConfigurations.json:1:83: error: \"main\", item 1: \"default\" must be a "
                                    "text, not an array [wrong-kind]\n");
+}
+
+TEST_F(CheckTest, LongTexts_AreCutInMessages)
+{
+    AddConfigurations(R"({"configurations": [{"name": "main", "config": [{"path": ")" + std::string(5000, 'x') +
+                      R"(", "default": "1"}]}]})");
+    EXPECT_EQ(FindingsIn(Check()), "SolverConfigurations.json:1:58: error: \"main\", item 1: \"" +
+                                       std::string(999, 'x') + "... [path-nowhere]\n");
 }
 
 TEST_F(CheckTest, Findings_StandInTheOrderOfTheFilesAndOfTheirPlaces)
@@ -288,6 +309,11 @@ TEST_F(ToolTest, Check_OfTheSample_FindsNothing)
     EXPECT_EQ(Outcome(run), Outcome(0, ""));
     EXPECT_EQ(run.output.substr(0, 29), "0 errors, 0 warnings and 0 no");
     EXPECT_EQ(Files(), before);
+}
+
+TEST_F(ToolTest, Check_OfTheSampleAgainstOneOfItsCatalogs_FindsNothing)
+{
+    EXPECT_EQ(Outcome(Run({"check", "--strict", "samples/catalogs/ExternalFlow.catalog.json"})), Outcome(0, ""));
 }
 
 TEST_F(ToolTest, Check_OfTheSampleWithTheOtherFirstFile_FindsNothing)

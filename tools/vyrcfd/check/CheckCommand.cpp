@@ -1,12 +1,13 @@
-#include <algorithm>
 #include <filesystem>
 #include <memory>
+#include <set>
 
 #include "CheckRun.h"
 #include "ChoiceManager.h"
 #include "Command.h"
 #include "Failure.h"
 #include "FindingText.h"
+#include "JsonWriter.h"
 #include "Output.h"
 #include "TypedCheck.h"
 #include "VYRStandaloneCatalog.h"
@@ -22,41 +23,61 @@ struct CheckArguments
     bool isStrict = false;
 };
 
-/// The catalogs of the installation's folders, in the order of their names.
+/// Names of the catalogs in the installation's folders, in their order.
 std::vector<std::string> InstalledCatalogs(const Installation& iInstallation)
 {
     constexpr std::string_view suffix = ".catalog.json";
-    std::vector<std::string> files;
+    std::set<std::string> names;
     for (const std::string& folder : iInstallation.CatalogFolders())
     {
         std::error_code ignored;
-        std::vector<std::string> here;
         for (const auto& entry : std::filesystem::directory_iterator(folder, ignored))
         {
-            const std::string path = entry.path().string();
+            const std::string name = entry.path().filename().string();
             const bool isCatalog =
-                path.size() > suffix.size() && path.compare(path.size() - suffix.size(), suffix.size(), suffix) == 0;
+                name.size() > suffix.size() && name.compare(name.size() - suffix.size(), suffix.size(), suffix) == 0;
             if (isCatalog && entry.is_regular_file(ignored))
-                here.push_back(path);
+                names.insert(name.substr(0, name.size() - suffix.size()));
         }
-        std::sort(here.begin(), here.end());
-        files.insert(files.end(), here.begin(), here.end());
     }
-    return files;
+    return {names.begin(), names.end()};
 }
 
+/// Declares catalogs by their names, as a model without objects that uses them does: one that is declared already
+/// holds.
+void DeclareInstalled(const std::vector<std::string>& iNames, const Installation& iInstallation)
+{
+    const std::string model = JsonText([&](JsonWriter& oWriter) {
+        oWriter.StartObject();
+        WriteKey(oWriter, "model");
+        oWriter.Int(1);
+        WriteKey(oWriter, "catalogs");
+        oWriter.StartArray();
+        for (const std::string& name : iNames)
+            WriteText(oWriter, name);
+        oWriter.EndArray();
+        WriteKey(oWriter, "objects");
+        oWriter.StartArray();
+        oWriter.EndArray();
+        oWriter.EndObject();
+    });
+    VYRStandalone::Model::Parse(model, "the installation " + OneLine(iInstallation.Path()),
+                                iInstallation.CatalogFolders());
+}
+
+/// Those that are named come first, so that one of them holds in place of an installed one of the same name.
 /// @return whether there are any
 bool LoadCatalogs(const Installation& iInstallation, const CheckArguments& iArguments)
 {
     std::vector<std::string> files = iInstallation.Catalogs();
     files.insert(files.end(), iArguments.catalogs.begin(), iArguments.catalogs.end());
-    if (files.empty())
-        files = InstalledCatalogs(iInstallation);
     for (const std::string& file : files)
         VYRStandalone::LoadCatalog(file, iInstallation.CatalogFolders());
+    const std::vector<std::string> installed = InstalledCatalogs(iInstallation);
+    DeclareInstalled(installed, iInstallation);
     // Now that all types are declared, and before anything is asked of an object.
     ChoiceManager::Register();
-    return !files.empty();
+    return !files.empty() || !installed.empty();
 }
 
 std::string SummaryText(const CheckRun& iRun)
@@ -102,7 +123,7 @@ void AddCheckCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
         "check", "Finds what the engine passes over in silence in the configuration files of the installation");
     const auto arguments = std::make_shared<CheckArguments>();
     command->add_option("CATALOG", arguments->catalogs,
-                        "Catalogs of feature types to check against; without any, those of the installation");
+                        "Catalogs of feature types to check against, beside those of the installation");
     command->add_flag("--strict", arguments->isStrict, "Warnings fail as errors do");
     AddCommonOptions(*command, ioOptions);
     command->footer(

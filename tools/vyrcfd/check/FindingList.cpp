@@ -7,6 +7,22 @@
 
 namespace Tool
 {
+namespace
+{
+/// A text of the file that is quoted may be longer than anybody wants to read.
+std::string Shortened(std::string iText)
+{
+    constexpr std::size_t longest = 1000;
+    if (iText.size() <= longest)
+        return iText;
+    // Not in the middle of a character.
+    std::size_t end = longest;
+    while ((static_cast<unsigned char>(iText[end]) & 0xC0U) == 0x80U)
+        --end;
+    return iText.substr(0, end) + "...";
+}
+} // namespace
+
 FindingList::Identity FindingList::IdentityOf(const Finding& iFinding)
 {
     return {iFinding.file, iFinding.position.line, iFinding.position.column, iFinding.kind, iFinding.key};
@@ -14,6 +30,7 @@ FindingList::Identity FindingList::IdentityOf(const Finding& iFinding)
 
 void FindingList::Add(Finding iFinding)
 {
+    iFinding.message = Shortened(std::move(iFinding.message));
     if (m_known.insert(IdentityOf(iFinding)).second)
         m_findings.push_back(std::move(iFinding));
 }

@@ -98,16 +98,17 @@ private:
                 std::string(iObject.what) + " must be an object, not " + iObject.value.KindText());
             return;
         }
+        std::set<std::string_view> seen;
         for (const SourceMember& member : iObject.value.members)
-            CheckMember(iObject, member);
+            CheckMember(iObject, member, seen.insert(member.key).second);
     }
 
-    void CheckMember(const KeyedObject& iObject, const SourceMember& iMember)
+    void CheckMember(const KeyedObject& iObject, const SourceMember& iMember, bool iIsFirst)
     {
         const auto known = iObject.keys.find(iMember.key);
         if (known == iObject.keys.end())
             AddUnknown(iObject, iMember);
-        else if (iObject.value.Find(iMember.key) != &iMember)
+        else if (!iIsFirst)
             Add(iObject, FindingKind::IgnoredKey, Severity::Warning, iMember.key, iMember.value->position,
                 "the key " + Quoted(iMember.key) + " stands twice in " + iObject.what + ", and the first counts");
         else if (!iMember.value->Is(known->second))

@@ -46,7 +46,8 @@ ORXISpecAttrKey_var KeyOf(const VYRCfdObjectAccess& iObject, const std::string& 
     const ORXISpecObject_var spObject = spAccess;
     if (!spKey || !spObject || spAccess->HasAttribute(spKey.Pointer()) != ORXFalse)
         return spKey;
-    ORXHandle<ORXISpecAttribute>::Adopt(spObject->AddAttribute(UnicodeOf(iName), spKey->GetType(), 0));
+    const ORXISpecAttribute_var spAdded =
+        ORXISpecAttribute_var::Adopt(spObject->AddAttribute(UnicodeOf(iName), spKey->GetType(), 0));
     return spKey;
 }
 

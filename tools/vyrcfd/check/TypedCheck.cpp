@@ -147,8 +147,8 @@ bool TypedCheck::TryCondition(const SourceItem& iItem, const Trial& iTrial, Path
     const std::optional<ConditionText> parts = PartsOf(text);
     if (!parts)
         return false;
-    // A name with such letters is told already.
-    if (parts->path.find_first_of("=!<> ") != std::string::npos)
+    // Such a path is told already.
+    if (parts->path.find_first_of("=!<>") != std::string::npos || Trimmed(parts->path) != parts->path)
         return true;
     const PathEnd end = ioWalk.Follow(parts->path).front();
     if (end.kind == PathEnd::Kind::Nowhere)
