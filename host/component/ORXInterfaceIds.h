@@ -19,6 +19,7 @@ constexpr GUID Make(std::uint32_t iFirst) noexcept
 } // namespace ORXInterfaceIds
 
 inline constexpr IID IID_ORXBaseUnknown = ORXInterfaceIds::Make(0x00000001);
+inline constexpr IID IID_ORXIComponentIdentity = ORXInterfaceIds::Make(0x00000002);
 
 inline constexpr IID IID_ORXISpecObject = ORXInterfaceIds::Make(0x00000101);
 inline constexpr IID IID_ORXISpecAttrAccess = ORXInterfaceIds::Make(0x00000102);

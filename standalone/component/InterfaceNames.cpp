@@ -13,6 +13,7 @@ struct NamedInterface
 
 constexpr NamedInterface hostInterfaces[] = {
     {"ORXBaseUnknown", &IID_ORXBaseUnknown},
+    {"ORXIComponentIdentity", &IID_ORXIComponentIdentity},
     {"ORXISpecObject", &IID_ORXISpecObject},
     {"ORXISpecAttrAccess", &IID_ORXISpecAttrAccess},
     {"ORXISpecAttrKey", &IID_ORXISpecAttrKey},

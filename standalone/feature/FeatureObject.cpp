@@ -24,8 +24,9 @@ namespace VYRStandalone
 {
 FeatureObject::FeatureObject(FeatureType& iType, const ORXUnicodeString& iName, FeatureObject* iStartup,
                              bool iIsPrototype)
-    : m_access(*this), m_slotCount(static_cast<unsigned int>(iType.Keys().size())), m_isPrototype(iIsPrototype),
-      m_type(&iType), m_block(SlotBlock::Make(iType.SlotBytes())), m_startup(iStartup), m_name(iName)
+    : m_access(*this), m_identity(*this), m_slotCount(static_cast<unsigned int>(iType.Keys().size())),
+      m_isPrototype(iIsPrototype), m_type(&iType), m_block(SlotBlock::Make(iType.SlotBytes())), m_startup(iStartup),
+      m_name(iName)
 {
     ORXComponentLink::CountAt(*this, PlaceOfCount());
     ORXComponentLink::CountAt(m_access, PlaceOfCount());
@@ -455,6 +456,8 @@ ORXBaseUnknown* FeatureObject::OwnFacet(const IID& iInterface) noexcept
         return iInterface == IID_ORXISpecObject ? this : nullptr;
     case IID_ORXISpecAttrAccess.Data1:
         return iInterface == IID_ORXISpecAttrAccess ? &m_access : nullptr;
+    case IID_ORXIComponentIdentity.Data1:
+        return iInterface == IID_ORXIComponentIdentity ? &m_identity : nullptr;
     case IID_ORXIAlias.Data1:
         return iInterface == IID_ORXIAlias && Alias() != nullptr ? &m_names->alias : nullptr;
     case IID_VYRIFldIdentifier.Data1:

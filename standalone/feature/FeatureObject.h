@@ -11,6 +11,7 @@
 #include "AttributeParm.h"
 #include "ExtensionTable.h"
 #include "FeatureType.h"
+#include "IdentityFacet.h"
 #include "ORXISpecObject.h"
 #include "SlotBlock.h"
 #include "SlotMaking.h"
@@ -240,6 +241,7 @@ private:
     ObjectNames& Names();
 
     AttributeAccess m_access;
+    IdentityFacet m_identity;
     unsigned int m_references = 1;
     /// Entries of the owner's component attributes that hold this object: a list may hold it twice.
     unsigned int m_holdings = 0;

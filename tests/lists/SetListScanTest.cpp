@@ -1,7 +1,8 @@
 /**
  * @file
  * `SetList` against a plain scan over plain numbers, call by call: stored lists with repetitions and empty entries,
- * wanted lists with repetitions and error cursors, failing host calls.
+ * wanted lists with repetitions and error cursors, failing host calls; on a host that tells identities, and on one that
+ * does not.
  */
 
 #include <algorithm>
@@ -15,8 +16,8 @@
 namespace
 {
 constexpr int Cases = 100000;
-constexpr int PoolSize = 8;
-constexpr int LongestList = 7;
+constexpr int PoolSize = 12;
+constexpr int LongestList = 11;
 /// In a stored list an empty entry, in a wanted one an error cursor.
 constexpr int Empty = -1;
 /// Failures that are printed before the rest is given up.
@@ -260,6 +261,9 @@ struct Tally
     int errorCursors = 0;
     int listedNothing = 0;
     int repetitions = 0;
+    /// Long enough for identities to be asked for, and without what they cannot be told of.
+    int placedByIdentity = 0;
+    int repeatedByIdentity = 0;
 
     void Add(const Case& iCase, const ReferenceScan& iScan)
     {
@@ -273,6 +277,10 @@ struct Tally
         removed += has("remove");
         listedNothing += iCase.fault.operation == "ListObjects" && iCase.fault.call == 1;
         repetitions += iScan.status >= 0 && HasRepetition(iCase.stored);
+        const bool hasIdentities = iCase.stored.size() * iCase.wanted.size() > 16 &&
+                                   std::find(iCase.stored.begin(), iCase.stored.end(), Empty) == iCase.stored.end();
+        placedByIdentity += hasIdentities;
+        repeatedByIdentity += hasIdentities && HasRepetition(iCase.stored);
         for (const Record& report : iScan.reports)
         {
             errorCursors += report.kind == VYRStandalone::Report::Kind::Assertion;
@@ -325,7 +333,7 @@ protected:
     }
 
     /// @return what differs from the reference; empty when nothing does
-    std::string Compare(const Case& iCase, const ReferenceScan& iExpected)
+    std::string Compare(const Case& iCase, const ReferenceScan& iExpected, bool iTellsIdentities)
     {
         Store(iCase);
         std::vector<VYRCfdObjectAccess> wanted;
@@ -337,6 +345,8 @@ protected:
         if (!iCase.fault.operation.empty())
             MakeFail(iCase.fault.operation.c_str(), iCase.list.c_str(), iCase.fault.status, iCase.fault.call,
                      iCase.fault.forever ? 0 : 1);
+        if (!iTellsIdentities)
+            MakeFail("QueryInterface", "ORXIComponentIdentity", E_NOINTERFACE, 1, 0);
         VYRStandalone::CallRecorder recorder;
         const HRESULT status = cursor.SetList(wanted);
         const Calls calls = recorder.Take();
@@ -348,14 +358,15 @@ protected:
             attribute == iExpected.attribute)
             return {};
         std::ostringstream text;
-        text << "list " << iCase.list << "\nstored " << testing::PrintToString(iCase.stored) << "\nwanted "
-             << testing::PrintToString(iCase.wanted) << "\nfault " << iCase.fault.operation << ", call "
-             << iCase.fault.call << (iCase.fault.forever ? " and all behind" : "") << ", status " << iCase.fault.status
-             << "\nstatus " << status << ", expected " << iExpected.status << "\ncalls "
-             << testing::PrintToString(calls) << "\nexpected " << testing::PrintToString(iExpected.calls)
-             << "\nreports " << testing::PrintToString(reports) << "\nexpected "
-             << testing::PrintToString(iExpected.reports) << "\nafterwards " << testing::PrintToString(attribute)
-             << "\nexpected " << testing::PrintToString(iExpected.attribute);
+        text << (iTellsIdentities ? "with" : "without") << " identities, list " << iCase.list << "\nstored "
+             << testing::PrintToString(iCase.stored) << "\nwanted " << testing::PrintToString(iCase.wanted)
+             << "\nfault " << iCase.fault.operation << ", call " << iCase.fault.call
+             << (iCase.fault.forever ? " and all behind" : "") << ", status " << iCase.fault.status << "\nstatus "
+             << status << ", expected " << iExpected.status << "\ncalls " << testing::PrintToString(calls)
+             << "\nexpected " << testing::PrintToString(iExpected.calls) << "\nreports "
+             << testing::PrintToString(reports) << "\nexpected " << testing::PrintToString(iExpected.reports)
+             << "\nafterwards " << testing::PrintToString(attribute) << "\nexpected "
+             << testing::PrintToString(iExpected.attribute);
         return text.str();
     }
 
@@ -381,9 +392,11 @@ TEST_F(SetListScanTest, HostCalls_AreThoseOfThePlainScan_InOrder)
     {
         const Case made = maker.Make();
         const ReferenceScan expected(made);
-        const std::string difference = Compare(made, expected);
-        if (!difference.empty())
+        for (const bool tellsIdentities : {true, false})
         {
+            const std::string difference = Compare(made, expected, tellsIdentities);
+            if (difference.empty())
+                continue;
             ++failures;
             ADD_FAILURE() << "case " << number << " of VYRCFD_SETLIST_SEED=" << seed << "\n" << difference;
         }
@@ -403,5 +416,7 @@ TEST_F(SetListScanTest, HostCalls_AreThoseOfThePlainScan_InOrder)
     EXPECT_GT(tally.errorCursors, Cases / 100);
     EXPECT_GT(tally.listedNothing, Cases / 200);
     EXPECT_GT(tally.repetitions, Cases / 5);
+    EXPECT_GT(tally.placedByIdentity, Cases / 5);
+    EXPECT_GT(tally.repeatedByIdentity, Cases / 20);
 }
 } // namespace

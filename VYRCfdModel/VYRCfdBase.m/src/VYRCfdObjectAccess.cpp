@@ -11,6 +11,7 @@
 #include "ORXKeySetVYRCfdBase.h"
 #include "ORXOmxInternals.h"
 #include "VYRCfdChecks.h"
+#include "VYRCfdListArrangement.h"
 #include "VYRCfdObjectCondition.h"
 #include "VYRIFldIdentifier.h"
 
@@ -623,9 +624,9 @@ ORXICkeType_var VYRCfdObjectAccess::ParameterType(const char* iFunction) const
     const auto ask = [&]() -> HRESULT {
         const ORXICkeParm_var spParm = GetParm();
         VYRCFD_ASSERT_FOR(iFunction, spParm);
-        const ORXICkeType_var spType = spParm->GetType();
+        ORXICkeType_var spType = spParm->GetType();
         VYRCFD_ASSERT_FOR(iFunction, !!spType);
-        answer = spType;
+        answer = std::move(spType);
         return S_OK;
     };
     ask();
@@ -1106,47 +1107,7 @@ HRESULT VYRCfdObjectAccess::SetList(const std::vector<VYRCfdObjectAccess>& iObje
     VYRCFD_ENTER_RESET(20);
     VYRCFD_PASS(CheckStanding(VYRCFD_FUNCTION));
     VYRCFD_PASS(CheckObjectList(VYRCFD_FUNCTION));
-    // Mirrors the attribute as it changes.
-    std::unique_ptr<ORXListValORXBaseUnknown_var> pVals(_spAttr->ListObjects(_spKey, 0));
-    if (pVals == nullptr)
-        pVals = std::make_unique<ORXListValORXBaseUnknown_var>();
-
-    bool changed = false;
-    const int count = static_cast<int>(iObjects.size());
-    for (int i = 1; i <= count; ++i)
-    {
-        VYRCFD_ASSERT(iObjects[i-1].Self());
-        const ORXBaseUnknown_var wanted = iObjects[i - 1].Self();
-        bool found = false;
-        // The scan goes on behind a hit: a second occurrence of the object is moved to the place as well.
-        for (int j = i; j <= pVals->Size(); ++j)
-        {
-            if (wanted->IsEqual((*pVals)[j]) == 0)
-                continue;
-            found = true;
-            if (j == i)
-                continue;
-            changed = true;
-            VYRCFD_CHECK(_spAttr->MoveInPosition(_spKey, (*pVals)[j], i));
-            pVals->RemovePosition(j);
-            pVals->InsertAt(i, wanted);
-        }
-        if (!found)
-        {
-            changed = true;
-            const ORXISpecObject_var spSpec = wanted;
-            VYRCFD_ASSERT(spSpec);
-            VYRCFD_CHECK(_spAttr->InsertAtPosition(_spKey, spSpec, i));
-            pVals->InsertAt(i, wanted);
-        }
-    }
-
-    for (int position = pVals->Size(); position > count; --position)
-    {
-        changed = true;
-        _spAttr->RemovePosition(_spKey, position);
-    }
-    return changed ? S_OK : S_FALSE;
+    return VYRCfdListArrangement(VYRCFD_FUNCTION, _spAttr, _spKey, iObjects).Go();
 }
 
 HRESULT VYRCfdObjectAccess::SetList(ORXListValORXBaseUnknown_var& iObjects) const

@@ -9,6 +9,7 @@
 #include "ContractTest.h"
 #include "ORXCkeGlobalFunctions.h"
 #include "ORXIAlias.h"
+#include "ORXIComponentIdentity.h"
 #include "ORXISamAnalysisEntityInit.h"
 #include "ORXISimBCDataTableColumn.h"
 #include "ORXMetaClass.h"
@@ -61,6 +62,7 @@ TEST_P(InterfaceNames, NameAsksAsTheIdentifierDoes)
 
 const NamedInterface interfaces[] = {
     {"ORXBaseUnknown", ORXBaseUnknown::ClassId()},
+    {"ORXIComponentIdentity", ORXIComponentIdentity::ClassId()},
     {"ORXISpecObject", ORXISpecObject::ClassId()},
     {"ORXISpecAttrAccess", ORXISpecAttrAccess::ClassId()},
     {"ORXISpecAttrKey", ORXISpecAttrKey::ClassId()},

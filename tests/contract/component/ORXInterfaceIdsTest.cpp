@@ -12,6 +12,7 @@
 namespace
 {
 const IID all[] = {IID_ORXBaseUnknown,
+                   IID_ORXIComponentIdentity,
                    IID_ORXISpecObject,
                    IID_ORXISpecAttrAccess,
                    IID_ORXISpecAttrKey,

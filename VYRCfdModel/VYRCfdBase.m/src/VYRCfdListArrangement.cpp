@@ -1,0 +1,137 @@
+#include "VYRCfdListArrangement.h"
+
+#include "VYRCfdChecks.h"
+
+namespace
+{
+/// So many comparisons cost no more than asking for identities.
+constexpr std::size_t FewComparisons = 16;
+} // namespace
+
+VYRCfdListArrangement::VYRCfdListArrangement(const char* iFunction, const ORXISpecAttrAccess_var& iAttr,
+                                             const ORXISpecAttrKey_var& iKey,
+                                             const std::vector<VYRCfdObjectAccess>& iWanted)
+    : m_function(iFunction), _spAttr(iAttr), _spKey(iKey), iObjects(iWanted), pVals(iAttr->ListObjects(iKey, 0))
+{
+    if (pVals == nullptr)
+        pVals = std::make_unique<ORXListValORXBaseUnknown_var>();
+    m_size = pVals->Size();
+}
+
+HRESULT VYRCfdListArrangement::Go()
+{
+    VYRCFD_PASS(Identify() ? PlaceByIdentity() : PlaceByScan());
+    for (int position = m_size; position > static_cast<int>(iObjects.size()); --position)
+    {
+        m_isChanged = true;
+        _spAttr->RemovePosition(_spKey, position);
+    }
+    return m_isChanged ? S_OK : S_FALSE;
+}
+
+bool VYRCfdListArrangement::Identify()
+{
+    const std::size_t size = static_cast<std::size_t>(m_size);
+    if (size * iObjects.size() <= FewComparisons)
+        return false;
+    const ORXIComponentIdentity_var spIdentity = _spAttr;
+    if (!spIdentity)
+        return false;
+
+    m_tail = std::make_unique<VYRCfdListTail>(size);
+    for (int position = 1; position <= m_size; ++position)
+    {
+        const void* const identity = spIdentity->IdentityOf((*pVals)[position]);
+        if (identity == nullptr)
+            return false;
+        m_tail->Append(identity);
+    }
+    m_wanted.reserve(iObjects.size());
+    for (const VYRCfdObjectAccess& cursor : iObjects)
+    {
+        const ORXBaseUnknown_var wanted = cursor.Self();
+        if (!wanted)
+            break;
+        const void* const identity = spIdentity->IdentityOf(wanted);
+        if (identity == nullptr)
+            return false;
+        m_wanted.push_back(m_tail->Find(identity));
+    }
+    return true;
+}
+
+HRESULT VYRCfdListArrangement::PlaceByIdentity()
+{
+    int i = 0;
+    for (const int object : m_wanted)
+    {
+        ++i;
+        if (object == VYRCfdListTail::None || !m_tail->Holds(object))
+        {
+            VYRCFD_PASS(Insert(iObjects[static_cast<std::size_t>(i) - 1].Self(), i));
+            continue;
+        }
+        for (int moves = m_tail->Place(object); moves > 0; --moves)
+            VYRCFD_PASS(Move(VYRCfdListTail::Position(object), i));
+    }
+    return CheckWanted(m_wanted.size() == iObjects.size());
+}
+
+HRESULT VYRCfdListArrangement::PlaceByScan()
+{
+    int i = 0;
+    for (const VYRCfdObjectAccess& cursor : iObjects)
+    {
+        const ORXBaseUnknown_var wanted = cursor.Self();
+        VYRCFD_PASS(CheckWanted(!!wanted));
+        VYRCFD_PASS(Scan(wanted, ++i));
+    }
+    return S_OK;
+}
+
+HRESULT VYRCfdListArrangement::Scan(const ORXBaseUnknown_var& iWanted, int iPlace)
+{
+    bool found = false;
+    // The scan goes on behind a hit: a second occurrence of the object is moved to the place as well.
+    for (int position = iPlace; position <= pVals->Size(); ++position)
+    {
+        if (iWanted->IsEqual((*pVals)[position]) == 0)
+            continue;
+        found = true;
+        if (position == iPlace)
+            continue;
+        VYRCFD_PASS(Move(position, iPlace));
+        pVals->RemovePosition(position);
+        pVals->InsertAt(iPlace, iWanted);
+    }
+    if (found)
+        return S_OK;
+    VYRCFD_PASS(Insert(iWanted, iPlace));
+    pVals->InsertAt(iPlace, iWanted);
+    return S_OK;
+}
+
+// ---- checks and writes of both roads --------------------------------------------------------------------------------
+
+HRESULT VYRCfdListArrangement::CheckWanted(bool iIsObject) const
+{
+    VYRCFD_ASSERT_TEXT(m_function, "iObjects[i-1].Self()", iIsObject);
+    return S_OK;
+}
+
+HRESULT VYRCfdListArrangement::Move(int j, int i)
+{
+    m_isChanged = true;
+    VYRCFD_CHECK_FOR(m_function, _spAttr->MoveInPosition(_spKey, (*pVals)[j], i));
+    return S_OK;
+}
+
+HRESULT VYRCfdListArrangement::Insert(const ORXBaseUnknown_var& iWanted, int i)
+{
+    m_isChanged = true;
+    const ORXISpecObject_var spSpec = iWanted;
+    VYRCFD_ASSERT_FOR(m_function, spSpec);
+    VYRCFD_CHECK_FOR(m_function, _spAttr->InsertAtPosition(_spKey, spSpec, i));
+    ++m_size;
+    return S_OK;
+}
