@@ -1,9 +1,13 @@
 #include "VYRCfdUtilityMethods.h"
 
 #include <algorithm>
+#include <charconv>
+#include <cmath>
 #include <cstdio>
+#include <limits>
 #include <locale>
 #include <sstream>
+#include <string_view>
 
 #include "ORXUuid.h"
 
@@ -43,13 +47,86 @@ void Split(const ORXUnicodeString& iText, const ORXUnicodeString& iDelimiter, co
     appendToken();
 }
 
-/// Reads a number as far as it goes; the decimal point is "." whatever the user's locale is.
-template <class Number> HRESULT Extract(const ORXUnicodeString& iText, Number& oNumber)
+// Numbers are read as a stream with the classic locale extracts them: as far as they go, the decimal point is "."
+// whatever the user's locale is, and a text that is no number gives 0. Making a stream costs many times what reading
+// does, so it is left to texts that are hardly ever met.
+
+bool IsDigit(char iCharacter)
 {
-    std::istringstream stream(iText.CastToCharPtr());
+    return iCharacter >= '0' && iCharacter <= '9';
+}
+
+bool IsSign(char iCharacter)
+{
+    return iCharacter == '+' || iCharacter == '-';
+}
+
+/// The text up to its first zero, without leading white space.
+std::string_view NumberText(const ORXUnicodeString& iText)
+{
+    std::string_view text(iText.CastToCharPtr());
+    text.remove_prefix(std::min(text.find_first_not_of(" \t\n\v\f\r"), text.size()));
+    return text;
+}
+
+HRESULT ExtractByStream(std::string_view iText, double& oNumber)
+{
+    std::istringstream stream{std::string(iText)};
     stream.imbue(std::locale::classic());
     stream >> oNumber;
     return stream.fail() ? E_FAIL : S_OK;
+}
+
+HRESULT Extract(const ORXUnicodeString& iText, double& oNumber)
+{
+    const std::string_view text = NumberText(iText);
+    // Where there is nothing to extract from, the number stays.
+    if (text.empty())
+        return E_FAIL;
+    const std::string_view digits = text.substr(IsSign(text[0]) ? 1 : 0);
+    if (digits.empty() || !(IsDigit(digits[0]) || digits[0] == '.'))
+    {
+        oNumber = 0.0;
+        return E_FAIL;
+    }
+    const char* const end = text.data() + text.size();
+    double number = 0.0;
+    const std::from_chars_result read = std::from_chars(text[0] == '+' ? digits.data() : text.data(), end, number);
+    // The stream takes an exponent that has no digits for a part of the number, and then for a mistake.
+    const bool isCutShort = read.ptr != end && (*read.ptr == 'e' || *read.ptr == 'E');
+    // What is too small may have become zero: only a zero that stands there is certain.
+    const std::size_t telling = number == 0.0 ? digits.find_first_not_of("0.") : std::string_view::npos;
+    const bool isTooSmall = telling != std::string_view::npos && IsDigit(digits[telling]);
+    if (read.ec != std::errc() || isCutShort || isTooSmall || !std::isfinite(number))
+        return ExtractByStream(text, oNumber);
+    oNumber = number;
+    return S_OK;
+}
+
+HRESULT Extract(const ORXUnicodeString& iText, int& oNumber)
+{
+    const std::string_view text = NumberText(iText);
+    if (text.empty())
+        return E_FAIL;
+    const bool isNegative = text[0] == '-';
+    const std::string_view digits = text.substr(IsSign(text[0]) ? 1 : 0);
+    // A second sign is none.
+    if (digits.empty() || !IsDigit(digits[0]))
+    {
+        oNumber = 0;
+        return E_FAIL;
+    }
+    int number = 0;
+    const std::from_chars_result read =
+        std::from_chars(isNegative ? text.data() : digits.data(), text.data() + text.size(), number);
+    if (read.ec == std::errc())
+    {
+        oNumber = number;
+        return S_OK;
+    }
+    // Out of range gives the number that is nearest.
+    oNumber = isNegative ? std::numeric_limits<int>::min() : std::numeric_limits<int>::max();
+    return E_FAIL;
 }
 
 unsigned int BigEndianWord(const unsigned char* iBytes)

@@ -3,8 +3,10 @@
  * Numbers out of texts.
  */
 
+#include <cerrno>
 #include <clocale>
 #include <cmath>
+#include <cstdio>
 #include <cstdlib>
 #include <limits>
 #include <optional>
@@ -12,6 +14,7 @@
 
 #include <gtest/gtest.h>
 
+#include "NumberTexts.h"
 #include "ORXUnicodeString.h"
 #include "TemporaryFolder.h"
 
@@ -127,6 +130,45 @@ TEST(ConvertToNum, Real_KeepsTheSignOfZeroAndReadsInfinity)
     EXPECT_TRUE(number == 0.0 && std::signbit(number));
     EXPECT_NE(ORXUnicodeString("inf").ConvertToNum(&number, "%le"), 0);
     EXPECT_TRUE(std::isinf(number));
+}
+
+/// Both are the same, also in the sign of zero, or no number.
+bool IsSame(double iLeft, double iRight)
+{
+    return std::isnan(iLeft) ? std::isnan(iRight) : iLeft == iRight && std::signbit(iLeft) == std::signbit(iRight);
+}
+
+TEST(ConvertToNum, GeneratedTexts_AreReadAsTheScanReadsThem)
+{
+    constexpr int Texts = 300000;
+    NumberTexts texts(20261122);
+    int reals = 0;
+    for (int made = 0; made < Texts; ++made)
+    {
+        const std::string text = texts.Make();
+        const ORXUnicodeString given(text.c_str());
+
+        char* end = nullptr;
+        errno = 0;
+        const long long whole = std::strtoll(text.c_str(), &end, 10);
+        const bool isInteger = end != text.c_str() && errno == 0 && whole >= std::numeric_limits<int>::min() &&
+                               whole <= std::numeric_limits<int>::max();
+        int integer = Untouched;
+        ASSERT_EQ(given.ConvertToNum(&integer, "%d") != 0, isInteger) << testing::PrintToString(text);
+        ASSERT_EQ(integer, isInteger ? whole : Untouched) << testing::PrintToString(text);
+
+        double scanned = 0.0;
+        errno = 0;
+        const bool isScanned = std::sscanf(text.c_str(), "%le", &scanned) == 1;
+        const bool isReal = isScanned && !(errno == ERANGE && std::isinf(scanned));
+        double real = Untouched;
+        ASSERT_EQ(given.ConvertToNum(&real, "%le") != 0, isReal) << testing::PrintToString(text);
+        ASSERT_TRUE(IsSame(real, isReal ? scanned : Untouched))
+            << testing::PrintToString(text) << ": " << real << ", scanned " << scanned;
+        reals += isReal;
+    }
+    EXPECT_GT(reals, Texts / 3);
+    EXPECT_LT(reals, Texts * 9 / 10);
 }
 
 TEST(ConvertToNum, UnknownFormat_ReadsNothing)
