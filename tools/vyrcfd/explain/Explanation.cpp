@@ -57,7 +57,9 @@ std::string ComesFrom(const AttributeSnapshot& iAttribute, const Ladder& iLadder
     const std::string source = SourceText(iAttribute, iLadder.byDefault);
     if (source == "set")
         return "set on purpose";
-    return source == "none" ? "none of its defaults, and it is not set" : "its default, by the " + source;
+    if (source == "none")
+        return iLadder.isFound ? "none of its defaults, and it is not set" : "not set, and it has no default";
+    return "its default, by the " + source;
 }
 
 /// All rungs but the start-up, which alone cannot be passed over for want of a value.
