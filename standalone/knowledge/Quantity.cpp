@@ -6,8 +6,8 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <unordered_map>
-#include <unordered_set>
 
 #include <udunits2.h>
 
@@ -65,10 +65,9 @@ struct UnitTable
     ut_system* system = nullptr;
     bool isRead = false;
     std::map<std::string, const Quantity*> quantities;
-    /// By SI unit, a line break and the unit.
-    std::unordered_map<std::string, Conversion> conversions;
-    /// The same for texts that are no unit: the library loses some memory at each of them.
-    std::unordered_set<std::string> refused;
+    /// By SI unit, a line break and the unit. Nothing for a text that is no unit of the quantity: that is remembered
+    /// too, since the library loses some memory at each of them.
+    std::unordered_map<std::string, std::optional<Conversion>> conversions;
 
     /// Null when the library's own files are missing.
     ut_system* System()
@@ -214,24 +213,20 @@ bool Quantity::Convert(std::string_view iUnit, double iNumber, double& oValue) c
     const std::string entry = m_siUnit + '\n' + name;
     UnitTable& table = Table();
     const std::lock_guard<std::mutex> lock(table.mutex);
-    if (table.refused.count(entry) != 0)
-        return false;
     auto known = table.conversions.find(entry);
     if (known == table.conversions.end())
     {
         const Parts parts = Analyse(table.System(), name);
-        if (parts.coherent == nullptr || ut_compare(parts.coherent.get(), m_unit) != 0)
-        {
-            if (table.refused.size() >= MostRemembered)
-                table.refused.clear();
-            table.refused.insert(entry);
-            return false;
-        }
+        std::optional<Conversion> found;
+        if (parts.coherent != nullptr && ut_compare(parts.coherent.get(), m_unit) == 0)
+            found = parts.conversion;
         if (table.conversions.size() >= MostRemembered)
             table.conversions.clear();
-        known = table.conversions.emplace(entry, parts.conversion).first;
+        known = table.conversions.emplace(entry, found).first;
     }
-    const Conversion& conversion = known->second;
+    if (!known->second.has_value())
+        return false;
+    const Conversion& conversion = *known->second;
     // Adding nothing would take the sign of a negative zero away.
     const double shifted = conversion.origin != 0.0 ? iNumber + conversion.origin : iNumber;
     const double value = shifted * conversion.multiplier / conversion.divisor;

@@ -92,7 +92,6 @@ HRESULT VYRCfdChoiceInstanceAdp::UpdateRun::WalkChoices()
     m_listsDiffer = static_cast<int>(choices.size()) != oldValues.Size();
     for (std::size_t i = 0; i < choices.size(); ++i)
     {
-        m_newValues.Append(choices[i]);
         if (!m_listsDiffer && !(choices[i] == oldValues[static_cast<int>(i) + 1]))
             m_listsDiffer = true;
         if (choices[i] == m_defaultText)
@@ -109,8 +108,12 @@ HRESULT VYRCfdChoiceInstanceAdp::UpdateRun::WalkChoices()
 
 void VYRCfdChoiceInstanceAdp::UpdateRun::PublishAllowedValues()
 {
-    if (m_listsDiffer)
-        manip->SetAllowedValues(m_newValues);
+    if (!m_listsDiffer)
+        return;
+    ORXListValORXUnicodeString allowed;
+    for (const ORXUnicodeString& choice : choices)
+        allowed.Append(choice);
+    manip->SetAllowedValues(allowed);
 }
 
 /// A default that is no choice gives way to the first one, and nobody is told.

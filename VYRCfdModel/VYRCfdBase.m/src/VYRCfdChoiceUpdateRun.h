@@ -55,7 +55,6 @@ private:
     bool dataChange = false;
 
     ORXUnicodeString m_defaultText;
-    ORXListValORXUnicodeString m_newValues;
     bool m_listsDiffer = false;
     bool m_isValueFound = false;
     bool m_isDefaultFound = false;
