@@ -65,12 +65,12 @@ set_up() {
     fi
 }
 
-RUN_PACKAGES=(g++ cmake ninja-build ccache rapidjson-dev libudunits2-dev libcli11-dev libreadline-dev)
+RUN_PACKAGES=(g++ cmake ninja-build ccache rapidjson-dev libsimdjson-dev libudunits2-dev libcli11-dev libreadline-dev)
 TEST_PACKAGES=("${RUN_PACKAGES[@]}" libgtest-dev libbenchmark-dev python3 python3-jsonschema binutils valgrind)
 SANITIZER_PACKAGES=(clang libclang-rt-14-dev)
-MEASURE_PACKAGES=(g++ cmake ninja-build ccache rapidjson-dev libudunits2-dev libbenchmark-dev)
+MEASURE_PACKAGES=(g++ cmake ninja-build ccache rapidjson-dev libsimdjson-dev libudunits2-dev libbenchmark-dev)
 # What ./measure compares with, beside RapidJSON. It measures without those that cannot be had.
-PEER_PACKAGES=(libtrilinos-teuchos-dev libglib2.0-dev qt6-base-dev nlohmann-json3-dev libsimdjson-dev libmuparser-dev
+PEER_PACKAGES=(libtrilinos-teuchos-dev libglib2.0-dev qt6-base-dev nlohmann-json3-dev libmuparser-dev
     liblua5.4-dev)
 
 # build PRESET [--target TARGET...] [-D...]: configures and builds it below build/.

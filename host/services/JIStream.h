@@ -6,6 +6,7 @@
  * Reader of JSON objects. A value class over a shared document; the reading is a link-time seam.
  */
 
+#include <cstddef>
 #include <memory>
 #include <vector>
 
@@ -14,6 +15,9 @@
 
 namespace JSON
 {
+/// What a stream stands in. Its shape is the provider's.
+class Document;
+
 /**
  * Stands at one JSON object. Copies read the same data, and an object that came out of `ReadObjects` stays readable
  * when the stream that it came from is gone. A default-made stream reads as an empty object. Of a key that stands
@@ -46,8 +50,17 @@ public:
     bool Exist(const ORXUnicodeString& iKey) const;
 
 private:
-    std::shared_ptr<const void> m_document;
-    const void* m_object = nullptr;
+    friend class Document;
+
+    /// Which object of the document; what the two say is known to the document alone.
+    struct Place
+    {
+        const void* base = nullptr;
+        std::size_t index = 0;
+    };
+
+    std::shared_ptr<const Document> m_document;
+    Place m_object;
 };
 } // namespace JSON
 

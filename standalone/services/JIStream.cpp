@@ -1,37 +1,53 @@
 #include "JIStream.h"
 
+#include "FastDocument.h"
 #include "FileName.h"
 #include "Instruments.h"
-#include "StrictJson.h"
+#include "PerThread.h"
+#include "StrictDocument.h"
 #include "WholeFile.h"
 
 namespace
 {
 using VYRStandalone::Instruments;
-using JsonValue = rapidjson::Value;
-
-/// The first member of that name, null when there is none.
-const JsonValue* FindMember(const void* iObject, std::string_view iKey)
-{
-    if (iObject == nullptr)
-        return nullptr;
-    const JsonValue& object = *static_cast<const JsonValue*>(iObject);
-    const JsonValue key(rapidjson::StringRef(iKey.data(), static_cast<rapidjson::SizeType>(iKey.size())));
-    const JsonValue::ConstMemberIterator member = object.FindMember(key);
-    return member != object.MemberEnd() ? &member->value : nullptr;
-}
-
-ORXUnicodeString ReadText(const void* iObject, std::string_view iKey)
-{
-    const JsonValue* value = FindMember(iObject, iKey);
-    if (value == nullptr || !value->IsString())
-        return {};
-    return ORXUnicodeString(value->GetString(), value->GetStringLength());
-}
 
 std::string_view KeyView(const char* iKey)
 {
     return iKey != nullptr ? std::string_view(iKey) : std::string_view("");
+}
+
+/// What reading needs and a document does not keep, for the files that are read one after another.
+struct Desk
+{
+    static constexpr std::size_t MostKept = std::size_t{1024} * 1024;
+
+    std::string text;
+    simdjson::dom::parser parser;
+
+    /// A large file's is given back.
+    void Clear()
+    {
+        if (text.capacity() > MostKept)
+            text = std::string();
+        if (parser.capacity() > MostKept)
+            parser = simdjson::dom::parser();
+    }
+};
+
+/// Null if the text is not valid or no object.
+std::shared_ptr<const JSON::Document> DocumentOf(Desk& ioDesk, JSON::Document::Place& oRoot)
+{
+    auto fast = std::make_shared<FastDocument>();
+    switch (fast->Parse(ioDesk.parser, ioDesk.text, oRoot))
+    {
+    case FastDocument::Verdict::Object:
+        return fast;
+    case FastDocument::Verdict::NoObject:
+        return nullptr;
+    case FastDocument::Verdict::Undecided:
+        break;
+    }
+    return StrictDocument::Parse(ioDesk.text, oRoot);
 }
 } // namespace
 
@@ -43,52 +59,49 @@ bool JIStream::ParseFile(const char* iPath, bool iReplace)
         *this = JIStream();
     if (Instruments::Active() && iPath != nullptr && Instruments::Fails("ParseFile", FileName(iPath), nullptr))
         return false;
-    std::string text;
-    if (iPath == nullptr || !ReadWholeFile(iPath, text).empty())
+    Desk& desk = PerThread<Desk>::Get();
+    if (iPath == nullptr || !ReadWholeFile(iPath, desk.text, FastDocument::Padding).empty())
         return false;
-    const auto document = std::make_shared<rapidjson::Document>();
-    if (StrictJson::Parse(text, *document) || !document->IsObject())
+    Place root;
+    std::shared_ptr<const Document> document = DocumentOf(desk, root);
+    desk.Clear();
+    if (document == nullptr)
         return false;
-    m_object = static_cast<const JsonValue*>(document.get());
-    m_document = document;
+    m_document = std::move(document);
+    m_object = root;
     return true;
 }
 
 std::vector<JIStream> JIStream::ReadObjects(const char* iKey) const
 {
-    std::vector<JIStream> objects;
-    const JsonValue* array = FindMember(m_object, KeyView(iKey));
-    if (array == nullptr || !array->IsArray())
-        return objects;
-    objects.resize(array->Size());
-    for (rapidjson::SizeType i = 0; i < array->Size(); ++i)
-    {
-        if (!(*array)[i].IsObject())
-            continue;
-        objects[i].m_document = m_document;
-        objects[i].m_object = &(*array)[i];
-    }
-    return objects;
+    if (m_document == nullptr)
+        return {};
+    return m_document->Objects(m_object, KeyView(iKey), m_document);
 }
 
 ORXUnicodeString JIStream::ReadString(const char* iKey) const
 {
-    return ReadText(m_object, KeyView(iKey));
+    if (m_document == nullptr)
+        return {};
+    const std::string_view text = m_document->Text(m_object, KeyView(iKey));
+    return ORXUnicodeString(text.data(), text.size());
 }
 
 ORXUnicodeString JIStream::ReadString(const ORXUnicodeString& iKey) const
 {
-    return ReadText(m_object, iKey.View());
+    if (m_document == nullptr)
+        return {};
+    const std::string_view text = m_document->Text(m_object, iKey.View());
+    return ORXUnicodeString(text.data(), text.size());
 }
 
 bool JIStream::ReadBoolean(const ORXUnicodeString& iKey) const
 {
-    const JsonValue* value = FindMember(m_object, iKey.View());
-    return value != nullptr && value->IsTrue();
+    return m_document != nullptr && m_document->IsTrue(m_object, iKey.View());
 }
 
 bool JIStream::Exist(const ORXUnicodeString& iKey) const
 {
-    return FindMember(m_object, iKey.View()) != nullptr;
+    return m_document != nullptr && m_document->Has(m_object, iKey.View());
 }
 } // namespace JSON

@@ -9,6 +9,7 @@
 #include <rapidjson/error/en.h>
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
+#include <simdjson.h>
 
 namespace
 {
@@ -147,18 +148,33 @@ std::string RefusalOf(const DocumentBuilder& iBuilder)
                " deep.";
     return rapidjson::GetParseError_En(rapidjson::kParseErrorNumberTooBig);
 }
-} // namespace
 
-namespace StrictJson
+/**
+ * Reads in a copy of the text that the document keeps, where texts are unescaped in place. What is UTF-8 is seen
+ * beforehand, and not again for each character. A text that it does not take may be valid all the same.
+ */
+bool ParseInPlace(std::string_view iText, rapidjson::Document& oDocument)
 {
-std::optional<SyntaxError> Parse(std::string_view iText, rapidjson::Document& oDocument)
-{
-    if (iText.substr(0, ByteOrderMark.size()) == ByteOrderMark)
-        return ErrorAt(iText, 0, "A byte order mark has no place in JSON.");
-    // A zero ends the parser's input, and would hide what stands behind it.
-    if (const std::size_t zero = iText.find('\0'); zero != std::string_view::npos)
-        return ErrorAt(iText, zero, "A zero byte has no place in JSON.");
+    constexpr unsigned Flags =
+        rapidjson::kParseNumbersAsStringsFlag | rapidjson::kParseIterativeFlag | rapidjson::kParseInsituFlag;
+    if (!simdjson::validate_utf8(iText.data(), iText.size()))
+        return false;
+    auto* const copy = static_cast<char*>(oDocument.GetAllocator().Malloc(iText.size() + 1));
+    *std::copy(iText.begin(), iText.end(), copy) = '\0'; // ends the text
+    bool isValid = false;
+    const auto generate = [&](rapidjson::Document& oBuilt) {
+        rapidjson::InsituStringStream stream(copy);
+        DocumentBuilder builder(oBuilt);
+        isValid = !rapidjson::Reader().Parse<Flags>(stream, builder).IsError();
+        return isValid;
+    };
+    oDocument.Populate(generate);
+    return isValid;
+}
 
+/// Reads with the error, and where it stands.
+std::optional<StrictJson::SyntaxError> ParseThoroughly(std::string_view iText, rapidjson::Document& oDocument)
+{
     constexpr unsigned Flags =
         rapidjson::kParseNumbersAsStringsFlag | rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag;
     rapidjson::ParseResult result;
@@ -177,6 +193,23 @@ std::optional<SyntaxError> Parse(std::string_view iText, rapidjson::Document& oD
     if (result.IsError())
         return ErrorAt(iText, result.Offset(),
                        refusal.empty() ? rapidjson::GetParseError_En(result.Code()) : std::move(refusal));
+    return std::nullopt;
+}
+} // namespace
+
+namespace StrictJson
+{
+std::optional<SyntaxError> Parse(std::string_view iText, rapidjson::Document& oDocument)
+{
+    if (iText.substr(0, ByteOrderMark.size()) == ByteOrderMark)
+        return ErrorAt(iText, 0, "A byte order mark has no place in JSON.");
+    // A zero ends the parser's input, and would hide what stands behind it.
+    if (const std::size_t zero = iText.find('\0'); zero != std::string_view::npos)
+        return ErrorAt(iText, zero, "A zero byte has no place in JSON.");
+
+    if (!ParseInPlace(iText, oDocument))
+        if (auto error = ParseThoroughly(iText, oDocument))
+            return error;
     if (const std::size_t half = FindLoneSurrogate(iText); half != std::string_view::npos)
         return ErrorAt(iText, half, "The surrogate pair in string is invalid.");
     return std::nullopt;

@@ -1,5 +1,6 @@
 #include "WholeFile.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -32,7 +33,7 @@ std::string LastError()
 }
 } // namespace
 
-std::string ReadWholeFile(const std::string& iPath, std::string& oText)
+std::string ReadWholeFile(const std::string& iPath, std::string& oText, std::size_t iSpare)
 {
     // The system would take what stands in front of it for the whole name.
     if (iPath.find('\0') != std::string::npos)
@@ -46,19 +47,23 @@ std::string ReadWholeFile(const std::string& iPath, std::string& oText)
     if (S_ISDIR(status.st_mode))
         return "is a folder, not a file";
 
-    std::string text;
-    char buffer[65536];
+    // One byte more than it says, which shows the end: a file may be longer by now, and a pipe says nothing.
+    constexpr std::size_t Least = 4096;
+    oText.resize(std::max(Least, static_cast<std::size_t>(status.st_size) + 1) + iSpare);
+    std::size_t filled = 0;
     for (;;)
     {
-        const ssize_t count = read(file.Descriptor(), buffer, sizeof(buffer));
+        if (filled + iSpare == oText.size())
+            oText.resize(2 * oText.size());
+        const ssize_t count = read(file.Descriptor(), &oText[filled], oText.size() - iSpare - filled);
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0)
             return "cannot be read: " + LastError();
         if (count == 0)
             break;
-        text.append(buffer, static_cast<std::size_t>(count));
+        filled += static_cast<std::size_t>(count);
     }
-    oText = std::move(text);
+    oText.resize(filled);
     return {};
 }

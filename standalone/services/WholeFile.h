@@ -8,7 +8,11 @@
 
 #include <string>
 
-/// @param oText receives the bytes; untouched on failure. @return what went wrong, empty on success
-std::string ReadWholeFile(const std::string& iPath, std::string& oText);
+/**
+ * @param oText receives the bytes, into the memory that it has already; of no use on failure
+ * @param iSpare so many more bytes behind the text can be read, for readers that take several at a time
+ * @return what went wrong, empty on success
+ */
+std::string ReadWholeFile(const std::string& iPath, std::string& oText, std::size_t iSpare = 0);
 
 #endif

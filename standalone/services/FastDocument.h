@@ -1,0 +1,50 @@
+#ifndef FastDocument_H
+#define FastDocument_H
+
+#include <simdjson.h>
+
+#include "JsonDocument.h"
+
+/**
+ * A document as simdjson builds it, in one pass over the file and without an allocation for each value.
+ *
+ * It has no say in what is refused: what simdjson refuses goes to StrictJson, which takes some of it - integers that 64
+ * bits do not hold, the last step of the allowed nesting - and otherwise knows the error. What simdjson takes must
+ * therefore be what StrictJson takes too, and relied on for that is that it
+ * - takes the grammar of the standard and nothing beyond: no comments, no byte order mark (looked at here as well,
+ *   since later versions skip it), no zero byte, nothing behind the value,
+ * - refuses what is no UTF-8, wherever it stands, halves of surrogate pairs, written as escapes, included,
+ * - refuses a number that a double cannot hold for its size; of one that is too small for a double it makes 0, as
+ *   StrictJson does. It takes 0e400, which StrictJson does not, so that files with such a zero are left to that,
+ * - counts arrays and objects inside each other no less deep than StrictJson does,
+ * - finds of a doubled key the first, and compares keys by all their bytes.
+ */
+class FastDocument : public JSON::Document
+{
+public:
+    /// How many bytes behind a text simdjson may read.
+    static constexpr std::size_t Padding = simdjson::SIMDJSON_PADDING;
+
+    enum class Verdict
+    {
+        Object,
+        /// Valid, and therefore refused as no configuration can be a text or an array.
+        NoObject,
+        /// Not for this reader.
+        Undecided
+    };
+
+    /// @param iText Padding more bytes behind it can be read
+    Verdict Parse(simdjson::dom::parser& ioParser, std::string_view iText, Place& oRoot);
+
+    bool Has(const Place& iObject, std::string_view iKey) const override;
+    std::string_view Text(const Place& iObject, std::string_view iKey) const override;
+    bool IsTrue(const Place& iObject, std::string_view iKey) const override;
+    std::vector<JSON::JIStream> Objects(const Place& iObject, std::string_view iKey,
+                                        const std::shared_ptr<const Document>& iOwner) const override;
+
+private:
+    simdjson::dom::document m_json;
+};
+
+#endif
