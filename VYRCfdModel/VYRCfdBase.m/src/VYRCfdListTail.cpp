@@ -63,7 +63,7 @@ int VYRCfdListTail::Find(const void* iIdentity) noexcept
     return found;
 }
 
-int VYRCfdListTail::Place(int iObject)
+int VYRCfdListTail::PlaceOutOfOrder(int iObject)
 {
     const bool isInFront = IsInFront(iObject);
     Entry& object = m_entries[Offset(iObject)];

@@ -43,7 +43,17 @@ public:
     bool Holds(int iObject) const noexcept { return m_entries[Offset(iObject)].count > 0; }
 
     /// Takes one entry of an object that the rest holds out of it. @return the moves to the front that this takes
-    int Place(int iObject);
+    int Place(int iObject)
+    {
+        // Mostly nothing changes: the object stands in front and nowhere else.
+        Entry& object = m_entries[Offset(iObject)];
+        if (!m_runs.empty() || Offset(iObject) != m_front || object.count != 1 || object.run != InStoredOrder)
+            return PlaceOutOfOrder(iObject);
+        object.count = 0;
+        object.run = InNoRun;
+        ++m_front;
+        return 0;
+    }
 
 private:
     /// Values of `Entry::run` that are no index. The last is that of an entry that is not its object's first.
@@ -70,6 +80,7 @@ private:
     Entry& Bucket(const void* iIdentity) noexcept;
     int Search(const Entry& iBucket, const void* iIdentity) const noexcept;
     int ObjectAt(std::size_t iEntry) const noexcept;
+    int PlaceOutOfOrder(int iObject);
     bool IsInFront(int iObject);
 
     /// All in one block, which is also the table of the hashes.
