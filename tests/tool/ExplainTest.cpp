@@ -240,7 +240,7 @@ class SampleLadders : public ToolTest, public testing::WithParamInterface<Sample
 /// Two processes for each attribute, so every so many of them; the models have far more than are asked for.
 TEST_P(SampleLadders, PointAtWhatUnsetTakes)
 {
-    constexpr std::size_t Stride = 9;
+    constexpr std::size_t Stride = 4;
     const std::string model = "configured.model.json";
     ASSERT_EQ(Run({"apply", GetParam().model, GetParam().object, GetParam().configuration, "-o", model}).status, 0);
     const std::vector<std::string> paths = AttributePaths(Run({"show", model, GetParam().object}).output);

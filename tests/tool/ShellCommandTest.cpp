@@ -84,7 +84,8 @@ const ScriptRun ObjectScripts[] = {
      "    choices: [\"direct\", \"conjugate gradient\", \"gmres\"] -> [\"gmres\", \"direct\"]\n"
      "    Data: Flow 3/solver/Data -> (empty)\n"
      "    + record value: default \"direct\"\n"
-     "Flow 3/solver/Data  WallLaw  gone\n",
+     "Flow 3/solver/Data  WallLaw  gone\n"
+     "    - roughness: 0\n",
      ""},
     {"ApplyOfNoItems", Small, "apply Mesh nothing\n", "", "note: \"nothing\" has no items\n"},
     {"ApplyPrintsReports_AsNotes", Flow, "apply \"Flow 2/turbulence\" bySpalart\n",
@@ -97,8 +98,10 @@ const ScriptRun ObjectScripts[] = {
      "    + record value: default \"spalart\"\n"
      "    + record Data: configuration \"ratioOfFour\", on condition \"value==spalart\"\n"
      "Flow 2/turbulence/Data  SpalartModel  new\n"
+     "    + ratio: 4\n"
      "    + record ratio: default \"4\"\n"
-     "Flow 2/turbulence/Data/wall  WallLaw  new\n",
+     "Flow 2/turbulence/Data/wall  WallLaw  new\n"
+     "    + roughness: 0\n",
      UnequalLists},
 };
 INSTANTIATE_TEST_SUITE_P(Objects, GoodScripts, testing::ValuesIn(ObjectScripts),
@@ -128,7 +131,7 @@ const ScriptRun AttributeScripts[] = {
      "    value: \"kOmega\" -> \"spalart\"\n"
      "Flow.1/turbulence/Data\n"
      "    - KOmegaModel\n"
-     "    + SpalartModel\n"
+     "    + SpalartModel\n    - intensity: 0.1\n    + ratio: 3\n"
      "Flow.1/turbulence/Data/wall  WallLaw  made anew\n",
      ""},
     {"SetOfAChoice_OutsideItsList_IsRepaired", Flow,
@@ -140,7 +143,9 @@ const ScriptRun AttributeScripts[] = {
      "    value: \"kOmega\" -> \"laminar\", no longer set\n"
      "    Data: Flow.1/turbulence/Data -> (empty)\n"
      "Flow.1/turbulence/Data  KOmegaModel  gone\n"
-     "Flow.1/turbulence/Data/wall  WallLaw  gone\n",
+     "    - intensity: 0.1\n"
+     "Flow.1/turbulence/Data/wall  WallLaw  gone\n"
+     "    - roughness: 0\n",
      ""},
     {"DefaultShown", Small,
      "default Case.1/author\ndefault Case.1/tolerance\ndefault Case.1/title\ndefault Case.1/scheme\ndefault "
@@ -160,7 +165,9 @@ const ScriptRun AttributeScripts[] = {
      "    value: \"laminar\" -> \"kOmega\"\n"
      "    Data: (empty) -> Flow 2/turbulence/Data\n"
      "Flow 2/turbulence/Data  KOmegaModel  new\n"
+     "    + intensity: 0.05\n"
      "Flow 2/turbulence/Data/wall  WallLaw  new\n"
+     "    + roughness: 0\n"
      "\"kOmega\" (custom default)\n",
      ""},
     {"Auto", Small,
@@ -214,7 +221,9 @@ const ScriptRun ChoiceScripts[] = {
      "    Startups: [\"\", \"KOmegaModel\", \"SpalartModel\"] -> [\"\", \"SpalartModel\"]\n"
      "    Data: Flow.1/turbulence/Data -> (empty)\n"
      "Flow.1/turbulence/Data  KOmegaModel  gone\n"
-     "Flow.1/turbulence/Data/wall  WallLaw  gone\n",
+     "    - intensity: 0.1\n"
+     "Flow.1/turbulence/Data/wall  WallLaw  gone\n"
+     "    - roughness: 0\n",
      "note: \"spelart\" is not offered, and passed over; did you mean \"spalart\"?\n"},
     {"ProhibitAll", Flow, "prohibit Flow.1/solver direct gmres\n",
      "Flow.1/solver  SolverChoice\n    choices: [\"direct\", \"gmres\"] -> []\n",
