@@ -26,7 +26,6 @@ void AddShowCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
 void AddExplainCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
 void AddListCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
 void AddCheckCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
-void AddCheckCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
 void AddDescribeCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
 void AddGraphCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
 void AddPurgeCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
