@@ -241,7 +241,6 @@ private:
     ObjectNames& Names();
 
     AttributeAccess m_access;
-    IdentityFacet m_identity;
     unsigned int m_references = 1;
     /// Entries of the owner's component attributes that hold this object: a list may hold it twice.
     unsigned int m_holdings = 0;
@@ -259,6 +258,7 @@ private:
     Container* m_strayOf = nullptr;
     FeatureObject* m_nextDying = nullptr;
     FeatureObject* m_startup;
+    IdentityFacet m_identity;
     std::unique_ptr<AddedAttributes> m_added;
     std::unique_ptr<ObjectNames> m_names;
     std::unique_ptr<TableColumn> m_column;

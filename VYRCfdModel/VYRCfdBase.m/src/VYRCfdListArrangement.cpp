@@ -1,5 +1,7 @@
 #include "VYRCfdListArrangement.h"
 
+#include <algorithm>
+
 #include "VYRCfdChecks.h"
 
 namespace
@@ -39,23 +41,28 @@ bool VYRCfdListArrangement::Identify()
         return false;
 
     m_tail = std::make_unique<VYRCfdListTail>(size);
-    for (int position = 1; position <= m_size; ++position)
-    {
-        const void* const identity = spIdentity->IdentityOf((*pVals)[position]);
-        if (identity == nullptr)
-            return false;
-        m_tail->Append(identity);
-    }
     m_wanted.reserve(iObjects.size());
-    for (const VYRCfdObjectAccess& cursor : iObjects)
+    // Side by side: an object that stands in its place already is then visited once, which is what long lists cost.
+    for (std::size_t at = 0; at < std::max(size, iObjects.size()); ++at)
     {
-        const ORXBaseUnknown_var wanted = cursor.Self();
-        if (!wanted)
-            break;
-        const void* const identity = spIdentity->IdentityOf(wanted);
-        if (identity == nullptr)
-            return false;
-        m_wanted.push_back(m_tail->Find(identity));
+        if (at < size)
+        {
+            const void* const identity = spIdentity->IdentityOf((*pVals)[static_cast<int>(at) + 1]);
+            if (identity == nullptr)
+                return false;
+            m_tail->Append(identity);
+        }
+        // Behind a cursor without an object nothing is looked at any more.
+        if (at < iObjects.size() && at == m_wanted.size())
+        {
+            const ORXBaseUnknown_var wanted = iObjects[at].Self();
+            if (!wanted)
+                continue;
+            const void* const identity = spIdentity->IdentityOf(wanted);
+            if (identity == nullptr)
+                return false;
+            m_wanted.push_back(identity);
+        }
     }
     return true;
 }
@@ -63,8 +70,9 @@ bool VYRCfdListArrangement::Identify()
 HRESULT VYRCfdListArrangement::PlaceByIdentity()
 {
     int i = 0;
-    for (const int object : m_wanted)
+    for (const void* const identity : m_wanted)
     {
+        const int object = m_tail->Find(identity);
         ++i;
         if (object == VYRCfdListTail::None || !m_tail->Holds(object))
         {

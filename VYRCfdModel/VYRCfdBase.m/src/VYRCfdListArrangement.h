@@ -53,8 +53,8 @@ private:
     bool m_isChanged = false;
 
     std::unique_ptr<VYRCfdListTail> m_tail;
-    /// Numbers of the wanted objects in the tail, up to the first cursor without an object.
-    std::vector<int> m_wanted;
+    /// Identities of the wanted objects, up to the first cursor without an object.
+    std::vector<const void*> m_wanted;
 };
 
 #endif
