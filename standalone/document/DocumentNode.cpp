@@ -1,7 +1,7 @@
 #include "DocumentNode.h"
 
 #include <algorithm>
-#include <set>
+#include <utility>
 
 #include "StrictJson.h"
 #include "VYRStandaloneErrors.h"
@@ -28,6 +28,34 @@ std::string Escaped(std::string_view iKey)
             escaped += character;
     }
     return escaped;
+}
+
+/// The first key that stands behind itself. Few keys, as nearly every object has, are compared with one another.
+std::optional<std::string_view> FirstDoubled(const rapidjson::Value& iObject)
+{
+    constexpr rapidjson::SizeType Few = 32;
+    const auto keyAt = [first = iObject.MemberBegin()](rapidjson::SizeType iIndex) {
+        return ViewOf(first[static_cast<std::ptrdiff_t>(iIndex)].name);
+    };
+    const rapidjson::SizeType count = iObject.MemberCount();
+    if (count <= Few)
+    {
+        for (rapidjson::SizeType i = 1; i < count; ++i)
+            for (rapidjson::SizeType before = 0; before < i; ++before)
+                if (keyAt(before) == keyAt(i))
+                    return keyAt(i);
+        return std::nullopt;
+    }
+    std::vector<std::pair<std::string_view, rapidjson::SizeType>> keys;
+    keys.reserve(count);
+    for (rapidjson::SizeType i = 0; i < count; ++i)
+        keys.emplace_back(keyAt(i), i);
+    std::sort(keys.begin(), keys.end());
+    rapidjson::SizeType first = count;
+    for (std::size_t i = 1; i < keys.size(); ++i)
+        if (keys[i].first == keys[i - 1].first)
+            first = std::min(first, keys[i].second);
+    return first < count ? std::optional(keyAt(first)) : std::nullopt;
 }
 
 std::vector<std::string> Copied(std::initializer_list<std::string_view> iTexts)
@@ -85,10 +113,8 @@ void DocumentNode::ExpectObject() const
 {
     if (!IsObject())
         FailKind("an object");
-    std::set<std::string_view> keys;
-    for (const auto& member : m_value->GetObject())
-        if (!keys.insert(ViewOf(member.name)).second)
-            FailAt(ViewOf(member.name), "stands twice");
+    if (const std::optional<std::string_view> doubled = FirstDoubled(*m_value))
+        FailAt(*doubled, "stands twice");
 }
 
 void DocumentNode::ExpectKeys(std::initializer_list<std::string_view> iAllowed) const
@@ -120,6 +146,7 @@ DocumentNode DocumentNode::Require(std::string_view iKey) const&
 std::vector<DocumentNode> DocumentNode::Members() const&
 {
     std::vector<DocumentNode> members;
+    members.reserve(m_value->MemberCount());
     for (const auto& member : m_value->GetObject())
         members.push_back(DocumentNode(*this, member.value, ViewOf(member.name), 0));
     return members;
@@ -130,6 +157,7 @@ std::vector<DocumentNode> DocumentNode::Elements() const&
     if (!IsArray())
         FailKind("an array");
     std::vector<DocumentNode> elements;
+    elements.reserve(m_value->Size());
     for (const rapidjson::Value& element : m_value->GetArray())
         elements.push_back(DocumentNode(*this, element, {}, elements.size()));
     return elements;
@@ -152,8 +180,9 @@ std::string DocumentNode::NonEmptyText() const
 
 ORXUnicodeString DocumentNode::UnicodeText() const
 {
-    const std::string text = Text();
-    return ORXUnicodeString(text.data(), text.size());
+    if (!IsText())
+        FailKind("a text");
+    return ORXUnicodeString(m_value->GetString(), m_value->GetStringLength());
 }
 
 bool DocumentNode::Boolean() const

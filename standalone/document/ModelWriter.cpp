@@ -3,11 +3,12 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstring>
 #include <unordered_map>
 #include <unordered_set>
 
-#include <rapidjson/memorystream.h>
 #include <rapidjson/prettywriter.h>
+#include <simdjson.h>
 
 #include "Container.h"
 #include "FeatureObject.h"
@@ -26,17 +27,22 @@ constexpr unsigned BlanksPerStep = 2;
 /// Strings of the host keep bytes of every kind; a document holds UTF-8 only.
 bool IsUtf8(std::string_view iText)
 {
-    struct Nowhere
-    {
-        void Put(char) {}
-    };
-    Nowhere nowhere;
-    rapidjson::MemoryStream bytes(iText.data(), iText.size());
-    while (bytes.Tell() < iText.size())
-        if (!rapidjson::UTF8<>::Validate(bytes, nowhere))
-            return false;
-    return true;
+    return simdjson::validate_utf8(iText.data(), iText.size());
 }
+
+/// Takes parts of the document that are JSON already, and puts them in as they are.
+class DocumentWriter : public rapidjson::PrettyWriter<rapidjson::StringBuffer>
+{
+public:
+    using rapidjson::PrettyWriter<rapidjson::StringBuffer>::PrettyWriter;
+
+    void Ready(std::string_view iJson, rapidjson::Type iType)
+    {
+        PrettyPrefix(iType);
+        std::memcpy(os_->Push(iJson.size()), iJson.data(), iJson.size());
+        EndValue(true);
+    }
+};
 
 /// What references need: the objects of the model, and numbers for those that something refers to.
 class Identifiers
@@ -99,24 +105,39 @@ public:
     std::string Write(const Container& iContainer, const std::vector<std::string>& iCatalogs);
 
 private:
+    /// A member, or an element whose key has no data.
+    struct Place
+    {
+        std::string_view key;
+        std::size_t index;
+    };
+
     /// One step of the place that is written, for errors.
     class Step
     {
     public:
-        Step(ModelWriter& ioWriter, std::string iStep) : m_steps(ioWriter.m_steps)
+        /// Under a key, which must outlive the step.
+        Step(ModelWriter& ioWriter, std::string_view iKey) : m_places(ioWriter.m_places)
         {
-            m_steps.push_back(std::move(iStep));
+            m_places.push_back({iKey, 0});
         }
-        ~Step() { m_steps.pop_back(); }
+        /// An element, counted from 0.
+        Step(ModelWriter& ioWriter, std::size_t iIndex) : m_places(ioWriter.m_places)
+        {
+            m_places.push_back({{}, iIndex});
+        }
+        ~Step() { m_places.pop_back(); }
         Step(const Step&) = delete;
         Step& operator=(const Step&) = delete;
 
     private:
-        std::vector<std::string>& m_steps;
+        std::vector<Place>& m_places;
     };
 
     [[noreturn]] void Fail(const std::string& iMessage) const;
     void WriteKey(std::string_view iKey);
+    /// The keys of a type's attributes as they stand in documents, empty for a name that cannot be saved.
+    const std::vector<std::string>& ReadyKeys(const FeatureType& iType);
     void WriteText(std::string_view iText);
     void WriteTextUnder(const char* iKey, std::string_view iText);
     void WriteReal(double iValue);
@@ -139,8 +160,9 @@ private:
     const std::string& m_file;
     Identifiers m_identifiers;
     rapidjson::StringBuffer m_buffer;
-    rapidjson::PrettyWriter<rapidjson::StringBuffer> m_writer;
-    std::vector<std::string> m_steps;
+    DocumentWriter m_writer;
+    std::vector<Place> m_places;
+    std::unordered_map<const FeatureType*, std::vector<std::string>> m_readyKeys;
 };
 
 std::string ModelWriter::Write(const Container& iContainer, const std::vector<std::string>& iCatalogs)
@@ -158,19 +180,20 @@ std::string ModelWriter::Write(const Container& iContainer, const std::vector<st
     const Step objects(*this, "objects");
     for (std::size_t i = 0; i < iContainer.Objects().size(); ++i)
     {
-        const Step place(*this, std::to_string(i));
+        const Step place(*this, i);
         WriteObject(*iContainer.Objects()[i], 0);
     }
     m_writer.EndArray();
     m_writer.EndObject();
-    return std::string(m_buffer.GetString(), m_buffer.GetSize()) + "\n";
+    m_buffer.Put('\n');
+    return std::string(m_buffer.GetString(), m_buffer.GetSize());
 }
 
 void ModelWriter::Fail(const std::string& iMessage) const
 {
     std::string path;
-    for (const std::string& step : m_steps)
-        path += "/" + step;
+    for (const Place& place : m_places)
+        path += "/" + (place.key.data() != nullptr ? std::string(place.key) : std::to_string(place.index));
     throw DocumentError(m_file, path, iMessage);
 }
 
@@ -179,6 +202,23 @@ void ModelWriter::WriteKey(std::string_view iKey)
     if (!IsUtf8(iKey))
         Fail("the name of an attribute is no UTF-8 and cannot be saved");
     m_writer.Key(iKey.data(), static_cast<rapidjson::SizeType>(iKey.size()));
+}
+
+const std::vector<std::string>& ModelWriter::ReadyKeys(const FeatureType& iType)
+{
+    const auto [place, isNew] = m_readyKeys.try_emplace(&iType);
+    if (!isNew)
+        return place->second;
+    for (const FeatureKey* key : iType.Keys())
+    {
+        rapidjson::StringBuffer text;
+        const std::string_view name = key->Name().View();
+        if (IsUtf8(name))
+            rapidjson::Writer<rapidjson::StringBuffer>(text).String(name.data(),
+                                                                    static_cast<rapidjson::SizeType>(name.size()));
+        place->second.emplace_back(text.GetString(), text.GetSize());
+    }
+    return place->second;
 }
 
 void ModelWriter::WriteText(std::string_view iText)
@@ -207,7 +247,7 @@ void ModelWriter::WriteReal(double iValue)
         *end++ = '.';
         *end++ = '0';
     }
-    m_writer.RawValue(text, static_cast<std::size_t>(end - text), rapidjson::kNumberType);
+    m_writer.Ready({text, static_cast<std::size_t>(end - text)}, rapidjson::kNumberType);
 }
 
 void ModelWriter::StartShortList()
@@ -307,12 +347,18 @@ void ModelWriter::WriteValues(const FeatureObject& iObject, std::size_t iDepth)
     WriteKey("values");
     const Step values(*this, "values");
     m_writer.StartObject();
-    for (const FeatureKey* key : iObject.Type().Keys())
+    const auto& keys = iObject.Type().Keys();
+    const std::vector<std::string>& readyKeys = ReadyKeys(iObject.Type());
+    for (std::size_t i = 0; i < keys.size(); ++i)
     {
+        const FeatureKey* key = keys[i];
         if (key->IsOptional())
             continue;
-        const Step place(*this, std::string(key->Name().View()));
-        WriteKey(key->Name().View());
+        const Step place(*this, key->Name().View());
+        if (readyKeys[i].empty())
+            WriteKey(key->Name().View());
+        else
+            m_writer.Ready(readyKeys[i], rapidjson::kStringType);
         WriteAttribute(iObject, *key, iDepth);
     }
     m_writer.EndObject();
@@ -340,7 +386,7 @@ void ModelWriter::WriteAdded(const FeatureObject& iObject, std::size_t iDepth)
 void ModelWriter::WriteAddedAttribute(const FeatureObject& iObject, const FeatureKey& iKey, int iFlag,
                                       std::size_t iDepth)
 {
-    const Step place(*this, std::string(iKey.Name().View()));
+    const Step place(*this, iKey.Name().View());
     WriteKey(iKey.Name().View());
     m_writer.StartObject();
     WriteTextUnder("kind", KindOfTypeCode(iKey.TypeCode()));
@@ -390,7 +436,7 @@ void ModelWriter::WriteObjectList(const FeatureObject& iObject, const FeatureKey
     m_writer.StartArray();
     for (std::size_t i = 0; i < entries.size(); ++i)
     {
-        const Step place(*this, std::to_string(i));
+        const Step place(*this, i);
         if (entries[i] == nullptr)
             m_writer.Null();
         else if (iKey.Owns() && written.insert(entries[i]).second)

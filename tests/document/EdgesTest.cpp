@@ -405,6 +405,23 @@ TEST_F(Edges, KeysThatStandTwice_AreRefusedEverywhere)
         EXPECT_EQ(CatalogError(row.catalog), std::string("c.json: ") + row.path + ": stands twice");
 }
 
+/// Objects of every size; the first key that stands behind itself is told, not the first by the alphabet.
+TEST_F(Edges, DoubledKeysAmongFewAndMany_AreToldInTheOrderOfTheDocument)
+{
+    for (const int others : {0, 1, 29, 30, 31, 60, 500})
+    {
+        std::string keys;
+        for (int i = 0; i < others; ++i)
+            keys += "\"m" + std::to_string((i * 7919) % 1000) + "\": {}, ";
+        const std::string object = R"({"type": "Part", "name": "P", "added": {)";
+        const std::string doubled = R"("z": {}, "a": {}, )" + keys + R"("z": {}, "a": {}, "a": {}}})";
+        EXPECT_EQ(ErrorOf(TestCatalog::Model(object + doubled)), "m.json: /objects/0/added/z: stands twice") << others;
+        const std::string single = R"("z": {}, "a": {}, )" + keys + R"("zz": {}}})";
+        EXPECT_EQ(ErrorOf(TestCatalog::Model(object + single)), "m.json: /objects/0/added/z/kind: is missing")
+            << others;
+    }
+}
+
 /// Bytes that are no UTF-8: lone and missing continuations, longer forms than needed, halves of surrogate pairs, and
 /// what lies beyond the last character.
 const std::vector<std::string> noUtf8 = {"\x80",
