@@ -149,9 +149,13 @@ std::string Formatted(const ut_unit* iUnit, unsigned iOptions)
                : std::string();
 }
 
-/// A unit's text does not begin as a number does, or "5 2 m" would be ten metres.
+/// A unit's text does not begin as a number does, or "5 2 m" would be ten metres. Nor does it stand between blanks, as
+/// the library would allow: what is read behind a number has none, and would be another unit.
 bool LooksLikeUnit(std::string_view iText)
 {
+    constexpr std::string_view blanks = " \t\n\v\f\r";
+    if (iText.find_first_of(blanks) == 0 || (!iText.empty() && iText.find_last_of(blanks) == iText.size() - 1))
+        return false;
     return iText.find_first_of("0123456789.+-") != 0 || iText.substr(0, 2) == "1/" || iText == "1";
 }
 } // namespace

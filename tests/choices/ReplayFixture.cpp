@@ -7,26 +7,6 @@
 
 namespace
 {
-constexpr const char* Files[] = {
-    "SolverConfigurations.json",
-    "SolverConfigurations_dxSlope.json",
-    "conditionsConfig_Flow.json",
-    "conditionsConfig_Energy.json",
-    "conditionsConfig_Turbulence.json",
-    "conditionsConfig_Species.json",
-    "conditionsConfig_Phase.json",
-    "solverConfig_Flow.json",
-    "solverConfig_Energy.json",
-    "solverConfig_Turbulence.json",
-    "solverConfig_MultiSpecies.json",
-    "measurementsConfig.json",
-    "solverConfig_Radiation.json",
-    "conditionsConfig_Radiation.json",
-    "conditionsConfig_ECooling.json",
-    "solverConfig_MultiPhase.json",
-    "meshFYEConfig.json",
-};
-
 std::string Content()
 {
     std::string text;
@@ -41,7 +21,7 @@ std::string Content()
                  { "path": "Data", "condition": "value==alpha", "config": "makeLabel" } ])"),
          })
         text += (text.empty() ? "" : ",\n") + configuration;
-    return R"({ "configurations": [)" + text + "] }";
+    return text;
 }
 
 /// Lives as long as the process, as what was loaded from it does.
@@ -49,9 +29,7 @@ const TemporaryFolder& Installation()
 {
     static const TemporaryFolder folder;
     static const bool isWritten = [] {
-        for (const char* name : Files)
-            folder.Write(std::string("reffiles/VYRCfdApp/") + name, "{}");
-        folder.Write("reffiles/VYRCfdApp/solverConfig_Flow.json", Content());
+        WriteInstallation(folder, Content());
         return true;
     }();
     static_cast<void>(isWritten);

@@ -27,27 +27,6 @@ constexpr const char* Types = R"({ "catalog": "FaultBench", "uses": ["VYRCfdBase
         { "name": "zones", "kind": "list", "of": "component" },
         { "name": "peers", "kind": "list", "of": "reference" } ] } ] })";
 
-/// Those of the application; of the two main files either may be read.
-constexpr const char* Files[] = {
-    "SolverConfigurations.json",
-    "SolverConfigurations_dxSlope.json",
-    "conditionsConfig_Flow.json",
-    "conditionsConfig_Energy.json",
-    "conditionsConfig_Turbulence.json",
-    "conditionsConfig_Species.json",
-    "conditionsConfig_Phase.json",
-    "solverConfig_Flow.json",
-    "solverConfig_Energy.json",
-    "solverConfig_Turbulence.json",
-    "solverConfig_MultiSpecies.json",
-    "measurementsConfig.json",
-    "solverConfig_Radiation.json",
-    "conditionsConfig_Radiation.json",
-    "conditionsConfig_ECooling.json",
-    "solverConfig_MultiPhase.json",
-    "meshFYEConfig.json",
-};
-
 std::string Content()
 {
     std::string text;
@@ -85,7 +64,7 @@ std::string Content()
                                              { "path": "Data", "condition": "value==alpha", "config": "none" } ])"),
          })
         text += (text.empty() ? "" : ",\n") + configuration;
-    return R"({ "configurations": [)" + text + "] }";
+    return text;
 }
 
 /// Lives as long as the process, as what is loaded from it does.
@@ -93,9 +72,7 @@ const TemporaryFolder& Installation()
 {
     static const TemporaryFolder folder;
     static const bool isWritten = [] {
-        for (const char* name : Files)
-            folder.Write(std::string("reffiles/VYRCfdApp/") + name, "{}");
-        folder.Write("reffiles/VYRCfdApp/solverConfig_Flow.json", Content());
+        WriteInstallation(folder, Content());
         return true;
     }();
     static_cast<void>(isWritten);

@@ -1,5 +1,6 @@
 #include "RandomTypes.h"
 
+#include "Configurations.h"
 #include "ORXFillDictionary.h"
 #include "ORXTie.h"
 #include "TemporaryFolder.h"
@@ -104,26 +105,6 @@ bool KeepsNothing(TestChoice& ioSelf)
     return !(display == "keep");
 }
 
-constexpr const char* Files[] = {
-    "SolverConfigurations.json",
-    "SolverConfigurations_dxSlope.json",
-    "conditionsConfig_Flow.json",
-    "conditionsConfig_Energy.json",
-    "conditionsConfig_Turbulence.json",
-    "conditionsConfig_Species.json",
-    "conditionsConfig_Phase.json",
-    "solverConfig_Flow.json",
-    "solverConfig_Energy.json",
-    "solverConfig_Turbulence.json",
-    "solverConfig_MultiSpecies.json",
-    "measurementsConfig.json",
-    "solverConfig_Radiation.json",
-    "conditionsConfig_Radiation.json",
-    "conditionsConfig_ECooling.json",
-    "solverConfig_MultiPhase.json",
-    "meshFYEConfig.json",
-};
-
 std::string Json(const RandomItem& iItem)
 {
     std::string text;
@@ -145,12 +126,10 @@ const TemporaryFolder& Installation()
 {
     static const TemporaryFolder folder;
     static const bool isWritten = [] {
-        for (const char* name : Files)
-            folder.Write(std::string("reffiles/VYRCfdApp/") + name, "{}");
         std::string text;
         for (const RandomConfiguration& configuration : RandomConfigurations())
             text += (text.empty() ? "" : ",\n") + Json(configuration);
-        folder.Write("reffiles/VYRCfdApp/solverConfig_Flow.json", R"({ "configurations": [)" + text + "] }");
+        WriteInstallation(folder, text);
         return true;
     }();
     static_cast<void>(isWritten);

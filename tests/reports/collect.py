@@ -164,9 +164,17 @@ class Sources:
         return self._callers(function.name.split("::")[-1], position, visited)
 
     def _constructed_with(self, function, visited):
-        """A class that keeps the name of its user: from wherever it is made."""
-        made = function.name.split("::")[0] + " walk"
-        return self._callers(made, 1, visited)
+        """A class that keeps the name of its user: from wherever it is made, as a variable or only for the moment."""
+        kept = function.name.split("::")[0]
+        found = set()
+        for maker, known in self.functions:
+            for match in re.finditer(r"(?<![\w:])" + re.escape(kept) + r"(?: \w+)?\(", maker.body):
+                parts, _ = arguments(maker.body, match.end())
+                if OWN_NAME in [part.strip() for part in parts]:
+                    found |= self._reporters(maker, OWN_NAME, known, visited)
+        if not found:
+            raise Unreadable(f"nobody makes a {kept}")
+        return found
 
     def _callers(self, called, position, visited):
         found = set()

@@ -15,6 +15,13 @@
 /// One configuration as a file holds it. @param iItems the array of its items, as JSON
 std::string Configuration(const std::string& iName, const std::string& iItems);
 
+/// The names of all files that the configurator of the process may read; of the two main files it reads one.
+const std::vector<std::string>& ConfigurationFiles();
+
+/// Writes all of them into an installation: that of the flow solver with the content, the others without any
+/// configuration. @param iContent configurations, with commas between them, see `Configuration`
+void WriteInstallation(const TemporaryFolder& iFolder, const std::string& iContent);
+
 /**
  * A configurator over an installation of one file, "test.json". The variable of the installation is set for as long as
  * it lives; one at a time.

@@ -36,11 +36,6 @@ Break Removed(const std::string& iFile)
     return [=](const TemporaryFolder& iFolder) { std::filesystem::remove(iFolder.Path(iFile)); };
 }
 
-Break Truncated(const std::string& iFile, std::size_t iBytes)
-{
-    return [=](const TemporaryFolder& iFolder) { iFolder.Write(iFile, iFolder.Read(iFile).substr(0, iBytes)); };
-}
-
 Break Replaced(const std::string& iFile, const std::string& iOld, const std::string& iNew)
 {
     return [=](const TemporaryFolder& iFolder) {
@@ -105,9 +100,10 @@ const BadInput Models[] = {
     {"Folder", Nothing(), {"show", "samples"}, 1, "samples: is a folder, not a file\n"},
     {"Unreadable", Unreadable(Model), ShowModel, 1, Model + ": cannot be read: Input/output error\n"},
     {"Empty", Written(Model, ""), ShowModel, 1, Model + ":1:1: The document is empty.\n"},
-    {"Truncated", Truncated(Model, 200), ShowModel, 1, Model + ":10:5: Missing a name for object member.\n"},
-    {"NoUtf8", Replaced(Model, "Wing solver", "Wing \xFF solver"), Apply, 1,
-     Model + ":8:22: Invalid encoding in string.\n"},
+    {"Truncated", Written(Model, "{\n    \"model\": 1,\n    "), ShowModel, 1,
+     Model + ":3:5: Missing a name for object member.\n"},
+    {"NoUtf8", Written(Model, "{\n    \"model\": 1,\n    \"catalogs\": [ \"Fl\xFFow\" ] }"), Apply, 1,
+     Model + ":3:22: Invalid encoding in string.\n"},
     {"ArrayInPlaceOfObject", Written(Model, "[]"), ShowModel, 1, Model + ": must be an object, not an array\n"},
     {"ObjectsOfWrongShape", Written(Model, R"({"model": 1, "catalogs": [], "objects": {}})"), ShowModel, 1,
      Model + ": /objects: must be an array, not an object\n"},
@@ -133,10 +129,11 @@ const BadInput Catalogs[] = {
      1,
      "nothing.catalog.json: cannot be opened: No such file or directory\n"},
     {"Unreadable", Unreadable(Catalog), ShowModel, 1, Catalog + ": cannot be read: Input/output error\n"},
-    {"Truncated", Truncated(Catalog, 300), ShowModel, 1,
-     Catalog + ":10:65: Missing a closing quotation mark in string.\n"},
-    {"NoUtf8", Replaced(Catalog, "SutherlandLaw", "Sutherland\xC3\x28"), ShowModel, 1,
-     Catalog + ":6:26: Invalid encoding in string.\n"},
+    {"Truncated", Written(Catalog, "{\n    \"catalog\": \"FlowCommon\",\n    \"types\": [ { \"name\": \"Flow"),
+     ShowModel, 1, Catalog + ":3:31: Missing a closing quotation mark in string.\n"},
+    {"NoUtf8",
+     Written(Catalog, "{\n    \"catalog\": \"FlowCommon\",\n    \"types\": [ { \"name\": \"Sutherland\xC3\x28\" } ] }"),
+     ShowModel, 1, Catalog + ":3:37: Invalid encoding in string.\n"},
     {"WrongShape", Replaced(Catalog, "\"kind\": \"real\"", "\"kind\": 7"), ShowModel, 1,
      Catalog + ": /types/0/attributes/0/kind: must be a text, not an integer\n"},
     {"UnknownKind", Replaced(Catalog, "\"kind\": \"real\"", "\"kind\": \"rael\""), ShowModel, 1,
@@ -144,18 +141,20 @@ const BadInput Catalogs[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Catalogs, BadInputs, testing::ValuesIn(Catalogs), NameOf);
 
+constexpr const char* CutShort = "{\n    \"configurations\": [ { \"name\": \"external";
+
 const BadInput ConfigurationFiles[] = {
     {"Missing", Removed(Configuration), Apply, 1,
      "reffiles/VYRCfdApp/solverConfig_Flow.json: no such file in the installation samples\n"},
     {"MissingInList", Removed(Configuration), List, 1,
      "reffiles/VYRCfdApp/solverConfig_Flow.json: no such file in the installation samples\n"},
     {"Unreadable", Unreadable(Configuration), Apply, 1, Configuration + ": cannot be read: Input/output error\n"},
-    {"Truncated", Truncated(Configuration, 100), ApplyAndSave, 1,
-     Configuration + ":6:22: Missing a closing quotation mark in string.\n"},
-    {"TruncatedInList", Truncated(Configuration, 100), List, 1,
-     Configuration + ":6:22: Missing a closing quotation mark in string.\n"},
-    {"NoUtf8", Replaced(Configuration, "freestreamAir", "freestream\xE4ir"), ApplyAndSave, 1,
-     Configuration + ":4:26: Invalid encoding in string.\n"},
+    {"Truncated", Written(Configuration, CutShort), ApplyAndSave, 1,
+     Configuration + ":2:44: Missing a closing quotation mark in string.\n"},
+    {"TruncatedInList", Written(Configuration, CutShort), List, 1,
+     Configuration + ":2:44: Missing a closing quotation mark in string.\n"},
+    {"NoUtf8", Written(Configuration, "{\n    \"configurations\": [ { \"name\": \"freestream\xE4ir\" } ] }"),
+     ApplyAndSave, 1, Configuration + ":2:46: Invalid encoding in string.\n"},
     {"ByteOrderMark", Written(Configuration, "\xEF\xBB\xBF{}"), Apply, 1,
      Configuration + ":1:1: A byte order mark has no place in JSON.\n"},
     {"NoObject", Written(Configuration, "[]"), Apply, 1, Configuration + ": must be an object, not an array\n"},
