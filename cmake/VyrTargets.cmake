@@ -37,9 +37,8 @@ function(vyr_library_defaults target)
     target_compile_options(${target} PRIVATE -fprofile-instr-generate -fcoverage-mapping)
     target_link_options(${target} PRIVATE -fprofile-instr-generate)
   endif()
-  # What a library calls of its own is its own, and may be inlined: nobody puts a function of another in its place.
+  # Within one source file a library's own functions may be inlined. Calls between files can still be stood in for.
   target_compile_options(${target} PRIVATE -fno-semantic-interposition)
-  target_link_options(${target} PRIVATE LINKER:-Bsymbolic-functions)
   # Under clang a sanitizer's runtime is linked into the executable only, so a library must leave its symbols open.
   if(NOT VYRCFD_SANITIZE)
     target_link_options(${target} PRIVATE LINKER:--no-undefined)

@@ -70,9 +70,9 @@ NESTED = '{"type": "VYRCfdChoice", "name": "n", "values": ' + '{"Data": {"type":
 
 # Name, text of the model, what the refusal says.
 MODELS = [
-    ("open brackets", lambda: "[" * 1000000, "Invalid value"),
-    ("open objects", lambda: '{"a":' * 300000, "Invalid value"),
-    ("nested components", lambda: raw_model(NESTED + "{}" + "}}" * 20000 + "}"), "more than 200 deep"),
+    ("open brackets", lambda: "[" * 1000000, "more than 1000 deep"),
+    ("open objects", lambda: '{"a":' * 300000, "more than 1000 deep"),
+    ("nested components", lambda: raw_model(NESTED + "{}" + "}}" * 20000 + "}"), "more than 1000 deep"),
     ("many objects", lambda: raw_model(",".join(['{"type":"VYRCfdValues","name":"n"}'] * 20000)), READ),
     ("one name for all", lambda: model(
         [{"type": "VYRCfdDefaultManagement", "name": "n", "values": {"configuration": [{"ref": "n"}]}}] * 5000),
@@ -118,7 +118,9 @@ CATALOGS = [
     ("many texts", lambda: catalog([{"name": "T", "attributes": [
         {"name": "e", "kind": "enumeration", "values": [f"t{i}" for i in range(50000)]}]}]), READ),
     ("a nested start-up", lambda: '{"catalog": "c", "types": [{"name": "T", "startup": %s}]}' % (
-        '{"a": ' * 20000 + "{}" + "}" * 20000), "more than 200 deep"),
+        '{"a": ' * 20000 + "{}" + "}" * 20000), "more than 1000 deep"),
+    ("a start-up nested a little", lambda: '{"catalog": "c", "types": [{"name": "T", "startup": %s}]}' % (
+        '{"a": ' * 900 + "{}" + "}" * 900), "more than 200 deep"),
 ]
 
 # Name, items of the configuration "c" (and others with it), what the refusal says.
