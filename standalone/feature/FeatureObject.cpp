@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 #include <typeinfo>
+#include <utility>
 
 #include "Census.h"
 #include "Container.h"
@@ -416,7 +417,11 @@ void FeatureObject::Tell(const FeatureKey& iKey, ORXIValue* iValue)
     // The listener may let the last other reference go, and may write the value again.
     const ORXISpecObject_var object = ORXISpecObject_var::Share(this);
     const ORXIValue_var value = ORXIValue_var::Share(iValue);
-    if (ORXTieRecord* const kept = m_extensions.FindKeptTie(IID_ORXIInstance))
+    ORXTieRecord* kept = m_extensions.FindKeptTie(IID_ORXIInstance);
+    // A library that came later may have registered another class.
+    if (kept != nullptr && kept->meta->Served() != entry->extensionClass)
+        KeptTie::Drop(*std::exchange(kept, nullptr));
+    if (kept != nullptr)
     {
         const KeptTie::Use use(*kept);
         Advise(static_cast<ORXIInstance&>(*kept->tie), iKey, value);

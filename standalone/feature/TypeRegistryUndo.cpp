@@ -62,14 +62,19 @@ void TypeRegistry::Undo::TakeBack() noexcept
     // All start-ups before any key, since they may have slots for the attributes of other types.
     for (const auto& [type, former] : m_formers)
         type->TakePrototypeBack(former.content);
+    // New types from the last one on, and those that stood already behind them: each looks through its keys for its
+    // own, and the first of them are those of its base.
     std::vector<FeatureType*>& types = m_registry.m_types;
     while (!types.empty() && m_formers.count(types.back()) != 0 && m_formers.at(types.back()).isNew)
     {
-        m_registry.m_byName.erase(types.back()->Name());
+        FeatureType& type = *types.back();
+        m_registry.m_byName.erase(type.Name());
+        type.TakeBack(m_formers.at(&type).content, false);
         types.pop_back();
     }
     for (auto& [type, former] : m_formers)
-        type->TakeBack(former.content, former.wasFrozen);
+        if (!former.isNew)
+            type->TakeBack(former.content, former.wasFrozen);
     for (const auto& [type, former] : m_formers)
         if (former.isNew)
             delete type;

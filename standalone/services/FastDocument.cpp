@@ -27,8 +27,27 @@ bool AreZeros(std::string_view iText, std::size_t iLast)
     return begin == 0 || iText[begin - 1] < '1' || iText[begin - 1] > '9';
 }
 
-/// Whether a zero with an exponent stands somewhere, in a number or as part of a text.
-bool HasZeroWithExponent(std::string_view iText)
+bool IsDigit(char iByte)
+{
+    return iByte >= '0' && iByte <= '9';
+}
+
+/// Whether so many digits stand around a place that a number of them may be too large, whatever its exponent.
+bool AreManyDigits(std::string_view iText, std::size_t iPlace)
+{
+    constexpr std::size_t Many = 300;
+    std::size_t begin = iPlace;
+    std::size_t end = iPlace;
+    while (begin > 0 && IsDigit(iText[begin - 1]))
+        --begin;
+    while (end < iText.size() && IsDigit(iText[end]))
+        ++end;
+    return end - begin >= Many;
+}
+
+/// Whether there may be a number that the two readers take differently: a zero with an exponent, or one of very many
+/// digits. It may be part of a text.
+bool HasDisputedNumber(std::string_view iText)
 {
     constexpr std::size_t Block = 256;
     constexpr unsigned LowerCase = 0x20;
@@ -37,6 +56,9 @@ bool HasZeroWithExponent(std::string_view iText)
     {
         const std::size_t end = std::min(start + Block, iText.size() - 1);
         const char* const text = iText.data();
+        // So many digits reach into the next block in any case.
+        if (IsDigit(text[start]) && AreManyDigits(iText, start))
+            return true;
         unsigned char found = 0;
         for (std::size_t i = start; i < end; ++i)
             found |= static_cast<unsigned char>((text[i] == '0') & ((text[i + 1] | LowerCase) == 'e'));
@@ -61,7 +83,7 @@ bool FindMember(const Place& iObject, std::string_view iKey, element& oValue)
 
 FastDocument::Verdict FastDocument::Parse(simdjson::dom::parser& ioParser, std::string_view iText, Place& oRoot)
 {
-    if (iText.substr(0, ByteOrderMark.size()) == ByteOrderMark || HasZeroWithExponent(iText))
+    if (iText.substr(0, ByteOrderMark.size()) == ByteOrderMark || HasDisputedNumber(iText))
         return Verdict::Undecided;
     // Never left to the parser, whose own limit of nesting is another one.
     const std::size_t room = std::max(LeastCapacity, std::bit_ceil(iText.size()));

@@ -15,7 +15,8 @@
  *   since later versions skip it), no zero byte, nothing behind the value,
  * - refuses what is no UTF-8, wherever it stands, halves of surrogate pairs, written as escapes, included,
  * - refuses a number that a double cannot hold for its size; of one that is too small for a double it makes 0, as
- *   StrictJson does. It takes 0e400, which StrictJson does not, so that files with such a zero are left to that,
+ *   StrictJson does. It takes 0e400, and 310 digits with e-100 behind them, which StrictJson does not, so that files
+ *   with such a zero, or with so many digits, are left to that,
  * - counts arrays and objects inside each other no less deep than StrictJson does,
  * - finds of a doubled key the first, and compares keys by all their bytes.
  */

@@ -23,15 +23,25 @@ struct Desk
 
     std::string text;
     simdjson::dom::parser parser;
+};
 
-    /// A large file's is given back.
-    void Clear()
+/// The reading of one file, at the end of which what a large one took is given back.
+class AtDesk
+{
+public:
+    explicit AtDesk(Desk& ioDesk) noexcept : m_desk(ioDesk) {}
+    ~AtDesk()
     {
-        if (text.capacity() > MostKept)
-            text = std::string();
-        if (parser.capacity() > MostKept)
-            parser = simdjson::dom::parser();
+        if (m_desk.text.capacity() > Desk::MostKept)
+            m_desk.text = std::string();
+        if (m_desk.parser.capacity() > Desk::MostKept)
+            m_desk.parser = simdjson::dom::parser();
     }
+    AtDesk(const AtDesk&) = delete;
+    AtDesk& operator=(const AtDesk&) = delete;
+
+private:
+    Desk& m_desk;
 };
 
 /// Null if the text is not valid or no object.
@@ -60,11 +70,11 @@ bool JIStream::ParseFile(const char* iPath, bool iReplace)
     if (Instruments::Active() && iPath != nullptr && Instruments::Fails("ParseFile", FileName(iPath), nullptr))
         return false;
     Desk& desk = PerThread<Desk>::Get();
+    const AtDesk reading(desk);
     if (iPath == nullptr || !ReadWholeFile(iPath, desk.text, FastDocument::Padding).empty())
         return false;
     Place root;
     std::shared_ptr<const Document> document = DocumentOf(desk, root);
-    desk.Clear();
     if (document == nullptr)
         return false;
     m_document = std::move(document);

@@ -160,6 +160,8 @@ bool ParseInPlace(std::string_view iText, rapidjson::Document& oDocument)
     if (!simdjson::validate_utf8(iText.data(), iText.size()))
         return false;
     auto* const copy = static_cast<char*>(oDocument.GetAllocator().Malloc(iText.size() + 1));
+    if (copy == nullptr)
+        return false;
     *std::copy(iText.begin(), iText.end(), copy) = '\0'; // ends the text
     bool isValid = false;
     const auto generate = [&](rapidjson::Document& oBuilt) {

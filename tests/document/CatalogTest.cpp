@@ -281,6 +281,28 @@ INSTANTIATE_TEST_SUITE_P(
                   ": /types/1/name: must be a text, not an integer"}),
     [](const testing::TestParamInfo<ErrorCase>& iInfo) { return std::string(iInfo.param.what); });
 
+/// A chain of types, each derived from the one before it, the last one with a default.
+std::string Chain(int iTypes, const std::string& iDefault)
+{
+    std::string types;
+    for (int i = 1; i <= iTypes; ++i)
+        types += std::string(i > 1 ? ", " : "") + "{\"name\": \"Chained" + std::to_string(i) + "\"" +
+                 (i > 1 ? ", \"base\": \"Chained" + std::to_string(i - 1) + "\"" : "") +
+                 ", \"attributes\": [{\"name\": \"a" + std::to_string(i) + "\", \"kind\": \"real\"" +
+                 (i == iTypes ? ", \"default\": " + iDefault : "") + "}]}";
+    return R"({"catalog": "Chain", "types": [)" + types + "]}";
+}
+
+TEST(Catalog, OfManyDerivedTypesThatIsRefusedAtItsEnd_CanBeDeclaredWhenItIsRight)
+{
+    constexpr int Types = 40;
+    EXPECT_EQ(ErrorOf(Chain(Types, "\"much\"")), "c.json: /types/39/attributes/0/default: no number: \"much\"");
+    EXPECT_EQ(ErrorOf(Chain(Types, "0.5")), "");
+    Model model;
+    const ORXISpecObject_var object = model.Create("Chained40", "C");
+    EXPECT_EQ(VYRStandalone::Attributes(object).size(), static_cast<std::size_t>(Types));
+}
+
 TEST(Catalog, DocumentError_HoldsItsParts)
 {
     try

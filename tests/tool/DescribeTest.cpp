@@ -43,7 +43,8 @@ const Description DescriptionCases[] = {
      {"gives a the default \"1\", and records it; a value that was set stays"}},
     {"AutomaticDefault",
      R"({"path": "a", "default": "1", "defaultAutoKey": "k"})",
-     {"gives a the default \"1\", automatic by \"k\", and records it; a value that was set stays"}},
+     {"gives a the default \"1\", automatic by \"k\", and records it; a value that was set stays the first time, and "
+      "gives way when this is applied again"}},
     {"Values", R"({"path": "a", "value": "b, c d", "list": true})", {"writes \"b\", \"cd\" to the list a"}},
     {"ValueWithoutList",
      R"({"path": "a", "value": "b", "default": "c"})",

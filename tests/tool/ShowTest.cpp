@@ -47,6 +47,22 @@ TEST_F(SmallTest, Show_GivesEachObjectOnce_RecordsWithTheirObject)
     EXPECT_EQ(Paths(Run({"show", Small, "--json"})), expected);
 }
 
+/// Asking for a default makes a custom one of a record; the second question must not be taken for the first.
+TEST_F(ToolTest, Show_OfAChoiceWithARecord_TellsTheRecordAsTheSourceOfItsValueEverywhere)
+{
+    const std::string saved = "applied.model.json";
+    ASSERT_EQ(Outcome(Run({"apply", External, "Solver.1", "externalFlow", "-o", saved})), Outcome(0, ""));
+    for (const char* const path : {"Solver.1/turbulence/model", "Solver.1"})
+    {
+        const std::string text = Run({"show", saved, path}).output;
+        EXPECT_NE(text.find("(record)"), std::string::npos) << text;
+        EXPECT_EQ(text.find("custom default"), std::string::npos) << text;
+        const std::string json = Run({"show", saved, path, "--json"}).output;
+        EXPECT_NE(json.find("\"source\": \"record\""), std::string::npos) << json;
+        EXPECT_EQ(json.find("custom default"), std::string::npos) << json;
+    }
+}
+
 struct Lead
 {
     const char* name;

@@ -32,10 +32,19 @@ std::string AttributeDefault::Shown() const
     return value.Shown() + " (" + OriginText(origin) + ")";
 }
 
-AskDefault AskDefaultManagement()
+AttributeDefault DefaultsOnce::Of(const ORXISpecObject_var& iObject, const AttributeSnapshot& iAttribute)
 {
-    return [](const ObjectSnapshot& iObject, const AttributeSnapshot& iAttribute) {
-        return DefaultOf(iObject.object, iAttribute);
+    const ORXBaseUnknown* const root = !iObject ? nullptr : iObject->GetImpl(0);
+    const auto [place, isNew] = m_known.try_emplace({root, iAttribute.info.name});
+    if (isNew)
+        place->second = DefaultOf(iObject, iAttribute);
+    return place->second;
+}
+
+AskDefault DefaultsOnce::Ask()
+{
+    return [this](const ObjectSnapshot& iObject, const AttributeSnapshot& iAttribute) {
+        return Of(iObject.object, iAttribute);
     };
 }
 

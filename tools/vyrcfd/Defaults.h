@@ -7,6 +7,9 @@
  */
 
 #include <functional>
+#include <map>
+#include <string>
+#include <utility>
 
 #include "Snapshot.h"
 
@@ -37,8 +40,18 @@ using AskDefault = std::function<AttributeDefault(const ObjectSnapshot&, const A
 /// nobody saves, and whose reports nobody reads.
 AttributeDefault DefaultOf(const ORXISpecObject_var& iObject, const AttributeSnapshot& iAttribute);
 
-/// Answers so for a model that nobody saves.
-AskDefault AskDefaultManagement();
+/// Answers so for a model that nobody saves, and asks for each default only once: the answer to a second question would
+/// name another origin.
+class DefaultsOnce
+{
+public:
+    AttributeDefault Of(const ORXISpecObject_var& iObject, const AttributeSnapshot& iAttribute);
+    /// The same as a function, valid as long as this object.
+    AskDefault Ask();
+
+private:
+    std::map<std::pair<const ORXBaseUnknown*, std::string>, AttributeDefault> m_known;
+};
 
 /**
  * "set" for an attribute that was set; otherwise what the value came from, if the value is what that gives: "custom

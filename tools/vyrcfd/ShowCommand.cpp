@@ -21,9 +21,8 @@ void WriteFlag(JsonWriter& oWriter, const char* iKey, const std::optional<bool>&
         oWriter.Null();
 }
 
-void WriteAttribute(JsonWriter& oWriter, const ORXISpecObject_var& iObject, const AttributeSnapshot& iAttribute)
+void WriteAttribute(JsonWriter& oWriter, const AttributeSnapshot& iAttribute, const AttributeDefault& iDefault)
 {
-    const AttributeDefault byDefault = DefaultOf(iObject, iAttribute);
     WriteKey(oWriter, iAttribute.info.name);
     oWriter.StartObject();
     WriteMember(oWriter, "kind", iAttribute.KindName());
@@ -32,13 +31,13 @@ void WriteAttribute(JsonWriter& oWriter, const ORXISpecObject_var& iObject, cons
     WriteFlag(oWriter, "set", iAttribute.set);
     WriteFlag(oWriter, "auto", iAttribute.automatic);
     WriteKey(oWriter, "default");
-    byDefault.value.Write(oWriter);
-    WriteMember(oWriter, "source", SourceText(iAttribute, byDefault));
+    iDefault.value.Write(oWriter);
+    WriteMember(oWriter, "source", SourceText(iAttribute, iDefault));
     oWriter.EndObject();
 }
 
-void WriteObject(JsonWriter& oWriter, const ORXISpecObject_var& iObject, const std::string& iPath,
-                 const std::string& iType, const std::vector<AttributeSnapshot>& iAttributes,
+void WriteObject(JsonWriter& oWriter, DefaultsOnce& ioDefaults, const ORXISpecObject_var& iObject,
+                 const std::string& iPath, const std::string& iType, const std::vector<AttributeSnapshot>& iAttributes,
                  const std::optional<ChoiceView>& iChoice = std::nullopt)
 {
     oWriter.StartObject();
@@ -47,7 +46,7 @@ void WriteObject(JsonWriter& oWriter, const ORXISpecObject_var& iObject, const s
     WriteKey(oWriter, "attributes");
     oWriter.StartObject();
     for (const AttributeSnapshot& attribute : iAttributes)
-        WriteAttribute(oWriter, iObject, attribute);
+        WriteAttribute(oWriter, attribute, ioDefaults.Of(iObject, attribute));
     oWriter.EndObject();
     if (iChoice)
     {
@@ -60,20 +59,21 @@ void WriteObject(JsonWriter& oWriter, const ORXISpecObject_var& iObject, const s
 /// Records stand behind their object, as objects at their place in its default management.
 std::string ShowJson(const Snapshot& iSnapshot)
 {
+    DefaultsOnce defaults;
     return JsonText([&](JsonWriter& oWriter) {
         oWriter.StartObject();
         WriteKey(oWriter, "objects");
         oWriter.StartArray();
         for (const ObjectSnapshot& object : iSnapshot)
         {
-            WriteObject(oWriter, object.object, object.path, object.type, object.attributes,
-                        ChoiceViewOf(object, AskDefaultManagement()));
+            WriteObject(oWriter, defaults, object.object, object.path, object.type, object.attributes,
+                        ChoiceViewOf(object, defaults.Ask()));
             if (!object.otherFlags.empty())
-                WriteObject(oWriter, {}, object.path + "/defaultManagement", "VYRCfdDefaultManagement",
+                WriteObject(oWriter, defaults, {}, object.path + "/defaultManagement", "VYRCfdDefaultManagement",
                             object.otherFlags);
             for (const RecordSnapshot& record : object.records)
                 if (!record.attributes.empty())
-                    WriteObject(oWriter, record.object, record.path, record.type, record.attributes);
+                    WriteObject(oWriter, defaults, record.object, record.path, record.type, record.attributes);
         }
         oWriter.EndArray();
         oWriter.EndObject();
@@ -98,7 +98,8 @@ void Show(const CommonOptions& iOptions, const ShowArguments& iArguments)
         const Target target = FollowPath(model, iArguments.model, iArguments.path);
         snapshot = TakeSnapshot(model, target.object, iArguments.path, target.attribute);
     }
-    Print(iOptions.json ? ShowJson(snapshot) : ShowText(snapshot, AskDefaultManagement()));
+    DefaultsOnce defaults;
+    Print(iOptions.json ? ShowJson(snapshot) : ShowText(snapshot, defaults.Ask()));
 }
 } // namespace
 

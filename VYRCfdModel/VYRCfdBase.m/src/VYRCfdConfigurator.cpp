@@ -1,5 +1,6 @@
 #include "VYRCfdConfigurator.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "ORXEnvironment.h"
@@ -93,9 +94,10 @@ HRESULT VYRCfdConfigurator::LoadConfigs()
 void VYRCfdConfigurator::Keep(const JSON::JIStream& iFile)
 {
     const std::vector<JSON::JIStream> configurations = iFile.ReadObjects("configurations");
-    // As if the files were of a size: a map that grows asks for the hash of each name again and again.
+    // As if the files were of a size, within reason: a map that grows asks for the hash of each name again and again.
+    constexpr std::size_t MostReserved = 65536;
     if (_configurations.empty())
-        _configurations.reserve(configurations.size() * _configFiles.size());
+        _configurations.reserve(std::min(configurations.size() * _configFiles.size(), MostReserved));
     for (const JSON::JIStream& configuration : configurations)
         _configurations.try_emplace(configuration.ReadString("name"), configuration.ReadObjects("config"));
 }

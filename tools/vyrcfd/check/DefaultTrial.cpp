@@ -151,7 +151,8 @@ DefaultTrial::Verdict DefaultTrial::TryOnAttribute(const Trial& iTrial, const st
     const Value later = Reopened(spManagement, iTrial.object, name, iText, info.type);
     if (now.IsUnset())
         return {false, FindingKind::DefaultInvalid, true,
-                what + "cannot take " + Quoted(iText) + " " + iTrial.Where() + ", and gets no default",
+                what + "cannot take " + Quoted(iText) + " " + iTrial.Where() +
+                    ", and is left without a default and a value",
                 info.type == tk_boolean ? std::vector<std::string>{"true", "false"} : info.values};
     if (info.type == tk_integer && !IsWholeInteger(iText))
         return {false,

@@ -70,7 +70,9 @@ Words DefaultWords(const SourceItem& iItem)
 {
     std::string text = "gives " + Attribute(iItem) + " the default " + QuotedText(iItem, "default");
     if (iItem.role == ItemRole::AutomaticDefault)
-        text += ", automatic by " + QuotedText(iItem, "defaultAutoKey");
+        return {
+            text + ", automatic by " + QuotedText(iItem, "defaultAutoKey") +
+            ", and records it; a value that was set stays the first time, and gives way when this is applied again"};
     return {text + ", and records it; a value that was set stays"};
 }
 
