@@ -57,6 +57,30 @@ TEST_F(Paths, SplitPath_CutsAtTheFirstSlash)
     }
 }
 
+/// In a text that is no UTF-8 a byte that continues a character belongs to the one before it, also to a slash.
+TEST_F(Paths, GetByPath_CutsWhereSplitPathDoes)
+{
+    for (const char* const path : {"peer/\x80/x", "\x80/peer", "/\x80", "peer/\x80", "peer//\x80/y", "no/\xC3\xA9",
+                                   "no\x80/peer", "peer/no/peer"})
+    {
+        VYRCfdObjectAccess expected = Cursor(m_part);
+        ORXUnicodeString left(path);
+        ORXUnicodeString head;
+        while (true)
+        {
+            ORXUnicodeString tail;
+            VYRCfdObjectAccess::SplitPath(left, head, tail);
+            if (head.IsEmpty())
+                break;
+            expected = expected.Get(head);
+            left = tail;
+        }
+        const VYRCfdObjectAccess walked = Cursor(m_part).GetByPath(path);
+        EXPECT_TRUE(walked == expected) << path;
+        EXPECT_EQ(walked.GetError(), expected.GetError()) << path;
+    }
+}
+
 TEST_F(Paths, AreWalkedByAllMeaningsOfAName)
 {
     EXPECT_TRUE(StandsAt(Part().GetByPath("title"), m_part, "title"));
