@@ -195,7 +195,9 @@ public:
 
     /**
      * Makes a list of objects equal to the wanted sequence by moves, inserts and removals, and leaves entries in place
-     * alone. A failure stops where it is; nothing is undone. In the order of the square of the length in comparisons.
+     * alone. A failure stops where it is; nothing is undone. Where the host tells identities (ORXIComponentIdentity)
+     * it costs time linear in entries and writes; elsewhere, and where an entry is empty, comparisons in the order of
+     * the square of the length.
      * @return S_FALSE when nothing had to be done
      */
     HRESULT SetList(const std::vector<VYRCfdObjectAccess>& iObjects) const;

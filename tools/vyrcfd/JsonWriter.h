@@ -6,6 +6,7 @@
  * The answers for machines: JSON, two blanks a level.
  */
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -31,6 +32,16 @@ inline void WriteMember(JsonWriter& oWriter, std::string_view iKey, std::string_
 {
     WriteKey(oWriter, iKey);
     WriteText(oWriter, iText);
+}
+
+/// A flag under a key; null where there is none.
+inline void WriteFlag(JsonWriter& oWriter, std::string_view iKey, const std::optional<bool>& iFlag)
+{
+    WriteKey(oWriter, iKey);
+    if (iFlag)
+        oWriter.Bool(*iFlag);
+    else
+        oWriter.Null();
 }
 
 /// Lets a function write one value, and gives the text with a line end.

@@ -12,15 +12,6 @@ namespace Tool
 {
 namespace
 {
-void WriteFlag(JsonWriter& oWriter, const char* iKey, const std::optional<bool>& iFlag)
-{
-    WriteKey(oWriter, iKey);
-    if (iFlag)
-        oWriter.Bool(*iFlag);
-    else
-        oWriter.Null();
-}
-
 void WriteAttribute(JsonWriter& oWriter, const AttributeSnapshot& iAttribute, const AttributeDefault& iDefault)
 {
     WriteKey(oWriter, iAttribute.info.name);

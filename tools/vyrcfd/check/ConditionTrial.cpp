@@ -1,10 +1,10 @@
 #include <algorithm>
-#include <charconv>
 
 #include "ItemTrial.h"
 #include "ScratchObjects.h"
 #include "VYRCfdUtilityMethods.h"
 #include "VYRStandaloneCatalog.h"
+#include "WholeNumber.h"
 #include "Wording.h"
 
 namespace Tool
@@ -36,17 +36,6 @@ Oddity OfBoolean(const ConditionText& iParts)
         return {};
     return {Quoted(iParts.path) + " is a boolean, and what stands behind it plays no part: the condition holds "
                                   "whenever it is true"};
-}
-
-/// Whether a number and nothing else stands there, blanks aside.
-template <class Number> bool IsWhole(const std::string& iText)
-{
-    const std::size_t first = std::min(iText.find_first_not_of(" \t"), iText.size());
-    const std::size_t last = iText.find_last_not_of(" \t") + 1;
-    const std::size_t digits = first + (first < last && iText[first] == '+' ? 1 : 0);
-    Number number{};
-    const auto read = std::from_chars(iText.data() + digits, iText.data() + std::max(last, digits), number);
-    return read.ec == std::errc() && read.ptr == iText.data() + last;
 }
 
 Oddity OfReal(const ConditionText& iParts)

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <charconv>
 
 #include "AttributeReader.h"
 #include "ItemTrial.h"
@@ -10,6 +9,7 @@
 #include "ScratchObjects.h"
 #include "VYRIMpaDefaultManagementProtected.h"
 #include "VYRStandaloneCatalog.h"
+#include "WholeNumber.h"
 #include "Wording.h"
 
 namespace Tool
@@ -44,19 +44,6 @@ std::string KindOf(const VYRStandalone::AttributeInfo& iInfo)
     default:
         return "an object";
     }
-}
-
-/// Whether the text is an integer and nothing else: the engine is content with one at its head.
-bool IsWholeInteger(const std::string& iText)
-{
-    const std::size_t first = iText.find_first_not_of(" \t");
-    if (first == std::string::npos)
-        return false;
-    const std::size_t last = iText.find_last_not_of(" \t") + 1;
-    const std::size_t digits = first + (iText[first] == '+' ? 1 : 0);
-    int number = 0;
-    const auto read = std::from_chars(iText.data() + digits, iText.data() + last, number);
-    return read.ec == std::errc() && read.ptr == iText.data() + last;
 }
 
 /// The record that a default leaves with the model, alone in the list of them.
@@ -154,7 +141,7 @@ DefaultTrial::Verdict DefaultTrial::TryOnAttribute(const Trial& iTrial, const st
                 what + "cannot take " + Quoted(iText) + " " + iTrial.Where() +
                     ", and is left without a default and a value",
                 info.type == tk_boolean ? std::vector<std::string>{"true", "false"} : info.values};
-    if (info.type == tk_integer && !IsWholeInteger(iText))
+    if (info.type == tk_integer && !IsWhole<int>(iText))
         return {false,
                 FindingKind::DefaultInvalid,
                 false,

@@ -7,15 +7,6 @@ namespace Tool
 {
 namespace
 {
-void WriteFlag(JsonWriter& oWriter, const char* iKey, const std::optional<bool>& iFlag)
-{
-    WriteKey(oWriter, iKey);
-    if (iFlag)
-        oWriter.Bool(*iFlag);
-    else
-        oWriter.Null();
-}
-
 void WriteState(JsonWriter& oWriter, const AttributeSnapshot& iAttribute)
 {
     WriteKey(oWriter, "value");
