@@ -77,20 +77,19 @@ void AddApplyCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
     AddCommonOptions(*command, ioOptions);
     command->footer(
         std::string(ObjectPathHelp) +
-        "\n\nThe exit status is that of this application: a nested configuration that fails stops nothing, "
-        "and its reports\nare notes on standard error. Nothing is written when the run failed.\n"
-        "What has changed on an object stands as \"old -> new\", with its flags; of an object that has come or gone, "
-        "as "
-        "the data\nobject of a Choice, all that it holds (+) or has held (-). Records that nothing refers to any more "
-        "are "
-        "taken away by\nvyrcfd purge. Colours are for terminals, and not where the variable NO_COLOR is set to "
-        "something.\n"
-        "With --json: {\"configuration\", \"object\", \"done\", \"objects\": [{\"path\", \"type\", \"change\", "
-        "\"oldType\",\n\"attributes\": {NAME: {\"kind\", \"before\", \"after\"}}, \"newRecords\", \"goneRecords\", "
-        "\"remadeRecords\"}],\n\"unreferencedRecords\", \"notes\", \"savedTo\"}; \"before\" and \"after\" are "
-        "{\"value\", \"set\", \"auto\"}, null where the "
-        "object has no such attribute.\n\"change\" is \"changed\", \"new\", \"gone\" or \"replaced\", and only "
-        "then there is \"oldType\". \"done\" is false for a configuration\nwithout items.");
+        "\n\nThe exit status is that of this application: a nested configuration that fails stops nothing, and its "
+        "reports are notes on standard error. Nothing is written when the run failed."
+        "\n\nWhat has changed on an object stands as \"old -> new\", with its flags; of an object that has come or "
+        "gone, as the data object of a Choice, all that it holds (+) or has held (-). Records that nothing refers to "
+        "any more are taken away by vyrcfd purge. Colours are for terminals, and not where the variable NO_COLOR is "
+        "set to something."
+        "\n\nWith --json: {\"configuration\", \"object\", \"done\", \"objects\": [{\"path\", \"type\", \"change\", "
+        "\"oldType\", \"attributes\": {NAME: {\"kind\", \"before\", \"after\"}}, \"newRecords\", \"goneRecords\", "
+        "\"remadeRecords\"}], \"unreferencedRecords\", \"notes\", \"savedTo\"}; \"before\" and \"after\" are "
+        "{\"value\", \"set\", \"auto\"}, null where the object has no such attribute. \"change\" is \"changed\", "
+        "\"new\", \"gone\" or \"replaced\", and only then there is \"oldType\". \"done\" is false for a "
+        "configuration without items."
+        "\n\nExample:\n    vyrcfd apply wing.model.json Solver.1 externalFlow -o wing.model.json");
     command->callback(
         [&ioOptions, &oJob, arguments] { oJob = [&ioOptions, arguments] { Apply(ioOptions, *arguments); }; });
 }

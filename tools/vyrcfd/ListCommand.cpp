@@ -77,11 +77,11 @@ void AddListCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
     CLI::App* command = ioApp.add_subcommand("list", "Lists the configurations, with the file and the line that each "
                                                      "comes from, in the order in which they are read");
     AddCommonOptions(*command, ioOptions);
-    command->footer("Of a name that is defined twice the first definition holds; the others are marked.\n"
-                    "With --json: {\"configurations\": [{\"name\", \"file\", \"line\", \"column\", \"items\", "
-                    "\"hiddenBy\",\n\"hiddenByLine\"}]}, where the last two tell the definition that holds, and are "
-                    "null for that one "
-                    "itself.");
+    command->footer(
+        "Of a name that is defined twice the first definition holds; the others are marked."
+        "\n\nWith --json: {\"configurations\": [{\"name\", \"file\", \"line\", \"column\", \"items\", \"hiddenBy\", "
+        "\"hiddenByLine\"}]}, where the last two tell the definition that holds, and are null for that one itself."
+        "\n\nExample:\n    vyrcfd --installation samples list");
     command->callback([&ioOptions, &oJob] {
         oJob = [&ioOptions] {
             const std::vector<ConfigurationFile> files = ReadConfigurationFiles(Installation(ioOptions));

@@ -11,9 +11,9 @@
 namespace Tool
 {
 const char ObjectPathHelp[] =
-    "A path begins with a top-level object, named by its display name, its name, its type or its position; of several\n"
-    "that answer the first is taken. What stands behind the first \"/\" is followed from there, as configurations\n"
-    "follow theirs: names of attributes, and in a list of objects any of the meanings above. A top-level object whose\n"
+    "A path begins with a top-level object, named by its display name, its name, its type or its position; of several "
+    "that answer the first is taken. What stands behind the first \"/\" is followed from there, as configurations "
+    "follow theirs: names of attributes, and in a list of objects any of the meanings above. A top-level object whose "
     "name holds a \"/\" cannot be reached by that name, but by its type or position.";
 
 namespace

@@ -102,18 +102,19 @@ void AddShowCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
     command->add_option("MODEL", arguments->model, "Model file (*.model.json)")->required();
     command->add_option("PATH", arguments->path, "Object or attribute; all objects where it is left out");
     AddCommonOptions(*command, ioOptions);
-    command->footer(std::string(ObjectPathHelp) +
-                    "\n\nNothing is changed. An attribute without value is (unset), which is something else than \"\"; "
-                    "an object attribute\nor list entry without object is (empty). A default stands with what it comes "
-                    "from: a custom default, a record\nthat a configuration has left, or the start-up of the feature "
-                    "type. Of a Choice the selected value is marked with \">\", and the feature type of the data "
-                    "object that\ncomes with a choice stands beside it.\n"
-                    "With --json: {\"objects\": [{\"path\", \"type\", \"attributes\": {NAME: {\"kind\", \"value\", "
-                    "\"set\", \"auto\",\n\"default\", \"source\"}}}]}, owners first; null for no value, no flag, no "
-                    "default. \"source\" says where the value\ncomes from: \"set\", \"custom default\", \"record\", "
-                    "\"start-up\", or \"none\" when none of these gives it. A Choice has a "
-                    "member\n\"choice\" beside \"attributes\": {\"value\", \"choices\", \"startups\", \"display\", "
-                    "\"default\", \"data\"}, where \"data\"\nis the path of its data object.");
+    command->footer(
+        std::string(ObjectPathHelp) +
+        "\n\nNothing is changed. An attribute without value is (unset), which is something else than \"\"; an object "
+        "attribute or list entry without object is (empty). A default stands with what it comes from: a custom "
+        "default, a record that a configuration has left, or the start-up of the feature type. Of a Choice the "
+        "selected value is marked with \">\", and the feature type of the data object that comes with a choice stands "
+        "beside it."
+        "\n\nWith --json: {\"objects\": [{\"path\", \"type\", \"attributes\": {NAME: {\"kind\", \"value\", \"set\", "
+        "\"auto\", \"default\", \"source\"}}}]}, owners first; null for no value, no flag, no default. \"source\" "
+        "says where the value comes from: \"set\", \"custom default\", \"record\", \"start-up\", or \"none\" when "
+        "none of these gives it. A Choice has a member \"choice\" beside \"attributes\": {\"value\", \"choices\", "
+        "\"startups\", \"display\", \"default\", \"data\"}, where \"data\" is the path of its data object."
+        "\n\nExample:\n    vyrcfd show wing.model.json Solver.1/turbulence");
     command->callback(
         [&ioOptions, &oJob, arguments] { oJob = [&ioOptions, arguments] { Show(ioOptions, *arguments); }; });
 }

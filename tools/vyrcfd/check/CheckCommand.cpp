@@ -128,19 +128,17 @@ void AddCheckCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
     AddCommonOptions(*command, ioOptions);
     command->footer(
         "One line a finding: FILE:LINE:COLUMN: SEVERITY: CONFIGURATION, ITEM: MESSAGE [KIND]. An error does not do "
-        "what\n"
-        "is written, a warning may not do what is meant, a note is worth knowing. The exit status is 1 if there are\n"
-        "errors, with --strict also if there are warnings.\n"
-        "A configuration is checked against the types that list it under \"configurations\" in a catalog, against "
-        "those\n"
-        "that the paths of others lead to, and otherwise against the types that most of its paths fit.\n"
-        "With --json: {\"findings\": [{\"kind\", \"severity\", \"file\", \"line\", \"column\", \"configuration\", "
-        "\"item\", \"key\",\n\"message\", \"suggestion\", \"related\": [{\"file\", \"line\"}]}]}; items count from 1. "
-        "The "
-        "place is that of the value of\n\"key\", of an unknown key itself. Kinds: unknown-key, wrong-kind, "
-        "does-nothing, ignored-key, duplicate-name,\nunknown-config, unused-config, cycle, bad-condition, "
-        "odd-condition, unequal-lists, blank-in-list,\ndefault-not-in-choices, default-invalid, "
-        "default-reopens-differently, path-nowhere, unknown-type.");
+        "what is written, a warning may not do what is meant, a note is worth knowing. The exit status is 1 if there "
+        "are errors, with --strict also if there are warnings."
+        "\n\nA configuration is checked against the types that list it under \"configurations\" in a catalog, against "
+        "those that the paths of others lead to, and otherwise against the types that most of its paths fit."
+        "\n\nWith --json: {\"findings\": [{\"kind\", \"severity\", \"file\", \"line\", \"column\", "
+        "\"configuration\", \"item\", \"key\", \"message\", \"suggestion\", \"related\": [{\"file\", \"line\"}]}]}; "
+        "items count from 1. The place is that of the value of \"key\", of an unknown key itself. Kinds: unknown-key, "
+        "wrong-kind, does-nothing, ignored-key, duplicate-name, unknown-config, unused-config, cycle, bad-condition, "
+        "odd-condition, unequal-lists, blank-in-list, default-not-in-choices, default-invalid, "
+        "default-reopens-differently, path-nowhere, unknown-type."
+        "\n\nExample:\n    vyrcfd --installation samples check --strict");
     command->callback(
         [&ioOptions, &oJob, arguments] { oJob = [&ioOptions, arguments] { Check(ioOptions, *arguments); }; });
 }

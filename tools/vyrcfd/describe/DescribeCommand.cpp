@@ -34,15 +34,13 @@ void AddDescribeCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
     AddCommonOptions(*command, ioOptions);
     command->footer(
         "Each configuration is unfolded once, where it is first applied. What is wrong in a configuration, vyrcfd "
-        "check "
-        "tells.\n"
-        "With --json: {\"name\", \"file\", \"line\", \"column\", \"items\": [{\"item\", \"file\", \"line\", "
-        "\"column\", "
-        "\"role\", \"path\", \"config\",\n\"condition\", \"words\", \"nested\", \"notNested\"}]}. \"role\" is "
-        "\"choice\", \"values\", \"automatic default\",\n\"custom default\", \"nested\", \"conditional\" or "
-        "\"nothing\". "
-        "Only with --nested, \"nested\" is the configuration that the\nitem applies, and \"notNested\" stands in its "
-        "place: \"told before\", \"circle\" or \"too deep\".");
+        "check tells."
+        "\n\nWith --json: {\"name\", \"file\", \"line\", \"column\", \"items\": [{\"item\", \"file\", \"line\", "
+        "\"column\", \"role\", \"path\", \"config\", \"condition\", \"words\", \"nested\", \"notNested\"}]}. "
+        "\"role\" is \"choice\", \"values\", \"automatic default\", \"custom default\", \"nested\", "
+        "\"conditional\" or \"nothing\". Only with --nested, \"nested\" is the configuration that the item applies, "
+        "and \"notNested\" stands in its place: \"told before\", \"circle\" or \"too deep\"."
+        "\n\nExample:\n    vyrcfd --installation samples describe wallEnergy --nested");
     command->callback(
         [&ioOptions, &oJob, arguments] { oJob = [&ioOptions, arguments] { Describe(ioOptions, *arguments); }; });
 }

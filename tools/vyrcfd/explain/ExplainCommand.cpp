@@ -64,19 +64,21 @@ void AddExplainCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
     command->footer(
         std::string(ObjectPathHelp) +
         "\n\nNothing is changed. The default of an attribute is looked up on a ladder, from the top: a custom default, "
-        "which lives\nin memory only, so that a model in a file has none; the first record about the attribute that a "
-        "configuration has\nleft; the start-up of the feature type. Each rung is told, with \">\" at the one that "
-        "counts. Records do not name\ntheir configuration: every item is told that leaves such a record, by its "
-        "configuration, its number, and its place.\nWhat `unset` would do was tried on a copy.\n"
-        "With --json: {\"path\", \"object\", \"attribute\", \"kind\", \"value\", \"set\", \"auto\", \"source\", "
-        "\"ladder\": {\"customDefault\",\n\"records\": [{\"position\", the texts of the record, \"value\", \"items\": "
-        "[{\"configuration\", \"item\", \"file\", \"line\",\n\"column\"}]}], \"prototype\": {\"path\", \"value\", "
-        "\"declaredBy\", \"declarations\": [{\"catalog\", \"type\", \"file\", \"line\", \"column\"}],\n\"values\": the "
-        "same of "
-        "the "
-        "places that give the value, of which the last counts}}, \"winner\", \"afterUnset\":\n{\"value\", \"set\", "
-        "\"auto\"}}; \"winner\" is \"record\", \"start-up\" or \"none\". \"ladder\" and \"afterUnset\" are null for an "
-        "object\nwithout default management, and \"customDefault\" always is.");
+        "which lives in memory only, so that a model in a file has none; the first record about the attribute that a "
+        "configuration has left; the start-up of the feature type. Each rung is told, with \">\" at the one that "
+        "counts. Records do not name their configuration: every item is told that leaves such a record, by its "
+        "configuration, its number, and its place. What `unset` would do was tried on a copy."
+        "\n\nA path that begins with a type in brackets, as [FlowSolver]/relaxation, is one of that type's prototype: "
+        "the object that keeps the start-up values which a catalog gives the type."
+        "\n\nWith --json: {\"path\", \"object\", \"attribute\", \"kind\", \"value\", \"set\", \"auto\", \"source\", "
+        "\"ladder\": {\"customDefault\", \"records\": [{\"position\", the texts of the record, \"value\", \"items\": "
+        "[{\"configuration\", \"item\", \"file\", \"line\", \"column\"}]}], \"prototype\": {\"path\", \"value\", "
+        "\"declaredBy\", \"declarations\": [{\"catalog\", \"type\", \"file\", \"line\", \"column\"}], "
+        "\"values\": the same of the places that give the value, of which the last counts}}, \"winner\", "
+        "\"afterUnset\": {\"value\", \"set\", \"auto\"}}; \"winner\" is \"record\", \"start-up\" or \"none\". "
+        "\"ladder\" and \"afterUnset\" are null for an object without default management, and \"customDefault\" "
+        "always is."
+        "\n\nExample:\n    vyrcfd explain wing.model.json Solver.1/freestream/freestreamMach");
     command->callback(
         [&ioOptions, &oJob, arguments] { oJob = [&ioOptions, arguments] { Explain(ioOptions, *arguments); }; });
 }

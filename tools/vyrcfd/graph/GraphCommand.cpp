@@ -74,11 +74,12 @@ void AddGraphCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
     AddCommonOptions(*command, ioOptions);
     command->footer(
         "Configurations of one file stand in one box. A dashed line is a reference on the condition that it bears; "
-        "pointing at\na line or a box in the SVG tells the items and the places. In red: references in a circle, and "
-        "names that no\nconfiguration has.\n"
-        "With --json: {\"configurations\": [{\"name\", \"file\", \"line\"}], \"references\": [{\"from\", \"to\", "
-        "\"item\", \"line\", \"path\",\n\"condition\", \"inCircle\"}]}; \"file\" and \"line\" are null for a name that "
-        "no configuration has, \"condition\" where there is\nnone.");
+        "pointing at a line or a box in the SVG tells the items and the places. In red: references in a circle, and "
+        "names that no configuration has."
+        "\n\nWith --json: {\"configurations\": [{\"name\", \"file\", \"line\"}], \"references\": [{\"from\", "
+        "\"to\", \"item\", \"line\", \"path\", \"condition\", \"inCircle\"}]}; \"file\" and \"line\" are null for "
+        "a name that no configuration has, \"condition\" where there is none."
+        "\n\nExample:\n    vyrcfd --installation samples graph wall -o wall.svg");
     command->callback([&ioOptions, &oJob, arguments, name] {
         arguments->isNamed = name->count() != 0;
         if (ioOptions.json && (arguments->isSvg || !arguments->output.empty()))

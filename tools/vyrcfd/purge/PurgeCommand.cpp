@@ -139,11 +139,12 @@ void AddPurgeCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
         ->check([](const std::string& iFile) { return iFile.empty() ? "names no file" : std::string(); }, "");
     AddCommonOptions(*command, ioOptions);
     command->footer(
-        "Each application of a configuration leaves the records behind that it has replaced. A record that anything in "
-        "the\nmodel refers to stays, and so does every byte of the file that does not belong to a removed record.\n"
-        "With --json: {\"model\", \"unreferenced\": [{\"position\", \"object\", and the texts of the record}], "
-        "\"referenced\", \"savedTo\"};\n\"position\" counts the top-level objects from 1, \"referenced\" the records "
-        "that stay, and \"savedTo\" is null where\nnothing was written.");
+        "Each application of a configuration leaves the records behind that it has replaced. A record that anything "
+        "in the model refers to stays, and so does every byte of the file that does not belong to a removed record."
+        "\n\nWith --json: {\"model\", \"unreferenced\": [{\"position\", \"object\", and the texts of the record}], "
+        "\"referenced\", \"savedTo\"}; \"position\" counts the top-level objects from 1, \"referenced\" the records "
+        "that stay, and \"savedTo\" is null where nothing was written."
+        "\n\nExample:\n    vyrcfd purge wing.model.json --yes");
     command->callback(
         [&ioOptions, &oJob, arguments] { oJob = [&ioOptions, arguments] { RunPurge(ioOptions, *arguments); }; });
 }

@@ -52,12 +52,14 @@ void AddShellCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
         "Commands, one a line:\n" + CommandTable() +
         "\nA word in double quotes may hold blanks; inside, \\\" is a quotation mark and \\\\ a backslash. Where a "
         "word "
-        "would\nbegin, # begins a comment. What a command changes in the model is shown as apply shows it; nothing is "
-        "written but\nby save.\n\nIn a script the first command that fails ends the session with exit status 1, and "
-        "what "
-        "was not saved is lost;\nstandard error tells its line, and below it what the module has reported. On a "
-        "terminal the session goes on.\nReports of a command that succeeds are notes.\n\n" +
-        std::string(ObjectPathHelp) + "\nThe path of an attribute ends in the attribute's name.");
+        "would begin, # begins a comment. What a command changes in the model is shown as apply shows it; nothing is "
+        "written but by save."
+        "\n\nIn a script the first command that fails ends the session with exit status 1, and what was not saved is "
+        "lost; standard error tells its line, and below it what the module has reported. On a terminal the session "
+        "goes on. Reports of a command that succeeds are notes.\n\n" +
+        std::string(ObjectPathHelp) +
+        " The path of an attribute ends in the attribute's name."
+        "\n\nExample:\n    echo 'get Solver.1/iterations' | vyrcfd shell wing.model.json");
     command->callback([&ioOptions, &oJob, model] {
         if (ioOptions.json)
             throw CLI::ValidationError("--json", "the shell does not answer in JSON");
