@@ -1,13 +1,33 @@
 # What can be chosen at configure time, and what holds for every translation unit of the tree. The presets set these.
 
-option(VYRCFD_BUILD_TOOLS "Build the command-line tool; needs CLI11 and GNU readline" ON)
-option(VYRCFD_BUILD_TESTS "Build the tests; needs GoogleTest and Python 3" ${PROJECT_IS_TOP_LEVEL})
-option(VYRCFD_BUILD_BENCH "Build the benchmark; needs Google Benchmark, and takes the peers that are installed" OFF)
+option(BUILD_SHARED_LIBS "Build the libraries shared; they are static otherwise" ON)
+set(VYRCFD_HOST_LIBRARIES "" CACHE STRING
+  "Libraries of another host, targets or files: VYRCfdBase is linked with them, and nothing that needs the stand-alone host is built")
+set(VYRCFD_HOST_INCLUDE_DIRS "" CACHE STRING "Folders with that host's headers, which take the place of host/")
+set(VYRCFD_HAS_STANDALONE_HOST ON)
+if(VYRCFD_HOST_LIBRARIES)
+  set(VYRCFD_HAS_STANDALONE_HOST OFF)
+elseif(VYRCFD_HOST_INCLUDE_DIRS)
+  message(FATAL_ERROR "VYRCFD_HOST_INCLUDE_DIRS names another host's headers; its libraries belong in VYRCFD_HOST_LIBRARIES")
+endif()
+
+# These run on the stand-alone host.
+include(CMakeDependentOption)
+cmake_dependent_option(VYRCFD_BUILD_TOOLS "Build the command-line tool; needs CLI11 and GNU readline" ON
+  VYRCFD_HAS_STANDALONE_HOST OFF)
+cmake_dependent_option(VYRCFD_BUILD_TESTS "Build the tests; needs GoogleTest and Python 3" ${PROJECT_IS_TOP_LEVEL}
+  VYRCFD_HAS_STANDALONE_HOST OFF)
+cmake_dependent_option(VYRCFD_BUILD_BENCH
+  "Build the benchmark; needs Google Benchmark, and takes the peers that are installed" OFF
+  VYRCFD_HAS_STANDALONE_HOST OFF)
 option(VYRCFD_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 set(VYRCFD_SANITIZE "" CACHE STRING "Sanitizers for the whole tree, as -fsanitize= takes them; clang")
 option(VYRCFD_COVERAGE "Measure which lines and branches of the two libraries run; clang" OFF)
-set(VYRCFD_HOST VYRStandaloneHost CACHE STRING
-  "The host that VYRCfdBase is linked with: a target of this tree, or the path of a shared library")
+
+# Where the sample installation is installed, which the tool has to know.
+include(GNUInstallDirs)
+set(VYRCFD_INSTALL_DATA "${CMAKE_INSTALL_DATADIR}/VYRCfdBase")
+set(VYRCFD_INSTALL_SAMPLES "${VYRCFD_INSTALL_DATA}/samples")
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)

@@ -27,12 +27,17 @@ endfunction()
 
 # vyr_library_defaults(<target>)
 #
-# For the shared libraries: only what carries the export macro is visible, and nothing is left for the loader to find.
+# For the libraries: only what carries the export macro is visible, and nothing is left for the loader to find. Static
+# ones too can become part of a shared library.
 function(vyr_library_defaults target)
   set_target_properties(${target} PROPERTIES
     CXX_VISIBILITY_PRESET hidden
-    VISIBILITY_INLINES_HIDDEN ON)
-  target_link_libraries(${target} PRIVATE vyr_warnings)
+    VISIBILITY_INLINES_HIDDEN ON
+    POSITION_INDEPENDENT_CODE ON
+    VERSION ${PROJECT_VERSION}
+    # Before 1.0.0 each minor version may break what is linked with it.
+    SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+  target_link_libraries(${target} PRIVATE "$<BUILD_INTERFACE:vyr_warnings>")
   if(VYRCFD_COVERAGE)
     target_compile_options(${target} PRIVATE -fprofile-instr-generate -fcoverage-mapping)
     target_link_options(${target} PRIVATE -fprofile-instr-generate)
