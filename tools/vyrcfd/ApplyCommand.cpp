@@ -7,7 +7,10 @@
 #include "Failure.h"
 #include "ObjectPath.h"
 #include "Output.h"
+#include "Progress.h"
 #include "Reports.h"
+#include "Uninterrupted.h"
+#include "Wording.h"
 
 namespace Tool
 {
@@ -24,6 +27,7 @@ struct ApplyArguments
 /// What a failure leaves with the error service goes with it.
 bool ConfigureOrTell(const ORXISpecObject_var& iObject, const Configuring& iConfiguring)
 {
+    const Progress progress("Applying " + OneLine(iConfiguring.configuration));
     try
     {
         return Configure(iObject, iConfiguring);
@@ -53,7 +57,10 @@ void Apply(const CommonOptions& iOptions, const ApplyArguments& iArguments)
     const Difference difference = Compare(before, after);
     // First of all, so that nobody reads of changes that could not be saved.
     if (!iArguments.output.empty())
+    {
+        const Uninterrupted save(iArguments.output);
         model.Save(iArguments.output);
+    }
     for (const std::string& report : reports)
         PrintError("note: " + report);
     const Application application{iArguments.configuration, iArguments.object, isDone, iArguments.output, reports};

@@ -4,12 +4,15 @@
 /**
  * @file
  * The commands. Each declares itself to the command line, and leaves its work to be done when it was chosen.
+ * From what they declare are made the help, the manual page and the completion of shells, so arguments are called what
+ * they stand for: MODEL, CATALOG, CONFIG, OBJECT, PATH, FILE, DIR. A footer is paragraphs, and ends with an example.
  */
 
 #include <functional>
 
 #include <CLI/CLI.hpp>
 
+#include "CommandLine.h"
 #include "Installation.h"
 
 namespace Tool
@@ -30,6 +33,7 @@ void AddDescribeCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
 void AddGraphCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
 void AddPurgeCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
 void AddShellCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
+void AddInterfaceCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
 } // namespace Tool
 
 #endif

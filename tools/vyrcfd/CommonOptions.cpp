@@ -4,7 +4,7 @@ namespace Tool
 {
 void AddCommonOptions(CLI::App& ioApp, CommonOptions& ioOptions)
 {
-    const char* group = "Common options";
+    const char* const group = CommonOptionGroup;
     ioApp
         .add_option("--installation", ioOptions.installation,
                     "Folder of the installation; otherwise that of the variable ORXInstallPath, else the sample")

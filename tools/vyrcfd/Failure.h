@@ -23,6 +23,13 @@ class OutputFailure : public Failure
 public:
     using Failure::Failure;
 };
+
+/// The pipe that standard output is has lost its reader, who has seen enough.
+class BrokenPipe : public OutputFailure
+{
+public:
+    using OutputFailure::OutputFailure;
+};
 } // namespace Tool
 
 #endif

@@ -6,6 +6,7 @@
 #include "ChoiceManager.h"
 #include "Failure.h"
 #include "ORXEnvironment.h"
+#include "Progress.h"
 #include "VYRStandaloneCatalog.h"
 #include "VYRStandaloneServices.h"
 #include "Wording.h"
@@ -17,12 +18,24 @@ namespace
 constexpr char PathVariable[] = "ORXInstallPath";
 constexpr char PathSeparator = ':';
 
+/// The sample installation as it lies from the program, so that both may be moved: where they are installed, else where
+/// the program was built.
+std::string SamplePath()
+{
+    std::error_code none;
+    const std::filesystem::path folder = std::filesystem::read_symlink("/proc/self/exe", none).parent_path();
+    const std::filesystem::path installed = (folder / VYR_SAMPLES_FROM_INSTALLED).lexically_normal();
+    const std::filesystem::path built = (folder / VYR_SAMPLES_FROM_BUILT).lexically_normal();
+    const bool isBuilt = !std::filesystem::is_directory(installed, none) && std::filesystem::is_directory(built, none);
+    return (isBuilt ? built : installed).string();
+}
+
 std::string ChosenPath(const CommonOptions& iOptions)
 {
     if (!iOptions.installation.empty())
         return iOptions.installation;
     const char* path = ORXGetOfficialVariable(PathVariable);
-    return path != nullptr && *path != '\0' ? path : VYR_SAMPLES_DIR;
+    return path != nullptr && *path != '\0' ? path : SamplePath();
 }
 } // namespace
 
@@ -36,13 +49,17 @@ Installation::Installation(const CommonOptions& iOptions) : m_path(ChosenPath(iO
         std::error_code ignored;
         if (!std::filesystem::is_directory(folder, ignored))
             throw Failure(OneLine(folder) + ": is no folder, so there is no installation");
+        m_folders.push_back(folder);
         m_catalogFolders.push_back((std::filesystem::path(folder) / "catalogs").string());
     }
+    if (m_folders.empty())
+        throw Failure(Quoted(m_path) + " names no folder, so there is no installation");
     VYRStandalone::SetOfficialVariable(PathVariable, m_path);
 }
 
 VYRStandalone::Model Installation::LoadModel(const std::string& iFile) const
 {
+    const Progress progress("Loading " + OneLine(iFile));
     for (const std::string& catalog : m_catalogs)
         VYRStandalone::LoadCatalog(catalog, m_catalogFolders);
     VYRStandalone::Model model = VYRStandalone::Model::Load(iFile, m_catalogFolders);

@@ -33,6 +33,8 @@ public:
     explicit Installation(const CommonOptions& iOptions);
 
     const std::string& Path() const noexcept { return m_path; }
+    /// At least one, in their order.
+    const std::vector<std::string>& Folders() const noexcept { return m_folders; }
 
     /// The catalogs of the options are declared, and those that the model names are sought beside it and in the
     /// installation. Types that ask for a manager of Choices get the tool's. @throws VYRStandalone::DocumentError
@@ -45,6 +47,7 @@ public:
 
 private:
     std::string m_path;
+    std::vector<std::string> m_folders;
     std::vector<std::string> m_catalogs;
     std::vector<std::string> m_catalogFolders;
 };

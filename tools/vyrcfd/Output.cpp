@@ -13,8 +13,13 @@ namespace Tool
 void Print(const std::string& iText)
 {
     errno = 0;
-    if (std::fwrite(iText.data(), 1, iText.size(), stdout) != iText.size() || std::fflush(stdout) != 0)
-        throw OutputFailure("vyrcfd: standard output: cannot be written: " + std::generic_category().message(errno));
+    if (std::fwrite(iText.data(), 1, iText.size(), stdout) == iText.size() && std::fflush(stdout) == 0)
+        return;
+    const int error = errno;
+    const std::string message = "vyrcfd: standard output: cannot be written: " + std::generic_category().message(error);
+    if (error == EPIPE)
+        throw BrokenPipe(message);
+    throw OutputFailure(message);
 }
 
 void PrintError(const std::string& iLine)

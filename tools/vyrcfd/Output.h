@@ -10,8 +10,9 @@
 
 namespace Tool
 {
-/// Writes the whole answer of a command to standard output. @throws OutputFailure when it cannot be written, as on a
-/// full disk or into a pipe that nobody reads
+/// Writes the whole answer of a command to standard output.
+/// @throws BrokenPipe into a pipe that nobody reads
+/// @throws OutputFailure when it cannot be written otherwise, as on a full disk
 void Print(const std::string& iText);
 
 /// Writes a line to standard error.

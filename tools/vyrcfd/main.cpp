@@ -5,10 +5,13 @@
 
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
+#include <memory>
 #include <sstream>
 
 #include "Command.h"
 #include "Failure.h"
+#include "HelpText.h"
 #include "Output.h"
 #include "VYRStandaloneErrors.h"
 #include "VYRStandaloneServices.h"
@@ -37,12 +40,21 @@ std::string Correction(const CLI::App& iApp, const CLI::ParseError& iError)
     {
         std::vector<std::string> known;
         for (const CLI::App* command : iApp.get_subcommands({}))
-            known.push_back(command->get_name());
+            if (!command->get_group().empty())
+                known.push_back(command->get_name());
         line = "no command " + Quoted(strange.front()) + DidYouMean(strange.front(), known);
     }
     else if (dynamic_cast<const CLI::RequiredError*>(&iError) != nullptr)
         line = "no command";
     return line + "; see vyrcfd --help";
+}
+
+/// Ends as a program does that the end of its pipe takes by surprise: without a word, and with a status that tells it.
+[[noreturn]] void EndAsBrokenPipe()
+{
+    std::signal(SIGPIPE, SIG_DFL);
+    std::raise(SIGPIPE);
+    std::_Exit(JobFailed); // where somebody keeps the signal back
 }
 
 ExitStatus Run(const Tool::Job& iJob)
@@ -51,6 +63,10 @@ ExitStatus Run(const Tool::Job& iJob)
     {
         iJob();
         return Success;
+    }
+    catch (const Tool::BrokenPipe&)
+    {
+        EndAsBrokenPipe();
     }
     catch (const Tool::Failure& failure)
     {
@@ -74,8 +90,12 @@ ExitStatus RunCommandLine(int argc, const char* const* argv)
     VYRStandalone::RedirectTraces([](const std::string& iText) { std::fputs(iText.c_str(), stderr); });
 
     CLI::App app("Tries configurations of flow simulation out on models, without the application.", "vyrcfd");
+    app.formatter(std::make_shared<Tool::HelpFormatter>());
+    app.set_help_flag("-h,--help", "Show this help");
+    app.set_version_flag("--version", "vyrcfd " VYRCFD_VERSION, "Show the version");
     app.require_subcommand(1);
-    app.footer("Exit status: 0 success, 1 the job failed, 2 wrong use. `vyrcfd COMMAND --help` tells more.");
+    app.footer("Exit status: 0 success, 1 the job failed, 2 wrong use. `vyrcfd COMMAND --help` tells more.\n\n"
+               "Example:\n    vyrcfd --installation samples list");
     Tool::CommonOptions options;
     Tool::Job job;
     Tool::AddCommonOptions(app, options);
@@ -88,6 +108,7 @@ ExitStatus RunCommandLine(int argc, const char* const* argv)
     Tool::AddGraphCommand(app, options, job);
     Tool::AddPurgeCommand(app, options, job);
     Tool::AddShellCommand(app, options, job);
+    Tool::AddInterfaceCommand(app, options, job);
 
     try
     {

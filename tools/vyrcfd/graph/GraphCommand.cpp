@@ -7,6 +7,7 @@
 #include "Graphviz.h"
 #include "KnownConfiguration.h"
 #include "Output.h"
+#include "Uninterrupted.h"
 #include "VYRStandaloneServices.h"
 #include "Wording.h"
 
@@ -51,9 +52,12 @@ void RunGraph(const CommonOptions& iOptions, const GraphArguments& iArguments)
     if (iArguments.isSvg || ExtensionOf(iArguments.output) == ".svg")
         text = DrawSvg(text);
     if (iArguments.output.empty())
+    {
         Print(text);
-    else
-        VYRStandalone::SaveText(iArguments.output, text);
+        return;
+    }
+    const Uninterrupted save(iArguments.output);
+    VYRStandalone::SaveText(iArguments.output, text);
 }
 } // namespace
 

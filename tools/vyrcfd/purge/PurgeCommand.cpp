@@ -7,6 +7,7 @@
 #include "JsonWriter.h"
 #include "ModelText.h"
 #include "Output.h"
+#include "Uninterrupted.h"
 #include "UnreferencedRecords.h"
 #include "VYRStandaloneServices.h"
 #include "Wording.h"
@@ -120,7 +121,9 @@ void RunPurge(const CommonOptions& iOptions, const PurgeArguments& iArguments)
     if (iArguments.isMeant && (!records.empty() || !iArguments.output.empty()))
     {
         purge.savedTo = iArguments.output.empty() ? iArguments.model : iArguments.output;
-        VYRStandalone::SaveText(purge.savedTo, PurgedText(installation, model, iArguments.model, records));
+        const std::string text = PurgedText(installation, model, iArguments.model, records);
+        const Uninterrupted save(purge.savedTo);
+        VYRStandalone::SaveText(purge.savedTo, text);
     }
     Print(iOptions.json ? PurgeJson(iArguments, purge) : PurgeText(iArguments, purge));
 }
