@@ -45,6 +45,8 @@ ROOMS = {
 NARROWER = {
     "tests/contract": ((HOST, OWN, "tests/support/NumberTexts.h", "tests/support/TemporaryFolder.h"),
                        {"tests/contract/StandaloneHostUnderTest.cpp"}),
+    # Another host, and a program on it.
+    "tests/secondhost": ((HOST, MODULE_FACE, OWN), set()),
 }
 
 STANDARD_HEADERS = frozenset(

@@ -26,12 +26,11 @@ void Print(const VYRCfdObjectAccess& iObject, const char* iPath)
 int Run(const std::string& iInstallation)
 {
     VYRStandalone::SetOfficialVariable("ORXInstallPath", iInstallation);
-    VYRStandalone::Model model = VYRStandalone::Model::Load(iInstallation + "/models/externalFlow.model.json",
-                                                           {iInstallation + "/catalogs"});
+    VYRStandalone::Model model =
+        VYRStandalone::Model::Load(iInstallation + "/models/externalFlow.model.json", {iInstallation + "/catalogs"});
     const ORXBaseUnknown_var solver(model.Find("Solver.1"));
     const VYRCfdObjectAccess access(solver);
-    constexpr const char* paths[] = {"iterations", "freestream/freestreamMach", "freestream/state/value",
-                                     "turbulence/model/value"};
+    constexpr const char* paths[] = {"caseName", "iterations", "freestream/freestreamMach", "turbulence/model/value"};
     for (const char* path : paths)
         Print(access, path);
     std::printf("turbulence is SST: %s\n", VYRCfdObjectCondition(access, "turbulence/model/value==SST") ? "yes" : "no");

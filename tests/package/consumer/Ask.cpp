@@ -27,8 +27,8 @@ ORXISpecObject_var ObjectOf(const ORXISpecObject_var& iObject, const char* iName
 
 int Run(const std::string& iInstallation)
 {
-    const VYRStandalone::Model model = VYRStandalone::Model::Load(iInstallation + "/models/externalFlow.model.json",
-                                                                 {iInstallation + "/catalogs"});
+    const VYRStandalone::Model model =
+        VYRStandalone::Model::Load(iInstallation + "/models/externalFlow.model.json", {iInstallation + "/catalogs"});
     const VYRICfdChoice_var choice = ObjectOf(ObjectOf(model.Find("Solver.1"), "freestream"), "state");
     if (!choice)
     {
