@@ -7,36 +7,17 @@
 
 namespace
 {
-struct ScriptRun
-{
-    const char* name;
-    const char* model;
-    std::string script;
-    std::string output;
-    /// Notes and warnings.
-    std::string errors;
-};
-
-void PrintTo(const ScriptRun& iOne, std::ostream* oStream)
-{
-    *oStream << iOne.name;
-}
-
 class GoodScripts : public ShellTest, public testing::WithParamInterface<ScriptRun>
 {
 };
 
 TEST_P(GoodScripts, PrintWhatTheCommandsTell_AndWriteNoFile)
 {
-    const auto before = Files();
-    const ToolRun run = Script(GetParam().model, GetParam().script);
-    EXPECT_EQ(Outcome(run), Outcome(0, GetParam().errors));
-    EXPECT_EQ(run.output, GetParam().output);
-    EXPECT_EQ(Files(), before);
+    ExpectRun(GetParam());
 }
 
-constexpr char Small[] = "small.model.json";
-constexpr char Flow[] = "flow.model.json";
+constexpr const char* Small = SmallModel;
+constexpr const char* Flow = FlowModel;
 
 const char UnequalLists[] =
     "note: assertion: choices.size() == startups.size() in VYRCfdChoiceInstanceAdp::Update, status 0x80004005\n";
@@ -170,6 +151,17 @@ const ScriptRun AttributeScripts[] = {
      "    + roughness: 0\n"
      "\"kOmega\" (custom default)\n",
      ""},
+    {"SetOfObjects", Small, "set Case.1/backup Case.1/probe\nset Case.1/spare Mesh\n",
+     "Case.1  Case\n    backup: (empty) -> Case.1/probe, now set\n"
+     "Case.1  Case\n    spare: column [1.5, 2.5] -> Case.1/spare, now set\n    mesh: Mesh -> Case.1/spare\n"
+     "    watched: [Mesh, (empty)] -> [Case.1/spare, (empty)]\n",
+     ""},
+    {"IsSet", Small,
+     "isset Case.1/relaxation\nisset Case.1/scheme\nisset Case.1/title\nset Case.1/title a\nisset Case.1/title\n"
+     "unset Case.1/title\nisset Case.1/title\n",
+     "true\nfalse\nfalse\nCase.1  Case\n    title: (unset) -> \"a\", now set\ntrue\n"
+     "Case.1  Case\n    title: \"a\" -> (unset), no longer set\nfalse\n",
+     ""},
     {"Auto", Small,
      "auto Case.1/note\nauto Case.1/iterations\nauto Case.1/author\nauto Case.1/author on\nauto Case.1/author\n"
      "auto Case.1/author on\nauto Case.1/author off\nauto Case.1/author\n",
@@ -264,7 +256,14 @@ const ScriptRun SessionScripts[] = {
      "10\n"
      "assertion: choices.size() > 0 in VYRCfdChoiceInstanceAdp::Update, status 0x80004005\n",
      "note: assertion: choices.size() > 0 in VYRCfdChoiceInstanceAdp::Update, status 0x80004005\n"},
-    {"HelpOfOne", Flow, "help auto\n", "auto PATH [on|off]  the auto flag of an attribute; with on or off, writes it\n",
+    {"HelpOfOne", Flow, "help auto\nhelp get\n",
+     "auto PATH [on|off]\n"
+     "    the auto flag of an attribute; with on or off, writes it\n"
+     "    The first time only makes the flag; later, on also puts the attribute back on its default.\n"
+     "Example: auto Solver.1/relaxation on\n"
+     "get PATH\n"
+     "    the value of an attribute\n"
+     "Example: get Solver.1/relaxation\n",
      ""},
     {"Quit", Flow, "quit\nget nothing\n", "", ""},
     {"Exit", Flow, "exit\nget nothing\n", "", ""},
@@ -272,30 +271,13 @@ const ScriptRun SessionScripts[] = {
 INSTANTIATE_TEST_SUITE_P(Session, GoodScripts, testing::ValuesIn(SessionScripts),
                          [](const auto& iInfo) { return iInfo.param.name; });
 
-struct FailingScript
-{
-    const char* name;
-    const char* model;
-    std::string script;
-    std::string errors;
-};
-
-void PrintTo(const FailingScript& iOne, std::ostream* oStream)
-{
-    *oStream << iOne.name;
-}
-
 class FailingScripts : public ShellTest, public testing::WithParamInterface<FailingScript>
 {
 };
 
 TEST_P(FailingScripts, TellTheLine_AndChangeNothing)
 {
-    const auto before = Files();
-    const ToolRun run = Script(GetParam().model, GetParam().script + "\nsave\n");
-    EXPECT_EQ(Outcome(run), Outcome(1, "stdin:1: " + GetParam().errors + "\n"));
-    EXPECT_EQ(run.output, "");
-    EXPECT_EQ(Files(), before);
+    ExpectFailure(GetParam());
 }
 
 const FailingScript FailingCases[] = {
@@ -317,20 +299,28 @@ const FailingScript FailingCases[] = {
     {"GetOfObject", Small, "get Case.1", "\"Case.1\" is an object, no attribute"},
     {"GetOfEntry", Small, "get Case.1/defaultManagement/configuration/1",
      "\"Case.1/defaultManagement/configuration/1\" is an object, no attribute"},
-    {"GetOfNothing", Small, "get Case.1/tilte", "\"Case.1/tilte\" leads nowhere: No attribute tilte"},
+    {"GetOfNothing", Small, "get Case.1/tilte",
+     "\"Case.1/tilte\" leads nowhere: No attribute tilte; did you mean \"title\"?"},
     {"SetOfWrongReal", Small, "set Case.1/relaxation half", "\"Case.1/relaxation\": \"half\" is no real"},
     {"SetOfWrongInteger", Small, "set Case.1/iterations many", "\"Case.1/iterations\": \"many\" is no integer"},
     {"SetOfWrongBoolean", Small, "set Case.1/steady yes", "\"Case.1/steady\": \"yes\" is neither true nor false"},
     {"SetOfWrongEnumeration", Small, "set Case.1/scheme Upwind",
      "\"Case.1/scheme\": \"Upwind\" is none of \"upwind\", \"central\"; did you mean \"upwind\"?"},
     {"SetOfList", Small, "set Case.1/monitors lift",
-     "\"Case.1/monitors\" is a list of string, which no text can be read for"},
-    {"SetOfReference", Small, "set Case.1/mesh Mesh", "\"Case.1/mesh\" is a reference, which no text can be read for"},
+     "\"Case.1/monitors\" is a list of string, which is changed by insert and delete"},
+    {"SetOfReference", Small, "set Case.1/mesh Mash", "no top-level object \"Mash\""},
+    {"SetOfReferenceToAttribute", Small, "set Case.1/mesh Mesh/cells", "\"Mesh/cells\" is an attribute, no object"},
+    {"SetOfComponentToItsOwner", Small, "set Case.1/spare Case.1", "\"Case.1/spare\" did not take \"Case.1\""},
     {"UnsetWithoutDefaultManagement", Small, "unset Mesh/cells",
      "the object of \"Mesh/cells\" has no default management"},
     {"DefaultWithoutDefaultManagement", Small, "default Mesh/cells",
      "the object of \"Mesh/cells\" has no default management"},
     {"DefaultUnreadable", Small, "default Case.1/relaxation half", "\"Case.1/relaxation\": \"half\" is no real"},
+    {"IsSetWithoutDefaultManagement", Small, "isset Mesh/cells",
+     "the object of \"Mesh/cells\" has no default management"},
+    {"IsSetOfNothing", Small, "isset Case.1/tilte",
+     "\"Case.1/tilte\" leads nowhere: No attribute tilte; did you mean \"title\"?"},
+    {"UndoOfNothing", Small, "undo", "nothing to undo"},
     {"AutoOfNeither", Small, "auto Case.1/title true", "\"true\" is neither on nor off"},
     {"ChoicesOfNoChoice", Flow, "choices Flow.1", "\"Flow.1\" is no Choice, but of type Flow"},
     {"ChooseOfNoChoice", Flow, "choose Flow.1 direct", "\"Flow.1\" is no Choice, but of type Flow"},
@@ -356,10 +346,30 @@ INSTANTIATE_TEST_SUITE_P(Shell, FailingScripts, testing::ValuesIn(FailingCases),
 TEST_F(ShellTest, Help_ListsEveryCommand)
 {
     const ToolRun run = Script(Flow, "help\n");
-    for (const char* command : {"ls [PATH]", "get PATH", "set PATH VALUE", "unset PATH", "default PATH [VALUE]",
-                                "auto PATH [on|off]", "test [PATH] CONDITION", "apply PATH CONFIG", "records PATH",
-                                "choices PATH", "choose PATH CHOICE", "prohibit PATH CHOICE...", "allow PATH CHOICE...",
-                                "reset PATH [keep]", "errors", "save [FILE]", "help [COMMAND]", "quit", "exit"})
+    for (const char* command : {"ls [PATH]",
+                                "get PATH",
+                                "set PATH VALUE",
+                                "unset PATH",
+                                "default PATH [VALUE]",
+                                "auto PATH [on|off]",
+                                "test [PATH] CONDITION",
+                                "apply PATH CONFIG",
+                                "records PATH",
+                                "choices PATH",
+                                "choose PATH CHOICE",
+                                "prohibit PATH CHOICE...",
+                                "allow PATH CHOICE...",
+                                "reset PATH [keep]",
+                                "isset PATH",
+                                "new TYPE [NAME]",
+                                "insert PATH ENTRY [POSITION]",
+                                "delete PATH [POSITION]",
+                                "undo",
+                                "errors",
+                                "save [FILE]",
+                                "help [COMMAND]",
+                                "quit",
+                                "exit"})
         EXPECT_NE(("\n" + run.output).find(std::string("\n") + command + "  "), std::string::npos) << command;
 }
 
@@ -367,7 +377,8 @@ TEST_F(ShellTest, Apply_ThatFailsInTheMiddle_ShowsWhatItHasDone)
 {
     const ToolRun run = Script(Small, "apply Case.1 breaksOff\n");
     EXPECT_EQ(Outcome(run),
-              Outcome(1, "stdin:1: \"breaksOff\" failed on \"Case.1\"\n"
+              Outcome(1, "note: the command has changed something before it failed; undo takes that back\n"
+                         "stdin:1: \"breaksOff\" failed on \"Case.1\"\n"
                          "error: No attribute unheardOf in VYRCfdObjectAccess::SetStrings, status 0x80004005\n"
                          "failed call: specAccess[path].SetStrings(valuesList) in "
                          "VYRCfdConfigurator::ApplyConfiguration, status 0x80004005\n"));
@@ -377,10 +388,13 @@ TEST_F(ShellTest, Apply_ThatFailsInTheMiddle_ShowsWhatItHasDone)
 TEST_F(ShellTest, Questions_LeaveNothingInTheModel)
 {
     ASSERT_EQ(Outcome(Script(Flow, "save plain.model.json\n")), Outcome(0, ""));
-    ASSERT_EQ(Outcome(Script(Flow, "ls Flow.1\nls Flow.1/turbulence\nget Flow.1/speed\ndefault Flow.1/speed\n"
-                                   "auto Flow.1/speed\ntest Flow.1 speed>1\nrecords Flow.1\nchoices Flow.1/turbulence\n"
-                                   "errors\nhelp\nsave asked.model.json\n")),
-              Outcome(0, ""));
+    ASSERT_EQ(
+        Outcome(Script(
+            Flow,
+            "ls Flow.1\nls Flow.1/turbulence\nget Flow.1/speed\ndefault Flow.1/speed\n"
+            "auto Flow.1/speed\nisset Flow.1/speed\ntest Flow.1 speed>1\nrecords Flow.1\nchoices Flow.1/turbulence\n"
+            "errors\nhelp\nsave asked.model.json\n")),
+        Outcome(0, ""));
     EXPECT_EQ(Read("asked.model.json"), Read("plain.model.json"));
 }
 

@@ -137,15 +137,70 @@ TEST_F(ShellTest, ConfigurationFiles_AreReadWhenOneIsApplied)
 {
     Write(std::string(Configurations) + "solverConfig_Flow.json", "[]");
     const ToolRun run = Script(Small, "get Case.1/relaxation\napply Case.1 cavity\n");
-    EXPECT_EQ(Outcome(run), Outcome(1, "stdin:2: samples/reffiles/VYRCfdApp/solverConfig_Flow.json: must be an object, "
-                                       "not an array\n"));
+    EXPECT_EQ(Outcome(run), Outcome(1, "stdin:2: samples/reffiles/VYRCfdApp/solverConfig_Flow.json:1:1: a "
+                                       "configuration file must be an object, not an array\n"));
     EXPECT_EQ(run.output, "0.5\n");
 }
 
-TEST_F(ShellTest, Json_IsRefused_AsWrongUse)
+TEST_F(ShellTest, ScriptFile_IsRunInPlaceOfStandardInput_AndNamedWithItsLine)
 {
-    const std::string told = "vyrcfd: --json: the shell does not answer in JSON; see vyrcfd shell --help\n";
-    EXPECT_EQ(Outcome(Run({"shell", Small, "--json"})), Outcome(2, told));
-    EXPECT_EQ(Outcome(Run({"--json", "shell", Small})), Outcome(2, told));
+    Write("script.txt", "get Case.1/relaxation\n\nget Case.1/nothing\nget Case.1/iterations\n");
+    ToolSettings settings;
+    settings.input = "get Case.1/iterations\n";
+    const ToolRun run = Run({"shell", Small, "-f", "script.txt"}, settings);
+    EXPECT_EQ(Outcome(run), Outcome(1, "script.txt:3: \"Case.1/nothing\" leads nowhere: No attribute nothing\n"));
+    EXPECT_EQ(run.output, "0.5\n");
+}
+
+TEST_F(ShellTest, ScriptFile_ThatCannotBeRead_FailsTheJob)
+{
+    EXPECT_EQ(Outcome(Run({"shell", Small, "-f", "nothing.txt"})),
+              Outcome(1, "nothing.txt: cannot be opened: No such file or directory\n"));
+    EXPECT_EQ(Outcome(Run({"shell", Small, "--file", "samples"})),
+              Outcome(1, "samples: cannot be read: Is a directory\n"));
+    EXPECT_EQ(Outcome(Run({"shell", Small, "-f", ""})),
+              Outcome(2, "vyrcfd: --file: names no file; see vyrcfd shell --help\n"));
+}
+
+TEST_F(ShellTest, KeepGoing_GoesOnBehindFailures_AndCountsThem)
+{
+    Write("script.txt", "get nothing\n"
+                        "set Case.1/relaxation 0.1\n"
+                        "apply Mesh cavity\n"
+                        "unheardOf\n"
+                        "set Case.1/title \"open\n"
+                        "save\n");
+    const ToolRun run = Run({"shell", Small, "-f", "script.txt", "--keep-going"});
+    EXPECT_EQ(Outcome(run),
+              Outcome(1, "script.txt:1: no top-level object \"nothing\"\n"
+                         "script.txt:3: \"Mesh\" has no default management, and cannot be configured\n"
+                         "assertion: spDefMgmt != NULL_var in VYRCfdConfigurator::ApplyConfiguration, status "
+                         "0x80004005\n"
+                         "script.txt:4: no command \"unheardOf\"\n"
+                         "script.txt:5: a quotation mark is missing at the end\n"
+                         "script.txt: 4 commands failed\n"));
+    EXPECT_EQ(run.output, "Case.1  Case\n    relaxation: 0.5 -> 0.1\nSaved small.model.json.\n");
+    EXPECT_EQ(Script(Small, "get Case.1/relaxation\n").output, "0.1\n");
+}
+
+TEST_F(ShellTest, KeepGoing_WithoutFailures_IsASuccess)
+{
+    ToolSettings settings;
+    settings.input = "get Case.1/relaxation\nquit\nget nothing\n";
+    EXPECT_EQ(Outcome(Run({"shell", Small, "--keep-going"}, settings)), Outcome(0, ""));
+}
+
+TEST_F(ShellTest, Change_AfterWhichTheModelCouldNotBeSaved_IsPutBack)
+{
+    // The data object that the reference leads to would be replaced.
+    Write("script.txt", "new Case C\nset C/backup Flow.1/turbulence/Data\nsave before.model.json\n"
+                        "choose Flow.1/turbulence spalart\nsave after.model.json\n");
+    const ToolRun run = Run({"shell", Flow, "-f", "script.txt", "--keep-going"});
+    EXPECT_EQ(Outcome(run),
+              Outcome(1, "note: custom defaults are now those that the records give\n"
+                         "script.txt:4: nothing has changed, since the model could not have been saved any more: "
+                         "model: /objects/3/values/backup: refers to \"KOmegaModelInst\", which is not in the model\n"
+                         "script.txt: 1 command failed\n"));
+    EXPECT_EQ(Read("after.model.json"), Read("before.model.json"));
 }
 } // namespace

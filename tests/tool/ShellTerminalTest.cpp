@@ -73,6 +73,58 @@ TEST_F(ShellTest, Terminal_HasAHistory)
     EXPECT_EQ(Count(run.output, "\n0.5\n"), 2U) << run.output;
 }
 
+ToolSettings WithHistory(const std::map<std::string, std::string>& iVariables, std::vector<std::string> iTyped)
+{
+    ToolSettings settings;
+    settings.typed = std::move(iTyped);
+    settings.environment = iVariables;
+    settings.environment.insert({{"TERM", "dumb"}, {"NO_COLOR", "1"}});
+    return settings;
+}
+
+TEST_F(ShellTest, History_IsKeptFromOneSessionToTheNext)
+{
+    const std::map<std::string, std::string> variables{{"VYRCFD_HISTORY", m_folder.Path("kept/history")}};
+    const std::string get = "get Case.1/relaxation\r";
+    EXPECT_EQ(Outcome(SessionWith(Small, WithHistory(variables, {get, get, "# note\r"}))), Outcome(0, ""));
+    EXPECT_EQ(Read("kept/history"), "get Case.1/relaxation\n# note\n");
+    // Two lines up.
+    const ToolRun again = SessionWith(Small, WithHistory(variables, {"\x10\x10\r"}));
+    EXPECT_TRUE(Contains(again.output, "\n0.5\n")) << again.output;
+    EXPECT_EQ(Read("kept/history"), "get Case.1/relaxation\n# note\nget Case.1/relaxation\n");
+}
+
+TEST_F(ShellTest, History_StandsInTheUsersFolderForState)
+{
+    SessionWith(Small, WithHistory({{"XDG_STATE_HOME", m_folder.Path("state")}}, {"ls\r"}));
+    EXPECT_EQ(Read("state/vyrcfd/history"), "ls\n");
+    SessionWith(Small, WithHistory({{"XDG_STATE_HOME", ""}, {"HOME", m_folder.Path("home")}}, {"errors\r"}));
+    EXPECT_EQ(Read("home/.local/state/vyrcfd/history"), "errors\n");
+}
+
+TEST_F(ShellTest, History_KeepsTheLastThousandLines)
+{
+    std::string lines;
+    for (int line = 1; line <= 1005; ++line)
+        lines += "# " + std::to_string(line) + "\n";
+    Write("history", lines);
+    SessionWith(Small, WithHistory({{"VYRCFD_HISTORY", m_folder.Path("history")}}, {"\r"}));
+    EXPECT_EQ(Read("history"), lines.substr(lines.find("# 6\n")));
+}
+
+TEST_F(ShellTest, History_ThatCannotBeKept_IsNoReasonToComplain)
+{
+    const auto before = Files();
+    for (const char* file : {"", "/dev/null/history", "/dev/full", "/proc/history"})
+    {
+        const ToolRun run =
+            SessionWith(Small, WithHistory({{"VYRCFD_HISTORY", file}}, {"get Case.1/relaxation\r", "\x10\r"}));
+        EXPECT_EQ(Outcome(run), Outcome(0, "")) << file;
+        EXPECT_EQ(Count(run.output, "\n0.5\n"), 2U) << file << run.output;
+    }
+    EXPECT_EQ(Files(), before);
+}
+
 TEST_F(ShellTest, Terminal_ClearsAnInterruptedLine_AndGoesOn)
 {
     const ToolRun run = Session(Small, {"set Case.1/relaxation 0.1\x03get Case.1/relaxation\r"});
@@ -116,7 +168,11 @@ const CompletedLine Completed[] = {
     {"DeclaredChoice", "allow Flow.1/solver conj\t", "-> [\"direct\", \"conjugate gradient\", \"gmres\"]"},
     {"Configuration", "apply Flow.1/solver directl\t", "    + record value: default \"direct\"\n"},
     {"Word", "reset Flow.1/solver k\t", "-> [\"direct\", \"conjugate gradient\", \"gmres\"]"},
-    {"HelpTopic", "help unse\t", "unset PATH  puts"},
+    {"HelpTopic", "help unse\t", "unset PATH\n    puts"},
+    {"Type", "new TurbulenceCh\tT", "T  TurbulenceChoice  new"},
+    {"EntryOfAList", "insert Flow.1/wai\t\x15get Flow.1/speed", "\n10\n"},
+    {"ValueOfAnObjectAttribute", "set Flow.1/energy/Data Flow.1/turbulence/Da\t",
+     "Data: (empty) -> Flow.1/energy/Data"},
     {"File", "save fl\t", "Saved flow.model.json."},
 };
 INSTANTIATE_TEST_SUITE_P(Terminal, CompletedLines, testing::ValuesIn(Completed),

@@ -6,7 +6,39 @@
  * Fixture of tests of the shell.
  */
 
+#include <ostream>
+
 #include "SmallTest.h"
+
+/// A script all of whose commands succeed.
+struct ScriptRun
+{
+    const char* name;
+    const char* model;
+    std::string script;
+    std::string output;
+    /// Notes and warnings.
+    std::string errors;
+};
+
+inline void PrintTo(const ScriptRun& iOne, std::ostream* oStream)
+{
+    *oStream << iOne.name;
+}
+
+/// A command that fails.
+struct FailingScript
+{
+    const char* name;
+    const char* model;
+    std::string script;
+    std::string errors;
+};
+
+inline void PrintTo(const FailingScript& iOne, std::ostream* oStream)
+{
+    *oStream << iOne.name;
+}
 
 class ShellTest : public SmallTest
 {
@@ -19,17 +51,46 @@ protected:
         return Run({"shell", iModel}, settings);
     }
 
+    /// The script prints what it should, and writes no file.
+    void ExpectRun(const ScriptRun& iExpected) const
+    {
+        const auto before = Files();
+        const ToolRun run = Script(iExpected.model, iExpected.script);
+        EXPECT_EQ(Outcome(run), Outcome(0, iExpected.errors));
+        EXPECT_EQ(run.output, iExpected.output);
+        EXPECT_EQ(Files(), before);
+    }
+
+    /// The command fails, names its line, and changes nothing: what follows is not reached, and a session that goes on
+    /// has nothing to undo.
+    void ExpectFailure(const FailingScript& iExpected) const
+    {
+        const auto before = Files();
+        const ToolRun run = Script(iExpected.model, iExpected.script + "\nsave\n");
+        EXPECT_EQ(Outcome(run), Outcome(1, "stdin:1: " + iExpected.errors + "\n"));
+        EXPECT_EQ(run.output, "");
+        EXPECT_EQ(Files(), before);
+    }
+
     /// Somebody types at a terminal, each text at a prompt.
     ToolRun Session(const std::string& iModel, const std::vector<std::string>& iTyped) const
     {
         ToolSettings settings;
         settings.typed = iTyped;
         // As little as possible of what terminals are told beside texts.
-        settings.environment = {{"TERM", "dumb"}, {"NO_COLOR", "1"}};
-        ToolRun run = Run({"shell", iModel}, settings);
+        settings.environment = {{"TERM", "dumb"}, {"NO_COLOR", "1"}, {"VYRCFD_HISTORY", ""}};
+        return SessionWith(iModel, settings);
+    }
+
+    ToolRun SessionWith(const std::string& iModel, const ToolSettings& iSettings) const
+    {
+        ToolRun run = Run({"shell", iModel}, iSettings);
         std::erase(run.output, '\r');
         return run;
     }
 };
+
+inline constexpr char SmallModel[] = "small.model.json";
+inline constexpr char FlowModel[] = "flow.model.json";
 
 #endif

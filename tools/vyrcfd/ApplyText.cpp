@@ -1,6 +1,5 @@
 #include "ApplyText.h"
 
-#include "JsonWriter.h"
 #include "ORXTypeCode.h"
 #include "Output.h"
 #include "Wording.h"
@@ -197,15 +196,7 @@ void WriteRecords(JsonWriter& oWriter, const char* iKey, const std::vector<const
     WriteKey(oWriter, iKey);
     oWriter.StartArray();
     for (const RecordSnapshot* record : iRecords)
-    {
-        oWriter.StartObject();
-        for (const AttributeSnapshot& attribute : record->attributes)
-        {
-            WriteKey(oWriter, attribute.info.name);
-            attribute.value.Write(oWriter);
-        }
-        oWriter.EndObject();
-    }
+        WriteRecord(oWriter, *record);
     oWriter.EndArray();
 }
 
@@ -254,6 +245,25 @@ std::string DifferenceText(const Difference& iDifference)
     return text;
 }
 
+void WriteRecord(JsonWriter& oWriter, const RecordSnapshot& iRecord)
+{
+    oWriter.StartObject();
+    for (const AttributeSnapshot& attribute : iRecord.attributes)
+    {
+        WriteKey(oWriter, attribute.info.name);
+        attribute.value.Write(oWriter);
+    }
+    oWriter.EndObject();
+}
+
+void WriteChanges(JsonWriter& oWriter, const Difference& iDifference)
+{
+    oWriter.StartArray();
+    for (const ObjectChange& change : iDifference.objects)
+        WriteObject(oWriter, change);
+    oWriter.EndArray();
+}
+
 std::string ApplyText(const Application& iApplication, const Difference& iDifference)
 {
     if (!iApplication.isDone)
@@ -270,10 +280,7 @@ std::string ApplyJson(const Application& iApplication, const Difference& iDiffer
         WriteKey(oWriter, "done");
         oWriter.Bool(iApplication.isDone);
         WriteKey(oWriter, "objects");
-        oWriter.StartArray();
-        for (const ObjectChange& change : iDifference.objects)
-            WriteObject(oWriter, change);
-        oWriter.EndArray();
+        WriteChanges(oWriter, iDifference);
         WriteKey(oWriter, "unreferencedRecords");
         oWriter.Int(iDifference.unreferencedRecords);
         WriteKey(oWriter, "notes");

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "Difference.h"
+#include "JsonWriter.h"
 
 namespace Tool
 {
@@ -27,6 +28,13 @@ struct Application
 
 /// What has changed, object by object; empty for nothing.
 std::string DifferenceText(const Difference& iDifference);
+
+/// The same as a list: [{"path", "type", "change", "oldType", "attributes", "newRecords", "goneRecords",
+/// "remadeRecords"}].
+void WriteChanges(JsonWriter& oWriter, const Difference& iDifference);
+
+/// The texts of a record under their names.
+void WriteRecord(JsonWriter& oWriter, const RecordSnapshot& iRecord);
 
 std::string ApplyText(const Application& iApplication, const Difference& iDifference);
 std::string ApplyJson(const Application& iApplication, const Difference& iDifference);

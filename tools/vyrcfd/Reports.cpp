@@ -32,12 +32,25 @@ std::string StatusText(HRESULT iStatus)
 }
 } // namespace
 
+std::vector<ReportRecord> TakeReportRecords()
+{
+    std::vector<ReportRecord> records;
+    for (const VYRStandalone::Report& report : VYRStandalone::TakeReports())
+        records.push_back({KindText(report.kind), report.text, report.function, StatusText(report.status)});
+    return records;
+}
+
+std::string ReportLine(const ReportRecord& iReport)
+{
+    return iReport.kind + ": " + OneLine(iReport.text) + " in " + OneLine(iReport.function) + ", status " +
+           iReport.status;
+}
+
 std::vector<std::string> TakeReportLines()
 {
     std::vector<std::string> lines;
-    for (const VYRStandalone::Report& report : VYRStandalone::TakeReports())
-        lines.push_back(std::string(KindText(report.kind)) + ": " + OneLine(report.text) + " in " +
-                        OneLine(report.function) + ", status " + StatusText(report.status));
+    for (const ReportRecord& report : TakeReportRecords())
+        lines.push_back(ReportLine(report));
     return lines;
 }
 } // namespace Tool

@@ -12,21 +12,6 @@ namespace Tool
 {
 namespace
 {
-void WriteAttribute(JsonWriter& oWriter, const AttributeSnapshot& iAttribute, const AttributeDefault& iDefault)
-{
-    WriteKey(oWriter, iAttribute.info.name);
-    oWriter.StartObject();
-    WriteMember(oWriter, "kind", iAttribute.KindName());
-    WriteKey(oWriter, "value");
-    iAttribute.value.Write(oWriter);
-    WriteFlag(oWriter, "set", iAttribute.set);
-    WriteFlag(oWriter, "auto", iAttribute.automatic);
-    WriteKey(oWriter, "default");
-    iDefault.value.Write(oWriter);
-    WriteMember(oWriter, "source", SourceText(iAttribute, iDefault));
-    oWriter.EndObject();
-}
-
 void WriteObject(JsonWriter& oWriter, DefaultsOnce& ioDefaults, const ORXISpecObject_var& iObject,
                  const std::string& iPath, const std::string& iType, const std::vector<AttributeSnapshot>& iAttributes,
                  const std::optional<ChoiceView>& iChoice = std::nullopt)

@@ -109,4 +109,19 @@ std::string RecordsText(const ObjectSnapshot& iObject, const std::string& iInden
         text += iIndent + std::to_string(i + 1) + ". " + iObject.records[i].Shown() + "\n";
     return text;
 }
+
+void WriteAttribute(JsonWriter& oWriter, const AttributeSnapshot& iAttribute, const AttributeDefault& iDefault)
+{
+    WriteKey(oWriter, iAttribute.info.name);
+    oWriter.StartObject();
+    WriteMember(oWriter, "kind", iAttribute.KindName());
+    WriteKey(oWriter, "value");
+    iAttribute.value.Write(oWriter);
+    WriteFlag(oWriter, "set", iAttribute.set);
+    WriteFlag(oWriter, "auto", iAttribute.automatic);
+    WriteKey(oWriter, "default");
+    iDefault.value.Write(oWriter);
+    WriteMember(oWriter, "source", SourceText(iAttribute, iDefault));
+    oWriter.EndObject();
+}
 } // namespace Tool

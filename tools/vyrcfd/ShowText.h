@@ -9,6 +9,7 @@
 #include <string>
 
 #include "Defaults.h"
+#include "JsonWriter.h"
 #include "Snapshot.h"
 
 namespace Tool
@@ -21,6 +22,9 @@ std::string ListText(const Snapshot& iSnapshot, int iDepth);
 
 /// The records of an object, a numbered line each.
 std::string RecordsText(const ObjectSnapshot& iObject, const std::string& iIndent);
+
+/// An attribute under its name: {"kind", "value", "set", "auto", "default", "source"}.
+void WriteAttribute(JsonWriter& oWriter, const AttributeSnapshot& iAttribute, const AttributeDefault& iDefault);
 } // namespace Tool
 
 #endif

@@ -24,6 +24,9 @@ public:
 
     /// Where the last line came from, for messages: "stdin:3".
     virtual std::string Place() const = 0;
+
+    /// What the lines come from, for messages: "stdin". Empty for a terminal.
+    virtual std::string Name() const { return {}; }
 };
 } // namespace Tool
 

@@ -6,19 +6,39 @@
 #include <system_error>
 
 #include "Failure.h"
+#include "Wording.h"
 
 namespace Tool
 {
+namespace
+{
+/// @throws Failure
+[[noreturn]] void FailFor(const std::string& iName, const char* iWhat)
+{
+    throw Failure(iName + ": " + iWhat + ": " + std::generic_category().message(errno));
+}
+} // namespace
+
+ScriptLines::ScriptLines() : m_stream(std::cin), m_name("stdin") {}
+
+ScriptLines::ScriptLines(const std::string& iFile) : m_stream(m_file), m_name(OneLine(iFile))
+{
+    errno = 0;
+    m_file.open(iFile, std::ios::binary);
+    if (!m_file)
+        FailFor(m_name, "cannot be opened");
+}
+
 std::optional<std::string> ScriptLines::Next()
 {
     constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
     std::string line;
     errno = 0;
-    if (!std::getline(std::cin, line))
+    if (!std::getline(m_stream, line))
     {
-        // The stream itself tells an end and a failure alike.
-        if (std::ferror(stdin) != 0)
-            throw Failure("stdin: cannot be read: " + std::generic_category().message(errno));
+        // The stream of standard input tells an end and a failure alike.
+        if (m_stream.bad() || (&m_stream == &std::cin && std::ferror(stdin) != 0))
+            FailFor(m_name, "cannot be read");
         return std::nullopt;
     }
     ++m_line;
@@ -29,6 +49,6 @@ std::optional<std::string> ScriptLines::Next()
 
 std::string ScriptLines::Place() const
 {
-    return "stdin:" + std::to_string(m_line);
+    return m_name + ":" + std::to_string(m_line);
 }
 } // namespace Tool

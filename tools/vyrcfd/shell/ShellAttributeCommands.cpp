@@ -1,16 +1,18 @@
 /**
  * @file
- * Commands on attributes: get, set, unset, default, auto.
+ * Commands on attributes: get, set, unset, default, isset, auto.
  */
+
+#include <array>
 
 #include "AttributeReader.h"
 #include "Failure.h"
 #include "ORXCkeGlobalFunctions.h"
 #include "ORXICkeParm.h"
 #include "ORXTypeCode.h"
-#include "Output.h"
 #include "QuietDefaults.h"
 #include "ShellCommands.h"
+#include "Unreadable.h"
 #include "VYRIMpaDefaultManagementProtected.h"
 #include "Wording.h"
 
@@ -39,21 +41,8 @@ ORXICkeParm_var ParameterOf(const Target& iTarget, const AttributeSnapshot& iAtt
     const ORXISpecAttrKey_var spKey = ORXISpecAttrKey_var::Adopt(spAccess->GetAttrKey(iTarget.attribute.c_str()));
     const ORXICkeParm_var spParm = ORXCke_GetParm(spAccess, spKey, 1);
     if (!spParm)
-        throw Failure(Quoted(iPath) + " is a " + iAttribute.KindText() + ", which no text can be read for");
+        throw Failure(Quoted(iPath) + " is a " + iAttribute.KindText() + ", which is changed by insert and delete");
     return spParm;
-}
-
-/// Why a text is no value of the attribute.
-std::string WhyUnreadable(const AttributeSnapshot& iAttribute, const std::string& iText)
-{
-    if (iAttribute.info.type == tk_boolean)
-        return Quoted(iText) + " is neither true nor false";
-    if (iAttribute.info.type != tk_enum)
-        return Quoted(iText) + " is no " + iAttribute.KindText();
-    std::string texts;
-    for (const std::string& text : iAttribute.info.values)
-        texts += (texts.empty() ? "" : ", ") + Quoted(text);
-    return Quoted(iText) + " is none of " + texts + DidYouMean(iText, iAttribute.info.values);
 }
 
 /// Tries the text on a parameter of the same type that belongs to nobody, since a text that cannot be read is passed
@@ -65,7 +54,7 @@ void CheckReadable(const ORXICkeParm_var& iParm, const AttributeSnapshot& iAttri
         ORXCkeGlobalFunctions::GetVolatileFactory()->CreateParm(iParm->GetType(), ORXUnicodeString("trial"));
     spTrial->Valuate(ToOrx(iText));
     if (spTrial->GetValue()->IsValuated() == 0)
-        throw Failure(Quoted(iPath) + ": " + WhyUnreadable(iAttribute, iText));
+        throw Failure(Quoted(iPath) + ": " + WhyUnreadable(iAttribute.info, iText));
 }
 
 void SetDefault(ShellSession& ioSession, const Target& iTarget, const ShellArguments& iArguments)
@@ -74,11 +63,13 @@ void SetDefault(ShellSession& ioSession, const Target& iTarget, const ShellArgum
     const AttributeSnapshot attribute = ioSession.Read(iTarget, path).attributes.front();
     const VYRIMpaDefaultManagementProtected_var spDefMgmt = DefaultManagementOf(iTarget, path);
     CheckReadable(ParameterOf(iTarget, attribute, path), attribute, iArguments[1], path);
-    ioSession.Change([&] {
-        ORXUnicodeString value = ToOrx(iArguments[1]);
-        if (spDefMgmt->SetCustomDefault(ToOrx(iTarget.attribute), value) < 0)
-            throw Failure(Quoted(path) + " did not take the default");
-    });
+    ioSession.Change(
+        [&] {
+            ORXUnicodeString value = ToOrx(iArguments[1]);
+            if (spDefMgmt->SetCustomDefault(ToOrx(iTarget.attribute), value) < 0)
+                throw Failure(Quoted(path) + " did not take the default");
+        },
+        ShellSession::Touches::CustomDefaults);
 }
 
 void ShowDefault(ShellSession& ioSession, const Target& iTarget, const std::string& iPath)
@@ -86,14 +77,34 @@ void ShowDefault(ShellSession& ioSession, const Target& iTarget, const std::stri
     const ObjectSnapshot object = ioSession.Read(iTarget, iPath);
     DefaultManagementOf(iTarget, iPath);
     const AttributeDefault byDefault = QuietDefaults(ioSession.Model()).Of(object, object.attributes.front());
-    Print((byDefault.origin == DefaultOrigin::None ? "(none)" : byDefault.Shown()) + "\n");
+    ioSession.Say(MakeAnswer((byDefault.origin == DefaultOrigin::None ? "(none)" : byDefault.Shown()) + "\n",
+                             [&](JsonWriter& oWriter) { byDefault.value.Write(oWriter); }));
+}
+
+/// @param iWords for true, false and no flag
+void ShowFlag(ShellSession& ioSession, const std::optional<bool>& iFlag, const std::array<const char*, 3>& iWords)
+{
+    const std::string word = !iFlag ? iWords[2] : *iFlag ? iWords[0] : iWords[1];
+    ioSession.Say({word + "\n", !iFlag ? "null" : *iFlag ? "true" : "false"});
+}
+
+void SetObject(ShellSession& ioSession, const Target& iTarget, const ShellArguments& iArguments)
+{
+    const ORXISpecObject_var spObject = ioSession.Object(iArguments[1]);
+    const ORXISpecAttrAccess_var spAccess = iTarget.object;
+    const ORXISpecAttrKey_var spKey = ORXISpecAttrKey_var::Adopt(spAccess->GetAttrKey(iTarget.attribute.c_str()));
+    ioSession.Change([&] {
+        if (spAccess->SetSpecObject(spKey, spObject) < 0)
+            throw Failure(Quoted(iArguments[0]) + " did not take " + Quoted(iArguments[1]));
+    });
 }
 } // namespace
 
 void ShellGet(ShellSession& ioSession, const ShellArguments& iArguments)
 {
     const Target target = ioSession.Attribute(iArguments[0]);
-    Print(ioSession.Read(target, iArguments[0]).attributes.front().value.Shown() + "\n");
+    const Value value = ioSession.Read(target, iArguments[0]).attributes.front().value;
+    ioSession.Say(MakeAnswer(value.Shown() + "\n", [&](JsonWriter& oWriter) { value.Write(oWriter); }));
 }
 
 void ShellSet(ShellSession& ioSession, const ShellArguments& iArguments)
@@ -101,6 +112,11 @@ void ShellSet(ShellSession& ioSession, const ShellArguments& iArguments)
     const std::string& path = iArguments[0];
     const Target target = ioSession.Attribute(path);
     const AttributeSnapshot attribute = ioSession.Read(target, path).attributes.front();
+    if (attribute.info.type == tk_component || attribute.info.type == tk_specobject)
+    {
+        SetObject(ioSession, target, iArguments);
+        return;
+    }
     const ORXICkeParm_var spParm = ParameterOf(target, attribute, path);
     CheckReadable(spParm, attribute, iArguments[1], path);
     ioSession.Change([&] { spParm->Valuate(ToOrx(iArguments[1])); });
@@ -125,14 +141,22 @@ void ShellDefault(ShellSession& ioSession, const ShellArguments& iArguments)
         ShowDefault(ioSession, target, iArguments[0]);
 }
 
+void ShellIsSet(ShellSession& ioSession, const ShellArguments& iArguments)
+{
+    const Target target = ioSession.Attribute(iArguments[0]);
+    DefaultManagementOf(target, iArguments[0]);
+    // Default management would make the flag when it was asked.
+    ShowFlag(ioSession, ioSession.Read(target, iArguments[0]).attributes.front().set, {"true", "false", "(none)"});
+}
+
 void ShellAuto(ShellSession& ioSession, const ShellArguments& iArguments)
 {
     const Target target = ioSession.Attribute(iArguments[0]);
     const VYRIMpaDefaultManagementProtected_var spDefMgmt = DefaultManagementOf(target, iArguments[0]);
     if (iArguments.size() == 1)
     {
-        const std::optional<bool> flag = ioSession.Read(target, iArguments[0]).attributes.front().automatic;
-        Print(!flag ? "(none)\n" : *flag ? "on\n" : "off\n");
+        ShowFlag(ioSession, ioSession.Read(target, iArguments[0]).attributes.front().automatic,
+                 {"on", "off", "(none)"});
         return;
     }
     if (iArguments[1] != "on" && iArguments[1] != "off")

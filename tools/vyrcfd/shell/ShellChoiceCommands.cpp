@@ -9,7 +9,6 @@
 #include "ChoiceView.h"
 #include "Failure.h"
 #include "ListNames.h"
-#include "Output.h"
 #include "QuietDefaults.h"
 #include "ShellCommands.h"
 #include "VYRCfdObjectAccess.h"
@@ -70,12 +69,12 @@ Texts OfferedBy(const VYRICfdChoice_var& iChoice)
 }
 
 /// The manager passes over what it does not know; whoever has misspelt it should hear of it.
-void NoteUnknown(const ShellArguments& iArguments, const Texts& iKnown, const char* iWhat)
+void NoteUnknown(ShellSession& ioSession, const ShellArguments& iArguments, const Texts& iKnown, const char* iWhat)
 {
     for (auto choice = iArguments.begin() + 1; choice != iArguments.end(); ++choice)
         if (!Contains(iKnown, *choice))
-            PrintError("note: " + Quoted(*choice) + " is not " + iWhat + ", and passed over" +
-                       DidYouMean(*choice, ToStrings(iKnown)));
+            ioSession.Reports().Note(Quoted(*choice) + " is not " + iWhat + ", and passed over" +
+                                     DidYouMean(*choice, ToStrings(iKnown)));
 }
 
 std::set<ORXUnicodeString> ChoicesIn(const ShellArguments& iArguments)
@@ -116,7 +115,8 @@ void ShellChoices(ShellSession& ioSession, const ShellArguments& iArguments)
     if (!choice->display.Text().empty())
         text += "display  " + choice->display.Shown() + "\n";
     text += "data     " + choice->data.Shown() + "\n";
-    Print(text + ChoiceText(*choice, {}));
+    ioSession.Say(
+        MakeAnswer(text + ChoiceText(*choice, {}), [&](JsonWriter& oWriter) { WriteChoice(oWriter, *choice); }));
 }
 
 void ShellChoose(ShellSession& ioSession, const ShellArguments& iArguments)
@@ -135,7 +135,7 @@ void ShellChoose(ShellSession& ioSession, const ShellArguments& iArguments)
 void ShellProhibit(ShellSession& ioSession, const ShellArguments& iArguments)
 {
     const VYRICfdChoiceMgr_var spManager = ManagerAt(ioSession, iArguments[0]);
-    NoteUnknown(iArguments, OfferedBy(ChoiceAt(ioSession, iArguments[0])), "offered");
+    NoteUnknown(ioSession, iArguments, OfferedBy(ChoiceAt(ioSession, iArguments[0])), "offered");
     ioSession.Change(
         [&] { Succeed(spManager->ProhibitChoices(ChoicesIn(iArguments)), "the choices could not be prohibited"); });
 }
@@ -146,10 +146,11 @@ void ShellAllow(ShellSession& ioSession, const ShellArguments& iArguments)
     Texts declared;
     ORXUnicodeString declaredDefault;
     spManager->GetAllChoices(declared, declaredDefault);
-    NoteUnknown(iArguments, declared, "declared");
+    NoteUnknown(ioSession, iArguments, declared, "declared");
     if (HasDeclaredStartups(ORXISpecObject_var(spManager)))
-        PrintError("warning: " + Quoted(iArguments[0]) +
-                   " is declared with startups: where its choices change, the names of the startups take their place");
+        ioSession.Reports().Warn(
+            Quoted(iArguments[0]) +
+            " is declared with startups: where its choices change, the names of the startups take their place");
     ioSession.Change([&] {
         std::set<ORXUnicodeString> added = ChoicesIn(iArguments);
         Succeed(spManager->AddChoices(added), "the choices could not be allowed");
@@ -162,6 +163,7 @@ void ShellReset(ShellSession& ioSession, const ShellArguments& iArguments)
     if (isKept && iArguments[1] != "keep")
         throw Failure(Quoted(iArguments[1]) + " is not keep");
     const VYRICfdChoiceMgr_var spManager = ManagerAt(ioSession, iArguments[0]);
-    ioSession.Change([&] { Succeed(spManager->Reset(isKept ? 1 : 0), Quoted(iArguments[0]) + " could not be reset"); });
+    ioSession.Change([&] { Succeed(spManager->Reset(isKept ? 1 : 0), Quoted(iArguments[0]) + " could not be reset"); },
+                     isKept ? ShellSession::Touches::CustomDefaults : ShellSession::Touches::Model);
 }
 } // namespace Tool

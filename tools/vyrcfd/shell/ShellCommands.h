@@ -21,6 +21,9 @@ struct ShellCommand
     /// the last one may be repeated. What they are called says what they are: see `ShellCompletion`.
     const char* usage;
     const char* help;
+    /// One line that shows it, and what else there is to know; the latter may be empty.
+    const char* example;
+    const char* more;
     /// @throws Failure, VYRStandalone::DocumentError
     void (*run)(ShellSession& ioSession, const ShellArguments& iArguments);
 
@@ -38,7 +41,8 @@ const ShellCommand* FindShellCommand(const std::string& iName);
 
 std::vector<std::string> ShellCommandNames();
 
-/// Runs the command that the words make. @throws Failure also for an unknown command and a wrong number of arguments
+/// Runs the command that the words make, which leaves its answer with the session. @throws Failure also for an unknown
+/// command and a wrong number of arguments
 void RunShellCommand(ShellSession& ioSession, const std::vector<std::string>& iWords);
 
 // By subject, one file each.
@@ -51,6 +55,7 @@ void ShellGet(ShellSession& ioSession, const ShellArguments& iArguments);
 void ShellSet(ShellSession& ioSession, const ShellArguments& iArguments);
 void ShellUnset(ShellSession& ioSession, const ShellArguments& iArguments);
 void ShellDefault(ShellSession& ioSession, const ShellArguments& iArguments);
+void ShellIsSet(ShellSession& ioSession, const ShellArguments& iArguments);
 void ShellAuto(ShellSession& ioSession, const ShellArguments& iArguments);
 
 void ShellChoices(ShellSession& ioSession, const ShellArguments& iArguments);
@@ -59,7 +64,12 @@ void ShellProhibit(ShellSession& ioSession, const ShellArguments& iArguments);
 void ShellAllow(ShellSession& ioSession, const ShellArguments& iArguments);
 void ShellReset(ShellSession& ioSession, const ShellArguments& iArguments);
 
+void ShellNew(ShellSession& ioSession, const ShellArguments& iArguments);
+void ShellInsert(ShellSession& ioSession, const ShellArguments& iArguments);
+void ShellDelete(ShellSession& ioSession, const ShellArguments& iArguments);
+
 void ShellErrors(ShellSession& ioSession, const ShellArguments& iArguments);
+void ShellUndo(ShellSession& ioSession, const ShellArguments& iArguments);
 void ShellSave(ShellSession& ioSession, const ShellArguments& iArguments);
 void ShellHelp(ShellSession& ioSession, const ShellArguments& iArguments);
 void ShellQuit(ShellSession& ioSession, const ShellArguments& iArguments);

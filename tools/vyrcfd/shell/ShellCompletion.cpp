@@ -3,9 +3,11 @@
 #include <sstream>
 
 #include "AttributeReader.h"
+#include "EntryList.h"
 #include "Failure.h"
 #include "ListNames.h"
 #include "ORXTypeCode.h"
+#include "PathCompletion.h"
 #include "ShellWords.h"
 #include "VYRICfdChoice.h"
 #include "VYRICfdChoiceMgr.h"
@@ -21,24 +23,6 @@ std::vector<Completion> Plain(const std::vector<std::string>& iTexts)
     for (const std::string& text : iTexts)
         completions.push_back({text, false});
     return completions;
-}
-
-std::vector<Completion> EntriesOf(const ORXISpecAttrAccess_var& iAccess, const std::string& iList,
-                                  const std::string& iStart)
-{
-    std::vector<Completion> completions;
-    const std::vector<ORXISpecObject_var> entries = ReadObjects(iAccess, iList);
-    const std::vector<std::string> names = ListNames(entries);
-    for (std::size_t i = 0; i < entries.size(); ++i)
-        if (!!entries[i])
-            completions.push_back({iStart + names[i], true});
-    return completions;
-}
-
-/// Whether a path goes on behind the attribute.
-bool LeadsOn(const VYRStandalone::AttributeInfo& iAttribute)
-{
-    return !IsScalar(iAttribute.type == tk_list ? iAttribute.listType : iAttribute.type);
 }
 
 /// Words that stand in the usage line as they are to be typed.
@@ -85,33 +69,29 @@ std::vector<Completion> ShellCompletion::Meanings(const std::string& iArgument, 
         return Plain(m_session.Configurations());
     if (iArgument == "COMMAND")
         return Plain(ShellCommandNames());
-    const bool isFree = iArgument == "VALUE" || iArgument == "CONDITION" || iArgument == "FILE";
+    if (iArgument == "TYPE")
+        return Plain(VYRStandalone::TypeNames());
+    if (iArgument == "VALUE" || iArgument == "ENTRY")
+        return Values(iBefore[1], iWord);
+    const bool isFree =
+        iArgument == "CONDITION" || iArgument == "FILE" || iArgument == "NAME" || iArgument == "POSITION";
     return isFree ? std::vector<Completion>() : Plain(Alternatives(iArgument));
+}
+
+std::vector<Completion> ShellCompletion::Values(const std::string& iPath, const std::string& iWord) const
+{
+    const VYRStandalone::AttributeInfo info = InfoOf(m_session.Attribute(iPath));
+    const int type = info.type == tk_list ? info.listType : info.type;
+    if (!IsScalar(type))
+        return Paths(iWord);
+    return Plain(type == tk_boolean ? std::vector<std::string>{"true", "false"} : info.values);
 }
 
 std::vector<Completion> ShellCompletion::Paths(const std::string& iWord) const
 {
-    const std::size_t slash = iWord.rfind('/');
-    return slash == std::string::npos ? Objects() : Below(iWord.substr(0, slash));
-}
-
-std::vector<Completion> ShellCompletion::Objects() const
-{
     std::vector<Completion> completions;
-    for (const std::string& name : ListNames(m_session.Model().Objects()))
-        completions.push_back({name, true});
-    return completions;
-}
-
-std::vector<Completion> ShellCompletion::Below(const std::string& iPath) const
-{
-    const Target target = FollowPath(m_session.Model(), {}, iPath);
-    const ORXISpecAttrAccess_var spAccess = target.object;
-    if (!target.attribute.empty())
-        return EntriesOf(spAccess, target.attribute, iPath + "/");
-    std::vector<Completion> completions;
-    for (const VYRStandalone::AttributeInfo& attribute : VYRStandalone::Attributes(target.object))
-        completions.push_back({iPath + "/" + attribute.name, LeadsOn(attribute)});
+    for (const PathCandidate& candidate : PathCandidates(m_session.Model(), iWord))
+        completions.push_back({candidate.text, candidate.leadsOn});
     return completions;
 }
 

@@ -23,9 +23,9 @@ public:
 private:
     std::vector<Completion> Meanings(const std::string& iArgument, const ShellArguments& iBefore,
                                      const std::string& iWord);
+    /// Values of an attribute of which there are but a few; objects for one that holds objects.
+    std::vector<Completion> Values(const std::string& iPath, const std::string& iWord) const;
     std::vector<Completion> Paths(const std::string& iWord) const;
-    std::vector<Completion> Objects() const;
-    std::vector<Completion> Below(const std::string& iPath) const;
     std::vector<Completion> Choices(const std::string& iCommand, const std::string& iPath) const;
 
     ShellSession& m_session;

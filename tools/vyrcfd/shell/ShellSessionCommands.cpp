@@ -1,41 +1,90 @@
 /**
  * @file
- * Commands on the session: errors, save, help, quit.
+ * Commands on the session: errors, undo, save, help, quit.
  */
 
+#include <sstream>
+
 #include "Failure.h"
-#include "Output.h"
+#include "Outcome.h"
 #include "ShellCommands.h"
 #include "Table.h"
 #include "Wording.h"
 
 namespace Tool
 {
+namespace
+{
+std::string CommandsText()
+{
+    std::vector<std::vector<std::string>> rows;
+    for (const ShellCommand& command : ShellCommands())
+        rows.push_back({command.usage, command.help});
+    return TableText(rows, {});
+}
+
+std::string CommandText(const ShellCommand& iCommand)
+{
+    std::string text = std::string(iCommand.usage) + "\n    " + iCommand.help + "\n";
+    std::istringstream more(iCommand.more);
+    for (std::string line; std::getline(more, line);)
+        text += "    " + line + "\n";
+    return text + "Example: " + iCommand.example + "\n";
+}
+
+void WriteCommand(JsonWriter& oWriter, const ShellCommand& iCommand)
+{
+    oWriter.StartObject();
+    WriteMember(oWriter, "usage", iCommand.usage);
+    WriteMember(oWriter, "help", iCommand.help);
+    WriteMember(oWriter, "example", iCommand.example);
+    oWriter.EndObject();
+}
+} // namespace
+
 void ShellErrors(ShellSession& ioSession, const ShellArguments&)
 {
+    const std::vector<ReportRecord>& reports = ioSession.Reports().ReportsSoFar();
     std::string text;
-    for (const std::string& report : ioSession.ReportsSoFar())
-        text += report + "\n";
-    Print(text.empty() ? "No reports.\n" : text);
+    for (const ReportRecord& report : reports)
+        text += ReportLine(report) + "\n";
+    ioSession.Say(MakeAnswer(text.empty() ? "No reports.\n" : text, [&](JsonWriter& oWriter) {
+        oWriter.StartArray();
+        for (const ReportRecord& report : reports)
+            WriteReport(oWriter, report);
+        oWriter.EndArray();
+    }));
+}
+
+void ShellUndo(ShellSession& ioSession, const ShellArguments&)
+{
+    ioSession.Undo();
 }
 
 void ShellSave(ShellSession& ioSession, const ShellArguments& iArguments)
 {
     if (!iArguments.empty() && iArguments[0].empty())
         throw Failure("\"\" names no file");
-    Print("Saved " + OneLine(ioSession.Save(iArguments.empty() ? std::string() : iArguments[0])) + ".\n");
+    const std::string file = OneLine(ioSession.Save(iArguments.empty() ? std::string() : iArguments[0]));
+    ioSession.Say(MakeAnswer("Saved " + file + ".\n", [&](JsonWriter& oWriter) { WriteText(oWriter, file); }));
 }
 
-void ShellHelp(ShellSession&, const ShellArguments& iArguments)
+void ShellHelp(ShellSession& ioSession, const ShellArguments& iArguments)
 {
-    const ShellCommand* wanted = iArguments.empty() ? nullptr : FindShellCommand(iArguments[0]);
-    if (!iArguments.empty() && wanted == nullptr)
+    if (iArguments.empty())
+    {
+        ioSession.Say(MakeAnswer(CommandsText(), [](JsonWriter& oWriter) {
+            oWriter.StartArray();
+            for (const ShellCommand& command : ShellCommands())
+                WriteCommand(oWriter, command);
+            oWriter.EndArray();
+        }));
+        return;
+    }
+    const ShellCommand* const command = FindShellCommand(iArguments[0]);
+    if (command == nullptr)
         throw Failure("no command " + Quoted(iArguments[0]) + DidYouMean(iArguments[0], ShellCommandNames()));
-    std::vector<std::vector<std::string>> rows;
-    for (const ShellCommand& command : ShellCommands())
-        if (wanted == nullptr || wanted == &command)
-            rows.push_back({command.usage, command.help});
-    Print(TableText(rows, {}));
+    ioSession.Say(MakeAnswer(CommandText(*command), [&](JsonWriter& oWriter) { WriteCommand(oWriter, *command); }));
 }
 
 void ShellQuit(ShellSession& ioSession, const ShellArguments&)

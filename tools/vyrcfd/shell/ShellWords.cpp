@@ -109,4 +109,12 @@ std::string AsWord(const std::string& iText)
     }
     return word + '"';
 }
+
+std::string JoinWords(const std::vector<std::string>& iWords)
+{
+    std::string line;
+    for (const std::string& word : iWords)
+        line += (line.empty() ? "" : " ") + AsWord(word);
+    return line;
+}
 } // namespace Tool

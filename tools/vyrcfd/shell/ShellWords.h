@@ -24,6 +24,9 @@ std::vector<std::string> WordsBefore(std::string_view iLine, std::size_t iWordSt
 
 /// The text as a word, in quotation marks where it needs them.
 std::string AsWord(const std::string& iText);
+
+/// A line that splits into the words.
+std::string JoinWords(const std::vector<std::string>& iWords);
 } // namespace Tool
 
 #endif

@@ -113,7 +113,6 @@ TerminalLines::TerminalLines(Completer iCompleter)
     // Standard output is the answers' alone where it does not go to the terminal.
     if (isatty(STDOUT_FILENO) == 0)
         rl_outstream = stderr;
-    using_history();
 }
 
 TerminalLines::~TerminalLines()
@@ -139,7 +138,7 @@ std::optional<std::string> TerminalLines::Next()
     }
     const std::string text = line.get();
     if (text.find_first_not_of(" \t") != std::string::npos)
-        add_history(text.c_str());
+        m_history.Add(text);
     return text;
 }
 } // namespace Tool

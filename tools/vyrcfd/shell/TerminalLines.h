@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "HistoryFile.h"
 #include "LineSource.h"
 
 namespace Tool
@@ -46,6 +47,9 @@ public:
     std::optional<std::string> Next() override;
     bool IsTerminal() const override { return true; }
     std::string Place() const override { return {}; }
+
+private:
+    HistoryFile m_history;
 };
 } // namespace Tool
 
