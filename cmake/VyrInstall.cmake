@@ -86,6 +86,10 @@ if(TARGET vyrcfd)
   # With the tool and not with the libraries' targets, so that they can be had without it.
   install(EXPORT VYRCfdToolTargets NAMESPACE VYRCfd:: DESTINATION "${config_folder}" COMPONENT tool)
 endif()
+if(TARGET vyrcfd_interface)
+  # Manual page and completions, laid out by the build as they are installed.
+  install(DIRECTORY "${PROJECT_BINARY_DIR}/share/" DESTINATION "${CMAKE_INSTALL_DATADIR}" COMPONENT tool)
+endif()
 
 install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" "${PROJECT_SOURCE_DIR}/CHANGELOG.md"
   DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT development)

@@ -30,6 +30,7 @@ is_there() {
         libmuparser-dev) has_header muParser.h && has_library libmuparser.so ;;
         liblua5.4-dev) has_header lua5.4/lua.h && has_library liblua5.4.so ;;
         binutils) command -v nm >/dev/null ;;
+        dpkg-dev) command -v dpkg-shlibdeps >/dev/null ;;
         python3-jsonschema) python3 -c "import jsonschema" 2>/dev/null ;;
         *) command -v "$1" >/dev/null ;;
     esac
