@@ -3,6 +3,8 @@
  * Where answers and models go to, and what happens when they cannot get there.
  */
 
+#include <csignal>
+
 #include "ToolTest.h"
 
 namespace
@@ -18,16 +20,32 @@ TEST_F(ToolTest, Answer_ThatCannotBeWritten_FailsTheJob)
     for (const char* argument : {"list", "--help"})
         EXPECT_EQ(Outcome(Run({argument}, full)),
                   Outcome(1, "vyrcfd: standard output: cannot be written: No space left on device\n"));
+}
+
+/// Status of a process that a write into a broken pipe has ended.
+constexpr int EndedByPipe = 128 + SIGPIPE;
+
+TEST_F(ToolTest, Answer_IntoBrokenPipe_EndsQuietlyByTheSignal)
+{
     ToolSettings broken{m_folder.Path()};
     broken.brokenPipe = true;
-    EXPECT_EQ(Outcome(Run({"list"}, broken)), Outcome(1, "vyrcfd: standard output: cannot be written: Broken pipe\n"));
+    for (const char* argument : {"list", "--help"})
+        EXPECT_EQ(Outcome(Run({argument}, broken)), Outcome(EndedByPipe, ""));
+}
+
+TEST_F(ToolTest, Apply_ToAFullDevice_FailsAndShowsNothing)
+{
+    const ToolRun run = Run({"apply", External, "Solver.1", "externalFlow", "-o", "/dev/full"});
+    EXPECT_EQ(Outcome(run), Outcome(1, "/dev/full: cannot be written: No space left on device\n"));
+    EXPECT_EQ(run.output, "");
 }
 
 TEST_F(ToolTest, Apply_IntoBrokenPipe_HasSavedTheWholeModel)
 {
     ToolSettings broken{m_folder.Path()};
     broken.brokenPipe = true;
-    EXPECT_EQ(Run({"apply", External, "Solver.1", "externalFlow", "-o", "piped.model.json"}, broken).status, 1);
+    EXPECT_EQ(Run({"apply", External, "Solver.1", "externalFlow", "-o", "piped.model.json"}, broken).status,
+              EndedByPipe);
     EXPECT_EQ(Run({"apply", External, "Solver.1", "externalFlow", "-o", "plain.model.json"}).status, 0);
     EXPECT_EQ(Read("piped.model.json"), Read("plain.model.json"));
     EXPECT_NE(Read("plain.model.json"), "");

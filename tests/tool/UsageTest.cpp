@@ -68,7 +68,8 @@ TEST_P(Help, NamesWhatTheCommandTakes)
     const ToolRun run = RunTool(arguments, {m_folder.Path()});
     EXPECT_EQ(Outcome(run), Outcome(0, ""));
     for (const std::string& text :
-         {command, std::string("--installation DIR"), std::string("--catalog FILE"), std::string("--json")})
+         {"Usage: vyrcfd " + (command == "COMMAND" ? "[OPTION...] " + command : command),
+          std::string("--installation DIR"), std::string("--catalog FILE"), std::string("--json")})
         EXPECT_NE(run.output.find(text), std::string::npos) << text << "\n" << run.output;
 }
 

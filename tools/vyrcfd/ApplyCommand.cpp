@@ -96,7 +96,7 @@ void AddApplyCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
         "{\"value\", \"set\", \"auto\"}, null where the object has no such attribute. \"change\" is \"changed\", "
         "\"new\", \"gone\" or \"replaced\", and only then there is \"oldType\". \"done\" is false for a "
         "configuration without items."
-        "\n\nExample:\n    vyrcfd apply wing.model.json Solver.1 externalFlow -o wing.model.json");
+        "\n\nExample:\n    vyrcfd apply wing.model.json Solver.1 externalFlow -o new.model.json");
     command->callback(
         [&ioOptions, &oJob, arguments] { oJob = [&ioOptions, arguments] { Apply(ioOptions, *arguments); }; });
 }

@@ -45,6 +45,7 @@ _vyrcfd() {
     answer=("${(@f)$("${(Q)words[1]}" interface complete -- "${(@Q)words[2,CURRENT]}" 2>/dev/null)}")
     from=${answer[1]%% *}
     suffix=${${answer[1]#$from}# }
+    compset -P '--*='
     case $from in
         folders) _files -/ ;;
         files) _files ${suffix:+-g} ${suffix:+"*$suffix"} ;;
@@ -74,18 +75,20 @@ function __vyrcfd_complete
     set -e words[1]
     set -l answer ($program interface complete -- $words "$current" 2>/dev/null)
     set -l source (string split -m 1 ' ' -- $answer[1])
+    # What stands in front of the value in one word with it.
+    set -l option (string match -r -- '^--[^=]*=' $current)
+    set -l value (string replace -r -- '^--[^=]*=' '' $current)
     switch "$source[1]"
         case folders
-            __fish_complete_directories "$current" ''
+            set answer (__fish_complete_directories "$value" '')
         case files
-            if set -q source[2]
-                __fish_complete_suffix $source[2]
-            else
-                __fish_complete_path "$current"
-            end
+            set -l suffix (string escape --style=regex -- "$source[2]")
+            set answer (__fish_complete_path "$value" | string match -r -- "^[^\t]*(?:/|$suffix)(?:\t.*)?\$")
         case '*'
             set -e answer[1]
-            test -z "$answer" || printf '%s\n' $answer
+    end
+    for one in $answer
+        echo -- "$option$one"
     end
 end
 

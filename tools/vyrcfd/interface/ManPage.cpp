@@ -110,19 +110,19 @@ std::string Paragraph(const std::string& iText)
 
 std::string Notes(const std::string& iNotes)
 {
-    constexpr std::size_t width = 70;
+    constexpr std::size_t width = 71;
     std::string text;
     bool isKept = false;
     for (const TextBlock& block : BlocksOf(iNotes))
     {
         if (block.isKept && !isKept)
-            text += ".PP\n.RS 2\n.nf\n";
+            text += ".PP\n.nf\n";
         if (!block.isKept && isKept)
-            text += ".fi\n.RE\n";
+            text += ".fi\n";
         isKept = block.isKept;
         text += isKept ? Escaped(WrappedLine(block.text, width)) : Paragraph(block.text);
     }
-    return text + (isKept ? ".fi\n.RE\n" : "");
+    return text + (isKept ? ".fi\n" : "");
 }
 
 std::string CommandSection(const CommandDescription& iProgram, const CommandDescription& iCommand)

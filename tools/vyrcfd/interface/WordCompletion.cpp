@@ -164,17 +164,29 @@ WordCompletion Argument(const WordsBefore& iBefore, const std::string& iWord)
     return {};
 }
 
-WordCompletion Everything(const CommandDescription& iProgram, const std::vector<std::string>& iWords)
+/// The words with the sign between an option and its value as a word of its own, as some shells give them.
+std::vector<std::string> Cut(const std::vector<std::string>& iWords)
+{
+    const std::size_t sign = iWords.empty() ? std::string::npos : iWords.back().find('=');
+    if (sign == std::string::npos || !iWords.back().starts_with("--"))
+        return iWords;
+    std::vector<std::string> words(iWords.begin(), iWords.end() - 1);
+    words.push_back(iWords.back().substr(0, sign));
+    words.push_back(iWords.back().substr(sign + 1));
+    return words;
+}
+
+WordCompletion Everything(const CommandDescription& iProgram, const std::vector<std::string>& iWords,
+                          const std::string& iWord)
 {
     const WordsBefore before(iProgram, iWords);
-    const std::string word = iWords.empty() || iWords.back() == "=" ? std::string() : iWords.back();
     if (before.Waiting() != nullptr)
-        return Values(before.Waiting()->kind, before, word);
-    if (before.MayBeOption() && word.starts_with('-'))
+        return Values(before.Waiting()->kind, before, iWord);
+    if (before.MayBeOption() && iWord.starts_with('-'))
         return {WordCompletion::Source::Candidates, "", Options(before.Command())};
     if (!before.Command().commands.empty())
         return {WordCompletion::Source::Candidates, "", Commands(before.Command())};
-    return Argument(before, word);
+    return Argument(before, iWord);
 }
 } // namespace
 
@@ -191,8 +203,9 @@ WordCompletion CompleteWord(const CommandDescription& iProgram, const std::vecto
 {
     try
     {
-        WordCompletion completion = Everything(iProgram, iWords);
-        const std::string word = iWords.empty() || iWords.back() == "=" ? std::string() : iWords.back();
+        const std::vector<std::string> words = Cut(iWords);
+        const std::string word = words.empty() || words.back() == "=" ? std::string() : words.back();
+        WordCompletion completion = Everything(iProgram, words, word);
         std::erase_if(completion.candidates, [&](const WordCompletion::Candidate& iOne) {
             // What does not fit on a line cannot be typed either.
             return !iOne.text.starts_with(word) || OneLine(iOne.text) != iOne.text;

@@ -41,7 +41,8 @@ struct WordCompletion
 
 /**
  * @param iWords behind the program's name, up to the one that is completed, which may be empty
- * @return nothing where nothing fits, also where a model or a configuration file cannot be read
+ * @return what the word, or behind an option and "=" its value, may become; nothing where nothing fits, also where a
+ * model or a configuration file cannot be read
  */
 WordCompletion CompleteWord(const CommandDescription& iProgram, const std::vector<std::string>& iWords);
 } // namespace Tool
