@@ -151,6 +151,10 @@ const ScriptRun AttributeScripts[] = {
      "    + roughness: 0\n"
      "\"kOmega\" (custom default)\n",
      ""},
+    {"DefaultManagement", Small,
+     "get Case.1/defaultManagement\nisset Case.1/defaultManagement\nauto Case.1/defaultManagement\n"
+     "default Case.1/defaultManagement\n",
+     "Case.1/defaultManagement\n(none)\n(none)\n(none)\n", ""},
     {"SetOfObjects", Small, "set Case.1/backup Case.1/probe\nset Case.1/spare Mesh\n",
      "Case.1  Case\n    backup: (empty) -> Case.1/probe, now set\n"
      "Case.1  Case\n    spare: column [1.5, 2.5] -> Case.1/spare, now set\n    mesh: Mesh -> Case.1/spare\n"
@@ -311,6 +315,10 @@ const FailingScript FailingCases[] = {
     {"SetOfReference", Small, "set Case.1/mesh Mash", "no top-level object \"Mash\""},
     {"SetOfReferenceToAttribute", Small, "set Case.1/mesh Mesh/cells", "\"Mesh/cells\" is an attribute, no object"},
     {"SetOfComponentToItsOwner", Small, "set Case.1/spare Case.1", "\"Case.1/spare\" did not take \"Case.1\""},
+    {"SetOfDefaultManagement", Small, "set Case.1/defaultManagement Mesh",
+     "\"Case.1/defaultManagement\" is a part that its object needs"},
+    {"SetToDefaultManagement", Small, "set Case.1/spare list/defaultManagement",
+     "\"list/defaultManagement\" is a part that its object needs"},
     {"UnsetWithoutDefaultManagement", Small, "unset Mesh/cells",
      "the object of \"Mesh/cells\" has no default management"},
     {"DefaultWithoutDefaultManagement", Small, "default Mesh/cells",
@@ -334,6 +342,7 @@ const FailingScript FailingCases[] = {
      "\"Flow.1/energy\" has no manager: the catalog does not mark its type VYRCfdChoice with \"manager\": true"},
     {"ResetWithoutManager", Flow, "reset Flow.1/energy",
      "\"Flow.1/energy\" has no manager: the catalog does not mark its type VYRCfdChoice with \"manager\": true"},
+    {"ResetOfNoChoice", Flow, "reset Flow.1", "\"Flow.1\" is no Choice, but of type Flow"},
     {"ResetMisspelt", Flow, "reset Flow.1/solver kept", "\"kept\" is not keep"},
     {"SaveNowhere", Small, "save nowhere/out.model.json",
      "nowhere/out.model.json: cannot be written: No such file or directory"},

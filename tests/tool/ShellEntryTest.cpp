@@ -166,6 +166,8 @@ const FailingScript FailingCases[] = {
     {"InsertOfAttribute", Small, "insert Case.1/watched Case.1/title", "\"Case.1/title\" is an attribute, no object"},
     {"InsertIntoItself", Small, "insert Case.1/probes Case.1",
      "\"Case.1/probes\" did not take the object, which must not come to stand inside of itself"},
+    {"InsertOfDefaultManagement", Small, "insert Case.1/probes list/defaultManagement",
+     "\"list/defaultManagement\" is a part that its object needs"},
     {"DeleteOfNothing", Small, "delete Cavty", "no top-level object \"Cavty\"; did you mean \"Cavity\"?"},
     {"DeleteOfValue", Small, "delete Case.1/title",
      "\"Case.1/title\" is a value, which unset puts back on its default"},

@@ -170,13 +170,22 @@ const CompletedLine Completed[] = {
     {"Word", "reset Flow.1/solver k\t", "-> [\"direct\", \"conjugate gradient\", \"gmres\"]"},
     {"HelpTopic", "help unse\t", "unset PATH\n    puts"},
     {"Type", "new TurbulenceCh\tT", "T  TurbulenceChoice  new"},
-    {"EntryOfAList", "insert Flow.1/wai\t\x15get Flow.1/speed", "\n10\n"},
+    {"ValueOfAChoice", "set Flow.1/turbulence/value spal\t", "    value: \"kOmega\" -> \"spalart\"\n"},
     {"ValueOfAnObjectAttribute", "set Flow.1/energy/Data Flow.1/turbulence/Da\t",
      "Data: (empty) -> Flow.1/energy/Data"},
     {"File", "save fl\t", "Saved flow.model.json."},
 };
 INSTANTIATE_TEST_SUITE_P(Terminal, CompletedLines, testing::ValuesIn(Completed),
                          [](const auto& iInfo) { return iInfo.param.name; });
+
+TEST_F(ShellTest, Completion_OffersValuesOfWhichThereAreFew)
+{
+    const ToolRun run =
+        Session(Small, {"insert Case.1/order sec\t1\r", "set Case.1/steady fa\t\r", "default Case.1/scheme up\t\r"});
+    EXPECT_TRUE(Contains(run.output, "order: [second, first] -> [second, second, first]")) << run.output;
+    EXPECT_TRUE(Contains(run.output, "steady: (unset) -> false")) << run.output;
+    EXPECT_TRUE(Contains(run.output, "default Case.1/scheme upwind")) << run.output;
+}
 
 TEST_F(ShellTest, Completion_ListsWhatIsPossible_AndChangesNothing)
 {

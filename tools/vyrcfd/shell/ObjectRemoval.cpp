@@ -5,6 +5,7 @@
 
 #include "AttributeReader.h"
 #include "Failure.h"
+#include "ModelSurvey.h"
 #include "ORXTypeCode.h"
 #include "VYRStandaloneCatalog.h"
 #include "Wording.h"
@@ -115,5 +116,12 @@ void RemoveObject(const VYRStandalone::Model& iModel, const ORXISpecObject_var& 
         GiveAway(iObject);
     else
         ForHolders(spOwner, tk_component, [&](const Holder& iHolder) { iHolder.GiveUp({iObject->GetImpl(0)}); });
+}
+
+void CheckMayLeave(const ORXISpecObject_var& iObject, const std::string& iPath)
+{
+    const ORXISpecObject_var spOwner = ORXISpecObject_var::Adopt(iObject->GetOwner());
+    if (!!spOwner && iObject->IsEqual(ModelSurvey::DefaultManagementOf(spOwner).Pointer()) != 0)
+        throw Failure(Quoted(iPath) + " is a part that its object needs");
 }
 } // namespace Tool

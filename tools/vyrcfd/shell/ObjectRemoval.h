@@ -6,6 +6,8 @@
  * Taking objects out of a model.
  */
 
+#include <string>
+
 #include "ORXISpecObject.h"
 #include "VYRStandaloneModel.h"
 
@@ -18,6 +20,10 @@ namespace Tool
  * @throws Failure when the host refuses; what was done until then stays
  */
 void RemoveObject(const VYRStandalone::Model& iModel, const ORXISpecObject_var& iObject);
+
+/// @param iPath of the object, for messages
+/// @throws Failure for default management of an object, which could not work without it
+void CheckMayLeave(const ORXISpecObject_var& iObject, const std::string& iPath);
 } // namespace Tool
 
 #endif

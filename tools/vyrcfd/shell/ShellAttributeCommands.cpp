@@ -10,6 +10,7 @@
 #include "ORXCkeGlobalFunctions.h"
 #include "ORXICkeParm.h"
 #include "ORXTypeCode.h"
+#include "ObjectRemoval.h"
 #include "QuietDefaults.h"
 #include "ShellCommands.h"
 #include "Unreadable.h"
@@ -60,7 +61,7 @@ void CheckReadable(const ORXICkeParm_var& iParm, const AttributeSnapshot& iAttri
 void SetDefault(ShellSession& ioSession, const Target& iTarget, const ShellArguments& iArguments)
 {
     const std::string& path = iArguments[0];
-    const AttributeSnapshot attribute = ioSession.Read(iTarget, path).attributes.front();
+    const AttributeSnapshot attribute = ioSession.Read(iTarget, path);
     const VYRIMpaDefaultManagementProtected_var spDefMgmt = DefaultManagementOf(iTarget, path);
     CheckReadable(ParameterOf(iTarget, attribute, path), attribute, iArguments[1], path);
     ioSession.Change(
@@ -74,9 +75,9 @@ void SetDefault(ShellSession& ioSession, const Target& iTarget, const ShellArgum
 
 void ShowDefault(ShellSession& ioSession, const Target& iTarget, const std::string& iPath)
 {
-    const ObjectSnapshot object = ioSession.Read(iTarget, iPath);
     DefaultManagementOf(iTarget, iPath);
-    const AttributeDefault byDefault = QuietDefaults(ioSession.Model()).Of(object, object.attributes.front());
+    const ObjectSnapshot object = TakeSnapshot(ioSession.Model(), iTarget.object, iPath, iTarget.attribute).front();
+    const AttributeDefault byDefault = QuietDefaults(ioSession.Model()).Of(object, ioSession.Read(iTarget, iPath));
     ioSession.Say(MakeAnswer((byDefault.origin == DefaultOrigin::None ? "(none)" : byDefault.Shown()) + "\n",
                              [&](JsonWriter& oWriter) { byDefault.value.Write(oWriter); }));
 }
@@ -88,10 +89,16 @@ void ShowFlag(ShellSession& ioSession, const std::optional<bool>& iFlag, const s
     ioSession.Say({word + "\n", !iFlag ? "null" : *iFlag ? "true" : "false"});
 }
 
-void SetObject(ShellSession& ioSession, const Target& iTarget, const ShellArguments& iArguments)
+/// @param iType of the attribute @throws Failure
+void SetObject(ShellSession& ioSession, const Target& iTarget, int iType, const ShellArguments& iArguments)
 {
     const ORXISpecObject_var spObject = ioSession.Object(iArguments[1]);
     const ORXISpecAttrAccess_var spAccess = iTarget.object;
+    const ORXISpecObject_var spFormer = ReadObject(spAccess, iTarget.attribute);
+    if (iType == tk_component)
+        CheckMayLeave(spObject, iArguments[1]);
+    if (iType == tk_component && !!spFormer)
+        CheckMayLeave(spFormer, iArguments[0]);
     const ORXISpecAttrKey_var spKey = ORXISpecAttrKey_var::Adopt(spAccess->GetAttrKey(iTarget.attribute.c_str()));
     ioSession.Change([&] {
         if (spAccess->SetSpecObject(spKey, spObject) < 0)
@@ -103,7 +110,7 @@ void SetObject(ShellSession& ioSession, const Target& iTarget, const ShellArgume
 void ShellGet(ShellSession& ioSession, const ShellArguments& iArguments)
 {
     const Target target = ioSession.Attribute(iArguments[0]);
-    const Value value = ioSession.Read(target, iArguments[0]).attributes.front().value;
+    const Value value = ioSession.Read(target, iArguments[0]).value;
     ioSession.Say(MakeAnswer(value.Shown() + "\n", [&](JsonWriter& oWriter) { value.Write(oWriter); }));
 }
 
@@ -111,10 +118,10 @@ void ShellSet(ShellSession& ioSession, const ShellArguments& iArguments)
 {
     const std::string& path = iArguments[0];
     const Target target = ioSession.Attribute(path);
-    const AttributeSnapshot attribute = ioSession.Read(target, path).attributes.front();
+    const AttributeSnapshot attribute = ioSession.Read(target, path);
     if (attribute.info.type == tk_component || attribute.info.type == tk_specobject)
     {
-        SetObject(ioSession, target, iArguments);
+        SetObject(ioSession, target, attribute.info.type, iArguments);
         return;
     }
     const ORXICkeParm_var spParm = ParameterOf(target, attribute, path);
@@ -146,7 +153,7 @@ void ShellIsSet(ShellSession& ioSession, const ShellArguments& iArguments)
     const Target target = ioSession.Attribute(iArguments[0]);
     DefaultManagementOf(target, iArguments[0]);
     // Default management would make the flag when it was asked.
-    ShowFlag(ioSession, ioSession.Read(target, iArguments[0]).attributes.front().set, {"true", "false", "(none)"});
+    ShowFlag(ioSession, ioSession.Read(target, iArguments[0]).set, {"true", "false", "(none)"});
 }
 
 void ShellAuto(ShellSession& ioSession, const ShellArguments& iArguments)
@@ -155,8 +162,7 @@ void ShellAuto(ShellSession& ioSession, const ShellArguments& iArguments)
     const VYRIMpaDefaultManagementProtected_var spDefMgmt = DefaultManagementOf(target, iArguments[0]);
     if (iArguments.size() == 1)
     {
-        ShowFlag(ioSession, ioSession.Read(target, iArguments[0]).attributes.front().automatic,
-                 {"on", "off", "(none)"});
+        ShowFlag(ioSession, ioSession.Read(target, iArguments[0]).automatic, {"on", "off", "(none)"});
         return;
     }
     if (iArguments[1] != "on" && iArguments[1] != "off")

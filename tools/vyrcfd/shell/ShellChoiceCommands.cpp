@@ -164,6 +164,6 @@ void ShellReset(ShellSession& ioSession, const ShellArguments& iArguments)
         throw Failure(Quoted(iArguments[1]) + " is not keep");
     const VYRICfdChoiceMgr_var spManager = ManagerAt(ioSession, iArguments[0]);
     ioSession.Change([&] { Succeed(spManager->Reset(isKept ? 1 : 0), Quoted(iArguments[0]) + " could not be reset"); },
-                     isKept ? ShellSession::Touches::CustomDefaults : ShellSession::Touches::Model);
+                     ShellSession::Touches::CustomDefaults);
 }
 } // namespace Tool

@@ -64,7 +64,7 @@ std::vector<Completion> ShellCompletion::Meanings(const std::string& iArgument, 
     if (iArgument == "PATH")
         return Paths(iWord);
     if (iArgument == "CHOICE")
-        return Choices(iBefore[0], iBefore[1]);
+        return Choices(iBefore[0], m_session.Object(iBefore[1]));
     if (iArgument == "CONFIG")
         return Plain(m_session.Configurations());
     if (iArgument == "COMMAND")
@@ -80,7 +80,10 @@ std::vector<Completion> ShellCompletion::Meanings(const std::string& iArgument, 
 
 std::vector<Completion> ShellCompletion::Values(const std::string& iPath, const std::string& iWord) const
 {
-    const VYRStandalone::AttributeInfo info = InfoOf(m_session.Attribute(iPath));
+    const Target target = m_session.Attribute(iPath);
+    const VYRStandalone::AttributeInfo info = InfoOf(target);
+    if (info.name == "value" && !!VYRICfdChoice_var(target.object))
+        return Choices({}, target.object);
     const int type = info.type == tk_list ? info.listType : info.type;
     if (!IsScalar(type))
         return Paths(iWord);
@@ -95,15 +98,14 @@ std::vector<Completion> ShellCompletion::Paths(const std::string& iWord) const
     return completions;
 }
 
-std::vector<Completion> ShellCompletion::Choices(const std::string& iCommand, const std::string& iPath) const
+std::vector<Completion> ShellCompletion::Choices(const std::string& iCommand, const ORXISpecObject_var& iObject) const
 {
-    const ORXISpecObject_var spObject = m_session.Object(iPath);
     std::vector<ORXUnicodeString> choices;
     ORXUnicodeString byDefault;
     // What is to be put back is not offered now.
-    if (const VYRICfdChoiceMgr_var spManager = spObject; iCommand == "allow" && !!spManager)
+    if (const VYRICfdChoiceMgr_var spManager = iObject; iCommand == "allow" && !!spManager)
         spManager->GetAllChoices(choices, byDefault);
-    else if (const VYRICfdChoice_var spChoice = spObject; !!spChoice)
+    else if (const VYRICfdChoice_var spChoice = iObject; !!spChoice)
         spChoice->GetListOfChoices(choices);
     std::vector<Completion> completions;
     for (const ORXUnicodeString& choice : choices)

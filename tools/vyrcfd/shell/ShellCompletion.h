@@ -26,7 +26,7 @@ private:
     /// Values of an attribute of which there are but a few; objects for one that holds objects.
     std::vector<Completion> Values(const std::string& iPath, const std::string& iWord) const;
     std::vector<Completion> Paths(const std::string& iWord) const;
-    std::vector<Completion> Choices(const std::string& iCommand, const std::string& iPath) const;
+    std::vector<Completion> Choices(const std::string& iCommand, const ORXISpecObject_var& iObject) const;
 
     ShellSession& m_session;
 };

@@ -10,7 +10,6 @@
 #include "EntryList.h"
 #include "Failure.h"
 #include "ListNames.h"
-#include "ModelSurvey.h"
 #include "ORXTypeCode.h"
 #include "ObjectRemoval.h"
 #include "ShellCommands.h"
@@ -86,12 +85,9 @@ Step LastStep(const ShellSession& iSession, const std::string& iPath)
     return {owner, PositionOf(EntryList(owner, head), spObject, name)};
 }
 
-/// @throws Failure for default management, without which its object could not work
 void DeleteObject(ShellSession& ioSession, const ORXISpecObject_var& iObject, const std::string& iPath)
 {
-    const ORXISpecObject_var spOwner = ORXISpecObject_var::Adopt(iObject->GetOwner());
-    if (!!spOwner && iObject->IsEqual(ModelSurvey::DefaultManagementOf(spOwner).Pointer()) != 0)
-        throw Failure(Quoted(iPath) + " is a part that its object needs");
+    CheckMayLeave(iObject, iPath);
     ioSession.Change([&] { RemoveObject(ioSession.Model(), iObject); });
 }
 
@@ -177,6 +173,8 @@ void ShellInsert(ShellSession& ioSession, const ShellArguments& iArguments)
     const int behind = list.Size() + 1;
     const int position = iArguments.size() == 3 ? list.Position(iArguments[2], behind) : behind;
     const ORXISpecObject_var spObject = list.HoldsObjects() ? ioSession.Object(iArguments[1]) : ORXISpecObject_var();
+    if (list.HoldsParts())
+        CheckMayLeave(spObject, iArguments[1]);
     ioSession.Change([&] {
         if (!!spObject)
             list.Insert(spObject, position);

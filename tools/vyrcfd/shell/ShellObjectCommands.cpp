@@ -121,7 +121,7 @@ void ShellApply(ShellSession& ioSession, const ShellArguments& iArguments)
     const ORXISpecObject_var spObject = ioSession.Object(iArguments[0]);
     const Configuring configuring{{}, iArguments[0], iArguments[1], ioSession.Configurations()};
     bool isDone = true;
-    ioSession.Change([&] { isDone = Configure(spObject, configuring); });
+    ioSession.Change([&] { isDone = Configure(spObject, configuring); }, ShellSession::Touches::CustomDefaults);
     if (!isDone)
         ioSession.Reports().Note(Quoted(iArguments[1]) + " has no items");
 }

@@ -4,6 +4,7 @@
 
 #include "ApplyText.h"
 #include "ConfigurationFiles.h"
+#include "EntryList.h"
 #include "Failure.h"
 #include "Rebase.h"
 #include "Uninterrupted.h"
@@ -23,9 +24,13 @@ void ShellSession::Begin(std::string iCommand)
     m_answer = {};
 }
 
-ObjectSnapshot ShellSession::Read(const Target& iAttribute, const std::string& iPath) const
+AttributeSnapshot ShellSession::Read(const Target& iAttribute, const std::string& iPath) const
 {
-    return TakeSnapshot(m_model, iAttribute.object, iPath, iAttribute.attribute).front();
+    const ObjectSnapshot object = TakeSnapshot(m_model, iAttribute.object, iPath, iAttribute.attribute).front();
+    if (!object.attributes.empty())
+        return object.attributes.front();
+    // Default management is no attribute to whoever looks at the object as a whole.
+    return {InfoOf(iAttribute), Value::Word(object.path + "/" + iAttribute.attribute), std::nullopt, std::nullopt};
 }
 
 void ShellSession::Change(const std::function<void()>& iWork, Touches iTouches)

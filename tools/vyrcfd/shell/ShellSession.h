@@ -47,7 +47,7 @@ public:
     ORXISpecObject_var Object(const std::string& iPath) const { return FollowToObject(m_model, {}, iPath); }
     Target Attribute(const std::string& iPath) const { return FollowToAttribute(m_model, {}, iPath); }
     /// The attribute with its value and its flags.
-    ObjectSnapshot Read(const Target& iAttribute, const std::string& iPath) const;
+    AttributeSnapshot Read(const Target& iAttribute, const std::string& iPath) const;
 
     enum class Touches
     {
