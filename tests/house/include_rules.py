@@ -46,7 +46,7 @@ NARROWER = {
     "tests/contract": ((HOST, OWN, "tests/support/NumberTexts.h", "tests/support/TemporaryFolder.h"),
                        {"tests/contract/StandaloneHostUnderTest.cpp"}),
     # Another host, and a program on it.
-    "tests/secondhost": ((HOST, MODULE_FACE, OWN), set()),
+    "tests/secondhost": ((HOST, MODULE_FACE, OWN, "tests/contract/HostUnderTest.h"), set()),
 }
 
 STANDARD_HEADERS = frozenset(

@@ -5,8 +5,6 @@
 
 #include "Component.h"
 
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
 
 #include "ORXOmxInternals.h"
@@ -23,8 +21,7 @@ constexpr std::uintptr_t OneReference = 4;
 
 void SecondHost::NotOffered(const char* iWhat)
 {
-    std::fprintf(stderr, "second host: %s is not offered\n", iWhat);
-    std::abort();
+    throw FatalError(Fault::NotOffered, std::string(iWhat) + " is not offered");
 }
 
 int SecondHost::LiveComponents()
@@ -34,12 +31,12 @@ int SecondHost::LiveComponents()
 
 void ORXThrowErrorNullVar()
 {
-    SecondHost::NotOffered("a call through a null handle");
+    throw SecondHost::FatalError(SecondHost::Fault::NullHandle, "a call through a null handle");
 }
 
 void ORXOmx::Internals::NullPointerAssertion()
 {
-    SecondHost::NotOffered("a null pointer in its place");
+    throw SecondHost::FatalError(SecondHost::Fault::NullPointer, "a null pointer where there must be none");
 }
 
 bool ORXSameComponent(IUnknown* iLeft, IUnknown* iRight) noexcept
@@ -104,7 +101,11 @@ unsigned int ORXBaseUnknown::Release()
     m_state -= OneReference;
     const unsigned int left = static_cast<unsigned int>(m_state / OneReference);
     if (left == 0)
+    {
+        // A destructor may hand itself out for a moment; that must not delete it again.
+        m_state = OneReference;
         delete this;
+    }
     return left;
 }
 

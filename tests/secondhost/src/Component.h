@@ -39,7 +39,7 @@ private:
     ORXBaseUnknown& m_root;
 };
 
-/// Ends the process: the operation needs something that this host does not have.
+/// Throws: the operation needs something that this host does not have.
 [[noreturn]] void NotOffered(const char* iWhat);
 } // namespace SecondHost
 

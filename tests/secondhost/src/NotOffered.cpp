@@ -1,14 +1,13 @@
 /**
  * @file
- * What the module can be linked with, and the cursor and the conditions do not call: extensions and the dictionary,
- * documents, creation of objects, notifications. Whoever brings the whole module to a host begins here.
+ * What the module is linked with, and the cursor and the conditions do not call: extensions and the dictionary,
+ * notifications, documents. Whoever brings the whole module to a host begins here.
  */
 
 #include "Component.h"
 #include "JIStream.h"
 #include "ORXEnvironment.h"
 #include "ORXIParmPublisher.h"
-#include "ORXSimBCInitializeServices.h"
 #include "ORXSimFeatureInstanceAdp.h"
 #include "ORXTie.h"
 #include "VYRCfdAttributeNotification.h"
@@ -66,6 +65,14 @@ unsigned int Tie_Release(int*, ORXTieRecord&, ENUMTypeOfClass)
 void Tie_Destruct(ORXTieRecord&, ENUMTypeOfClass)
 {
     NotOffered("Tie_Destruct");
+}
+
+ORXMetaClass::ORXMetaClass(const char* iClassName, ENUMTypeOfClass iKind, const IID& iInterface, ORXMetaClass* iBase,
+                           const char* iLateType, ORXMetaClass* iServed)
+    : m_className(iClassName), m_kind(iKind), m_interface(iInterface), m_base(iBase), m_lateType(iLateType),
+      m_served(iServed)
+{
+    NotOffered("ORXMetaClass");
 }
 
 int ORXMetaClass::IsAKindOf(const char*) const noexcept
@@ -272,13 +279,7 @@ VYRCfdConfigurableTransaction::VYRCfdConfigurableTransaction(const VYRICfdConfig
 
 VYRCfdConfigurableTransaction::~VYRCfdConfigurableTransaction() noexcept(false) = default;
 
-// ---- objects and documents ------------------------------------------------------------------------------------------
-
-HRESULT ORXSimBCInitializeServices::CreateBasicComponent(const ORXUnicodeString&, const ORXUnicodeString&,
-                                                         ORXIContainer_var&, ORXISpecObject_var&)
-{
-    return E_FAIL;
-}
+// ---- documents ------------------------------------------------------------------------------------------------------
 
 const char* ORXFindPath(const char*, const char*)
 {

@@ -17,7 +17,14 @@ bool HoldsObjects(int iType)
 ORXISpecObject_var Make(const char* iType, const char* iName)
 {
     const Type* const type = FindType(iType);
-    return type != nullptr ? ORXISpecObject_var(ORXBaseUnknown_var::Adopt(new Object(*type, iName))) : NULL_var;
+    if (type == nullptr)
+        return NULL_var;
+    const ORXISpecObject_var object = ORXBaseUnknown_var::Adopt(new Object(*type, iName));
+    const ORXISpecAttrAccess_var access = object;
+    for (Key* const key : type->keys)
+        if (!key->Part().empty())
+            access->SetSpecObject(key, Make(key->Part().c_str(), key->Part().c_str()));
+    return object;
 }
 
 Object::Object(const Type& iType, const char* iName)

@@ -3,7 +3,6 @@
 #include <map>
 
 #include "ORXSpecAttrKeyServices.h"
-#include "SecondHost.h"
 
 namespace SecondHost
 {
@@ -25,11 +24,13 @@ const Type* FindType(const std::string& iName)
 
 void Declare(const char* iType, const char* iBase, const std::vector<Attribute>& iAttributes)
 {
+    if (FindType(iType) != nullptr)
+        return;
     Type type{iType, FindType(iBase), {}};
     if (type.base != nullptr)
         type.keys = type.base->keys;
     for (const Attribute& attribute : iAttributes)
-        type.keys.push_back(new Key(attribute.name, attribute.type, attribute.listType, type.keys.size()));
+        type.keys.push_back(::new Key(attribute, type.keys.size()));
     Types().emplace(iType, type);
 }
 } // namespace SecondHost

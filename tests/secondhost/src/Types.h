@@ -6,15 +6,18 @@
 
 #include "Component.h"
 #include "ORXISpecAttrKey.h"
+#include "SecondHost.h"
 
 namespace SecondHost
 {
-/// One attribute of a type and of the types that derive from it. It is never released by its type, so it never dies.
+/// One attribute of a type and of the types that derive from it. Its type never releases it, so it never dies, and is
+/// not counted among what can die.
 class Key final : public Component<ORXISpecAttrKey>
 {
 public:
-    Key(const char* iName, int iType, int iListType, std::size_t iSlot)
-        : m_name(iName), m_type(iType), m_listType(iListType), m_slot(iSlot)
+    Key(const Attribute& iAttribute, std::size_t iSlot)
+        : m_name(iAttribute.name), m_part(iAttribute.part), m_type(iAttribute.type), m_listType(iAttribute.listType),
+          m_slot(iSlot)
     {
     }
 
@@ -23,10 +26,13 @@ public:
     ORXUnicodeString GetName() override { return m_name; }
 
     const ORXUnicodeString& Name() const { return m_name; }
+    /// Type of the component that comes with its owner; empty for none.
+    const std::string& Part() const { return m_part; }
     std::size_t Slot() const { return m_slot; }
 
 private:
     ORXUnicodeString m_name;
+    std::string m_part;
     int m_type;
     int m_listType;
     std::size_t m_slot;
