@@ -195,6 +195,8 @@ check() {
 }
 
 mkdir -p "$work"
+# What an earlier run has left must not stand in for what cannot be made now.
+rm -rf "$work/moved"
 check "the shared tree is installed" install_shared
 shared=$work/moved/shared
 check "the static tree is installed" install_static

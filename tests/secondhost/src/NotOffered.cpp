@@ -133,6 +133,7 @@ ORXMetaClass* VYRIMpaDefaultManagementProtected::MetaObject()
 
 // ---- the knowledge side of objects ----------------------------------------------------------------------------------
 
+// No adapter is ever made, so that the other operations are for the linker only.
 ORXKweInstanceAdapter::ORXKweInstanceAdapter()
 {
     NotOffered("ORXKweInstanceAdapter");
@@ -283,35 +284,35 @@ VYRCfdConfigurableTransaction::~VYRCfdConfigurableTransaction() noexcept(false) 
 
 const char* ORXFindPath(const char*, const char*)
 {
-    return nullptr;
+    NotOffered("ORXFindPath");
 }
 
 bool JSON::JIStream::ParseFile(const char*, bool)
 {
-    return false;
+    NotOffered("JIStream::ParseFile");
 }
 
 std::vector<JSON::JIStream> JSON::JIStream::ReadObjects(const char*) const
 {
-    return {};
+    NotOffered("JIStream::ReadObjects");
 }
 
 ORXUnicodeString JSON::JIStream::ReadString(const char*) const
 {
-    return {};
+    NotOffered("JIStream::ReadString");
 }
 
 ORXUnicodeString JSON::JIStream::ReadString(const ORXUnicodeString&) const
 {
-    return {};
+    NotOffered("JIStream::ReadString");
 }
 
 bool JSON::JIStream::ReadBoolean(const ORXUnicodeString&) const
 {
-    return false;
+    NotOffered("JIStream::ReadBoolean");
 }
 
 bool JSON::JIStream::Exist(const ORXUnicodeString&) const
 {
-    return false;
+    NotOffered("JIStream::Exist");
 }
