@@ -15,6 +15,10 @@
 #include "ORXListValORXUnicodeString.h"
 #include "ORXUnicodeString.h"
 #include "VYRCfdBaseExport.h"
+#include "VYRCfdTraceManager.h"
+
+class ORXSpecAttrShortcuts;
+struct ORXSpecAttrPlace;
 
 /// Gives the key of one attribute, borrowed; see ORXKeySetVYRCfdBase.
 using VYRCfdKeyFunction = ORXISpecAttrKey* (*)(ORXISpecAttrAccess* iAccess);
@@ -50,8 +54,17 @@ public:
     VYRCfdObjectAccess(const ORXBaseUnknown_var& iObject);
     /// An error cursor with this text; an empty text gives the empty cursor.
     VYRCfdObjectAccess(const ORXUnicodeString& iError);
-    VYRCfdObjectAccess(const VYRCfdObjectAccess& iOther);
-    virtual ~VYRCfdObjectAccess();
+    VYRCfdObjectAccess(const VYRCfdObjectAccess& iOther)
+        : _spAttr(iOther._spAttr), _spKey(iOther._spKey), _error(iOther._error)
+    {
+        if (IsTraced())
+            TraceConstructor();
+    }
+    virtual ~VYRCfdObjectAccess()
+    {
+        if (IsTraced())
+            TraceDestructor();
+    }
 
     VYRCfdObjectAccess& operator=(const VYRCfdObjectAccess& iOther);
     /// To an object cursor; "Null initialization a" for null. Unlike the constructor it takes a component that gives no
@@ -219,12 +232,34 @@ public:
     HRESULT CleanList(const GUID& iInterface) const;
 
 private:
+    class Place;
+
+    /// @name The function scopes of what is inline here, since each link of a chain makes and ends a cursor.
+    /// @{
+    static bool IsTraced() noexcept
+    {
+        const ORXTrace* const channel = VYRCfdTraceManager::_Features;
+        return channel != nullptr && channel->IsActive();
+    }
+    static void TraceConstructor();
+    static void TraceDestructor();
+    /// @}
+
     VYRCfdObjectAccess(ORXISpecAttrAccess_var iAttr, ORXISpecAttrKey_var iKey);
+    /// Takes the references over.
+    explicit VYRCfdObjectAccess(const ORXSpecAttrPlace& iPlace);
 
     VYRCfdObjectAccess ObjectAt(ORXISpecAttrKey* iKey, int iIndex) const;
     VYRCfdObjectAccess GetOnObject(const ORXUnicodeString& iName) const;
     VYRCfdObjectAccess GetInList(const ORXUnicodeString& iName) const;
     bool IsCurrentChoice(const ORXUnicodeString& iName) const;
+
+    /// What the host offers for plain steps from here; null where single operations have to be called.
+    ORXSpecAttrShortcuts* Shortcuts() const;
+    /// Goes along a path as far as shortcuts lead. @param oBegin where the path goes on; its length where nothing is
+    /// left
+    /// @return false when no step was taken
+    bool FollowPath(const ORXUnicodeString& iPath, int& oBegin, ORXSpecAttrPlace& oReached) const;
 
     // Checks and reads that operations share; they report under the name of the operation.
     HRESULT CheckNoError(const char* iFunction) const;

@@ -6,6 +6,7 @@
  * List of component handles, 1-based. A value class.
  */
 
+#include <utility>
 #include <vector>
 
 #include "ORXBaseUnknown.h"
@@ -27,6 +28,10 @@ public:
     const ORXBaseUnknown_var& operator[](int iPosition) const { return m_entries[Offset(iPosition)]; }
 
     void Append(const ORXBaseUnknown_var& iEntry) { m_entries.push_back(iEntry); }
+    void Append(ORXBaseUnknown_var&& ioEntry) { m_entries.push_back(std::move(ioEntry)); }
+
+    /// Takes memory for so many entries, for who is going to append them.
+    void Reserve(int iEntries) { m_entries.reserve(static_cast<std::size_t>(iEntries)); }
 
     /// Takes the entry out; those behind it move down by one.
     void RemovePosition(int iPosition) { m_entries.erase(m_entries.begin() + (iPosition - 1)); }

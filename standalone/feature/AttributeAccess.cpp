@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <typeinfo>
 
 #include "FeatureObject.h"
 #include "Instruments.h"
@@ -60,13 +59,6 @@ std::string TextList(const ORXListValORXUnicodeString& iValues)
     return text + ']';
 }
 } // namespace
-
-FeatureObject* AttributeAccess::ObjectOf(ORXISpecAttrAccess* iAccess) noexcept
-{
-    if (iAccess == nullptr || !(typeid(*iAccess) == typeid(AttributeAccess)))
-        return nullptr;
-    return &static_cast<AttributeAccess*>(iAccess)->m_object;
-}
 
 HRESULT AttributeAccess::QueryInterface(const IID& iInterface, void** oInterface)
 {
@@ -427,9 +419,12 @@ ORXListValORXBaseUnknown_var* AttributeAccess::ListObjects(ORXISpecAttrKey* iKey
         return nullptr;
     auto list = std::make_unique<ORXListValORXBaseUnknown_var>();
     const FeatureKey* const key = m_object.Carried(iKey);
-    if (key != nullptr && key->IsListOfObjects())
-        for (FeatureObject* const object : std::get<Objects>(m_object.Entries(*key)))
-            list->Append(ORXBaseUnknown_var::Share(object));
+    if (key == nullptr || !key->IsListOfObjects())
+        return list.release();
+    const Objects& objects = std::get<Objects>(m_object.Entries(*key));
+    list->Reserve(static_cast<int>(objects.size()));
+    for (FeatureObject* const object : objects)
+        list->Append(ORXBaseUnknown_var::Share(object));
     return list.release();
 }
 

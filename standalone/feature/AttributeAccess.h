@@ -2,6 +2,7 @@
 #define AttributeAccess_H
 
 #include <optional>
+#include <typeinfo>
 
 #include "ORXISpecAttrAccess.h"
 
@@ -17,7 +18,12 @@ public:
     explicit AttributeAccess(FeatureObject& iObject) : m_object(iObject) {}
 
     /// The object behind an interface pointer; null for null and for an access that is not the host's.
-    static FeatureObject* ObjectOf(ORXISpecAttrAccess* iAccess) noexcept;
+    static FeatureObject* ObjectOf(ORXISpecAttrAccess* iAccess) noexcept
+    {
+        // The class is seen in this library alone, so there is one description of it.
+        const bool isOwn = iAccess != nullptr && &typeid(*iAccess) == &typeid(AttributeAccess);
+        return isOwn ? &static_cast<AttributeAccess*>(iAccess)->m_object : nullptr;
+    }
 
     using ORXBaseUnknown::QueryInterface;
     HRESULT QueryInterface(const IID& iInterface, void** oInterface) override;

@@ -47,7 +47,9 @@ public:
     /// The key behind an interface pointer; null for null and for a key that is not the host's.
     static FeatureKey* Of(ORXISpecAttrKey* iKey) noexcept
     {
-        return iKey != nullptr && typeid(*iKey) == typeid(FeatureKey) ? static_cast<FeatureKey*>(iKey) : nullptr;
+        // The class is seen in this library alone, so there is one description of it.
+        const bool isOwn = iKey != nullptr && &typeid(*iKey) == &typeid(FeatureKey);
+        return isOwn ? static_cast<FeatureKey*>(iKey) : nullptr;
     }
 
     const ORXUnicodeString& Name() const noexcept { return m_traits.name; }

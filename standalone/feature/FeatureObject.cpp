@@ -240,11 +240,6 @@ void FeatureObject::StoreObjects(const FeatureKey& iKey, const std::vector<Featu
         }
 }
 
-FeatureObject* FeatureObject::Object(const FeatureKey& iKey) const noexcept
-{
-    return ObjectAt(iKey).object;
-}
-
 void FeatureObject::StoreObject(const FeatureKey& iKey, FeatureObject* iObject)
 {
     if (iObject != nullptr)

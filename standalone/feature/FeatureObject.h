@@ -106,6 +106,13 @@ public:
             return key != nullptr ? CarriedAdded(*key) : nullptr;
         return m_type->Carries(*key) && IsMade(*key) ? key : nullptr;
     }
+    /// The same for attributes that each object of the type carries; null for others.
+    FeatureKey* CarriedByAll(ORXISpecAttrKey* iKey) const noexcept
+    {
+        FeatureKey* const key = FeatureKey::Of(iKey);
+        const bool isOfAll = key != nullptr && !key->IsAdded() && !key->IsOptional();
+        return isOfAll && m_type->Carries(*key) ? key : nullptr;
+    }
 
     /// The added attributes in the order in which they were added.
     const std::vector<AddedAttribute*>& Added() const noexcept;
@@ -128,7 +135,7 @@ public:
     void StoreObjects(const FeatureKey& iKey, const std::vector<FeatureObject*>& iObjects);
 
     /// Of an object attribute; borrowed, null when it is empty.
-    FeatureObject* Object(const FeatureKey& iKey) const noexcept;
+    FeatureObject* Object(const FeatureKey& iKey) const noexcept { return ObjectAt(iKey).object; }
     /// As `StoreObjects`, for a scalar attribute.
     void StoreObject(const FeatureKey& iKey, FeatureObject* iObject);
 

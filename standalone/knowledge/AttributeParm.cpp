@@ -133,9 +133,11 @@ void AttributeParm::Valuate(double iValue)
 {
     if (Instruments::Active() && IsStopped("Valuate", [&] { return RecordLines::Text(iValue); }))
         return;
-    Scalar stored;
-    if (m_key.Knowledge()->FromReal(iValue, stored))
-        Write(std::move(stored));
+    if (m_key.Knowledge()->Kind() != ValueKind::Real)
+        return;
+    // Past what the other kinds need: numbers are written most.
+    Store(iValue);
+    m_object.Tell(m_key, m_current);
 }
 
 void AttributeParm::Valuate(int iValue)

@@ -31,7 +31,7 @@ public:
     {
         if (m_current->Holds() != 0 || m_current->IsImmortal())
             Renew();
-        m_current->Write(Scalar(std::forward<Stored>(iValue)));
+        m_current->Write(std::forward<Stored>(iValue));
     }
 
     /// Stores and tells. The slot may be gone afterwards, if nobody holds the object.

@@ -115,19 +115,20 @@ private:
     HRESULT m_status;
 };
 
-/// Channel of a function scope of a level. One query; a channel that could not be made is silent.
-inline ORXTrace*& ScopeChannel(int iLevel) noexcept
-{
-    const ORXTraControle* control = VYRCfdTraceManager::_ControlFeatures;
-    if (control == nullptr || control->TraGetLevelMax() < 100 + iLevel)
-        return VYRCfdTraceManager::_NullTrace;
-    return VYRCfdTraceManager::_Features;
-}
-
 /// Whether a direct print has to be made at all.
 inline bool IsActive(const ORXTrace* iChannel) noexcept
 {
     return iChannel != nullptr && iChannel->IsActive();
+}
+
+/// Channel of a function scope of a level. One query; a channel that could not be made is silent.
+inline ORXTrace*& ScopeChannel(int iLevel) noexcept
+{
+    // Almost always all scopes are silent, and then the level need not be asked for.
+    const ORXTraControle* control = VYRCfdTraceManager::_ControlFeatures;
+    if (!IsActive(VYRCfdTraceManager::_Features) || control == nullptr || control->TraGetLevelMax() < 100 + iLevel)
+        return VYRCfdTraceManager::_NullTrace;
+    return VYRCfdTraceManager::_Features;
 }
 } // namespace VYRCfd
 

@@ -1,8 +1,9 @@
 #include "VYRCfdObjectAccess.h"
 
+#include <algorithm>
+#include <cstring>
 #include <memory>
 #include <new>
-#include <string_view>
 #include <utility>
 
 #include "ORXCkeGlobalFunctions.h"
@@ -13,6 +14,7 @@
 #include "VYRCfdChecks.h"
 #include "VYRCfdListArrangement.h"
 #include "VYRCfdObjectCondition.h"
+#include "VYRCfdShortcuts.h"
 #include "VYRIFldIdentifier.h"
 
 namespace
@@ -30,58 +32,19 @@ bool IsObjectType(int iType)
         VYRCfdTraceManager::_Debug->TraPrint(140, "ERROR: %s\n", iError.CastToCharPtr());
 }
 
-/// Cuts a path at its first "/", as `SplitPath` does, without making texts: a path is walked segment by segment, and
-/// what is left of it would be copied each time.
-HRESULT CutPath(std::string_view iPath, std::string_view& oHead, std::string_view& oTail)
+/// Cuts off the segment of a path that begins at a character. @param oNext where the next one begins: at the path's end
+/// when nothing follows. @return S_OK, there is no other answer
+HRESULT CutSegment(const ORXUnicodeString& iPath, int iBegin, ORXUnicodeString& oSegment, int& oNext)
 {
-    // A byte that continues a character belongs to the one before it, also behind a "/" in a text that is no UTF-8.
-    const auto continues = [&](std::size_t iOffset) {
-        return iOffset < iPath.size() && (static_cast<unsigned char>(iPath[iOffset]) & 0xC0U) == 0x80U;
-    };
-    std::size_t position = iPath.find('/');
-    while (position != std::string_view::npos && continues(position + 1))
-        position = iPath.find('/', position + 1);
-    oHead = iPath.substr(0, position);
-    oTail = position == std::string_view::npos ? std::string_view() : iPath.substr(position + 1);
+    static const ORXUnicodeString separator("/");
+    const int length = iPath.GetLengthInChar();
+    const int position = iPath.SearchSubString(separator, iBegin, 1);
+    const int end = position < 0 ? length : position;
+    oSegment = iPath.SubString(iBegin, end - iBegin);
+    oNext = std::min(end + 1, length);
     return S_OK;
 }
 
-ORXUnicodeString TextOf(std::string_view iText)
-{
-    return ORXUnicodeString(iText.data(), iText.size());
-}
-
-/// Room for the cursor at which the walk of a path stands. It is constructed where it stays, so that nothing is copied.
-class Place
-{
-public:
-    Place() {}
-    ~Place() { Clear(); }
-    Place(const Place&) = delete;
-    Place& operator=(const Place&) = delete;
-
-    const VYRCfdObjectAccess& Move(const VYRCfdObjectAccess& iFrom, const ORXUnicodeString& iName)
-    {
-        Clear();
-        ::new (static_cast<void*>(&m_cursor)) VYRCfdObjectAccess(iFrom.Get(iName));
-        m_isFull = true;
-        return m_cursor;
-    }
-
-private:
-    void Clear()
-    {
-        if (m_isFull)
-            m_cursor.~VYRCfdObjectAccess();
-        m_isFull = false;
-    }
-
-    bool m_isFull = false;
-    union
-    {
-        VYRCfdObjectAccess m_cursor;
-    };
-};
 } // namespace
 
 // ---- construction and comparison ------------------------------------------------------------------------------------
@@ -103,21 +66,27 @@ VYRCfdObjectAccess::VYRCfdObjectAccess(const ORXUnicodeString& iError) : _error(
     VYRCFD_ENTER(50);
 }
 
-VYRCfdObjectAccess::VYRCfdObjectAccess(const VYRCfdObjectAccess& iOther)
-    : _spAttr(iOther._spAttr), _spKey(iOther._spKey), _error(iOther._error)
-{
-    VYRCFD_ENTER(50);
-}
-
 VYRCfdObjectAccess::VYRCfdObjectAccess(ORXISpecAttrAccess_var iAttr, ORXISpecAttrKey_var iKey)
     : _spAttr(std::move(iAttr)), _spKey(std::move(iKey))
 {
     VYRCFD_ENTER(50);
 }
 
-VYRCfdObjectAccess::~VYRCfdObjectAccess()
+VYRCfdObjectAccess::VYRCfdObjectAccess(const ORXSpecAttrPlace& iPlace)
+    : _spAttr(ORXISpecAttrAccess_var::Adopt(iPlace.object)), _spKey(ORXISpecAttrKey_var::Adopt(iPlace.key))
 {
-    VYRCFD_ENTER(50);
+}
+
+void VYRCfdObjectAccess::TraceConstructor()
+{
+    const VYRFeaIndentedTraceManager scope("VYRCfdObjectAccess::VYRCfdObjectAccess", __FILE__, __LINE__,
+                                           VYRCfd::ScopeChannel(50), 50);
+}
+
+void VYRCfdObjectAccess::TraceDestructor()
+{
+    const VYRFeaIndentedTraceManager scope("VYRCfdObjectAccess::~VYRCfdObjectAccess", __FILE__, __LINE__,
+                                           VYRCfd::ScopeChannel(50), 50);
 }
 
 VYRCfdObjectAccess& VYRCfdObjectAccess::operator=(const VYRCfdObjectAccess& iOther)
@@ -209,8 +178,17 @@ ORXISpecAttrAccess_var VYRCfdObjectAccess::Access() const
     return VYRCfdObjectAccess(ORXBaseUnknown_var(ORXISpecObject_var::Adopt(_spAttr->GetSpecObject(iKey, iIndex))));
 }
 
+inline ORXSpecAttrShortcuts* VYRCfdObjectAccess::Shortcuts() const
+{
+    return HasError() || !_spAttr ? nullptr : VYRCfdShortcuts::Get();
+}
+
 VYRCfdObjectAccess VYRCfdObjectAccess::Get(ORXISpecAttrKey* iKey, int iIndex) const
 {
+    ORXSpecAttrPlace place;
+    if (ORXSpecAttrShortcuts* const shortcuts = iIndex == 0 && iKey != nullptr ? Shortcuts() : nullptr)
+        if (shortcuts->Step(_spAttr, iKey, place))
+            return VYRCfdObjectAccess(place);
     VYRCFD_ENTER(30);
     if (HasError())
         return VYRCfdObjectAccess(_error);
@@ -237,6 +215,9 @@ VYRCfdObjectAccess VYRCfdObjectAccess::Get(ORXISpecAttrKey* iKey, int iIndex) co
 
 [[gnu::flatten]] VYRCfdObjectAccess VYRCfdObjectAccess::Get(VYRCfdKeyFunction iKeyFunction, int iIndex) const
 {
+    // With shortcuts to take, nobody looks at scopes.
+    if (Shortcuts() != nullptr)
+        return Get(iKeyFunction(_spAttr), iIndex);
     VYRCFD_ENTER(30);
     if (HasError())
     {
@@ -263,6 +244,11 @@ VYRCfdObjectAccess VYRCfdObjectAccess::Get(const ORXUnicodeString& iName, int iI
 
 VYRCfdObjectAccess VYRCfdObjectAccess::Get(const ORXUnicodeString& iName) const
 {
+    const char* const name = iName;
+    ORXSpecAttrPlace place;
+    if (ORXSpecAttrShortcuts* const shortcuts = !_spKey ? Shortcuts() : nullptr)
+        if (shortcuts->Step(_spAttr, name, std::strlen(name), place))
+            return VYRCfdObjectAccess(place);
     VYRCFD_ENTER(30);
     if (HasError())
         return VYRCfdObjectAccess(_error);
@@ -425,28 +411,102 @@ VYRCfdObjectAccess VYRCfdObjectAccess::Ref(VYRCfdKeyFunction iKeyFunction) const
 
 HRESULT VYRCfdObjectAccess::SplitPath(const ORXUnicodeString& iPath, ORXUnicodeString& oHead, ORXUnicodeString& oTail)
 {
-    const int position = iPath.SearchSubString("/", 0, 1);
-    if (position < 0)
+    // The head is written last, so that a caller may pass its path as one of the two.
+    ORXUnicodeString head;
+    int next = 0;
+    const HRESULT status = CutSegment(iPath, 0, head, next);
+    if (next < iPath.GetLengthInChar())
+        oTail = iPath.SubString(next, iPath.GetLengthInChar() - next);
+    oHead = std::move(head);
+    return status;
+}
+
+/// Room for the cursor at which the walk of a path stands. It is constructed where it stays, so that nothing is copied.
+class VYRCfdObjectAccess::Place
+{
+public:
+    Place() {}
+    ~Place() { Clear(); }
+    Place(const Place&) = delete;
+    Place& operator=(const Place&) = delete;
+
+    const VYRCfdObjectAccess& Move(const VYRCfdObjectAccess& iFrom, const ORXUnicodeString& iName)
     {
-        oHead = iPath;
-        return S_OK;
+        Clear();
+        ::new (static_cast<void*>(&m_cursor)) VYRCfdObjectAccess(iFrom.Get(iName));
+        m_isFull = true;
+        return m_cursor;
     }
-    // The head is cut before anything is written, so that a caller may pass its path as one of the two.
-    const int behind = position + 1;
-    const ORXUnicodeString head = iPath.SubString(0, position);
-    if (behind < iPath.GetLengthInChar())
-        oTail = iPath.SubString(behind, iPath.GetLengthInChar() - behind);
-    oHead = head;
-    return S_OK;
+
+    const VYRCfdObjectAccess& Move(const ORXSpecAttrPlace& iPlace)
+    {
+        Clear();
+        ::new (static_cast<void*>(&m_cursor)) VYRCfdObjectAccess(iPlace);
+        m_isFull = true;
+        return m_cursor;
+    }
+
+private:
+    void Clear()
+    {
+        if (m_isFull)
+            m_cursor.~VYRCfdObjectAccess();
+        m_isFull = false;
+    }
+
+    bool m_isFull = false;
+    union
+    {
+        VYRCfdObjectAccess m_cursor;
+    };
+};
+
+bool VYRCfdObjectAccess::FollowPath(const ORXUnicodeString& iPath, int& oBegin, ORXSpecAttrPlace& oReached) const
+{
+    ORXSpecAttrShortcuts* const shortcuts = Shortcuts();
+    const char* const path = iPath;
+    const std::size_t length = std::strlen(path);
+    // Where each character is one byte, positions are offsets, and the text may be cut at each.
+    if (shortcuts == nullptr || !!_spKey || length != static_cast<std::size_t>(iPath.GetLengthInChar()))
+        return false;
+    const char* const end = path + length;
+    const char* name = path;
+    ORXISpecAttrAccess* from = _spAttr.Pointer();
+    while (name != end && oReached.key == nullptr)
+    {
+        const void* const separator = std::memchr(name, '/', static_cast<std::size_t>(end - name));
+        const char* const behind = separator != nullptr ? static_cast<const char*>(separator) : end;
+        if (behind == name)
+            break;
+        ORXSpecAttrPlace next;
+        if (!shortcuts->Step(from, name, static_cast<std::size_t>(behind - name), next))
+            break;
+        // The object that was left is let go only now that the next one is held.
+        const ORXISpecAttrAccess_var spLeft = ORXISpecAttrAccess_var::Adopt(oReached.object);
+        oReached = next;
+        from = next.object;
+        name = behind != end ? behind + 1 : end;
+    }
+    oBegin = static_cast<int>(name - path);
+    return oReached.object != nullptr;
 }
 
 VYRCfdObjectAccess VYRCfdObjectAccess::GetByPath(const ORXUnicodeString& iPath) const
 {
     // A loop and not a recursion: a path may be as long as its file. The cursor of a segment is made in place, while
-    // the one before it is still needed, so two places serve in turn and nothing is copied.
+    // the one before it is still needed, so two places serve in turn and nothing is copied. Nor is what is left of the
+    // path, which would be copied anew at each segment.
     Place places[2];
     const VYRCfdObjectAccess* current = this;
-    std::string_view path = iPath.View();
+    const int length = iPath.GetLengthInChar();
+    int begin = 0;
+    ORXSpecAttrPlace reached;
+    if (FollowPath(iPath, begin, reached))
+    {
+        if (begin == length)
+            return VYRCfdObjectAccess(reached);
+        current = &places[1].Move(reached);
+    }
     for (int place = 0;; place = 1 - place)
     {
         VYRCFD_ENTER(25);
@@ -454,16 +514,16 @@ VYRCfdObjectAccess VYRCfdObjectAccess::GetByPath(const ORXUnicodeString& iPath) 
             return VYRCfdObjectAccess(current->_error);
         if (!current->_spAttr)
             return VYRCfdObjectAccess("Null object");
-        std::string_view head;
-        std::string_view tail;
-        if (CutPath(path, head, tail) < 0)
-            return VYRCfdObjectAccess("Invalid path: " + TextOf(path));
-        if (head.empty())
+        ORXUnicodeString head;
+        int next = 0;
+        if (CutSegment(iPath, begin, head, next) < 0)
+            return VYRCfdObjectAccess("Invalid path: " + iPath.SubString(begin, length - begin));
+        if (head.IsEmpty())
             return *current;
-        if (tail.empty())
-            return current->Get(TextOf(head));
-        current = &places[place].Move(*current, TextOf(head));
-        path = tail;
+        if (next >= length)
+            return current->Get(head);
+        current = &places[place].Move(*current, head);
+        begin = next;
     }
 }
 
@@ -749,6 +809,9 @@ HRESULT VYRCfdObjectAccess::SetInteger(int iValue, int index) const
         VYRCFD_CHECK(spTableColumn->GetValue(0, oValue));
         return S_OK;
     }
+    if (ORXSpecAttrShortcuts* const shortcuts = Shortcuts())
+        if (shortcuts->ReadReal(_spAttr, _spKey, oValue))
+            return S_OK;
     ORXIValue_var spVal;
     VYRCFD_PASS(ParameterValue(VYRCFD_FUNCTION, spVal));
     oValue = spVal->AsReal();
@@ -785,6 +848,9 @@ HRESULT VYRCfdObjectAccess::SetDouble(double iValue) const
         VYRCFD_CHECK(spTableColumn->SetValue(0, iValue));
         return S_OK;
     }
+    if (ORXSpecAttrShortcuts* const shortcuts = Shortcuts())
+        if (shortcuts->WriteReal(_spAttr, _spKey, iValue))
+            return S_OK;
     const ORXICkeParm_var spParm = GetParm();
     VYRCFD_ASSERT(spParm);
     const ORXICkeType_var spType = spParm->GetType();

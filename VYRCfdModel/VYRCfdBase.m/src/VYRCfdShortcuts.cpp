@@ -1,0 +1,4 @@
+#include "VYRCfdShortcuts.h"
+
+ORXSpecAttrShortcuts* const VYRCfdShortcuts::s_ofHost =
+    ORXGetSpecAttrShortcuts != nullptr ? ORXGetSpecAttrShortcuts() : nullptr;
