@@ -31,6 +31,8 @@ is_there() {
         liblua5.4-dev) has_header lua5.4/lua.h && has_library liblua5.4.so ;;
         binutils) command -v nm >/dev/null ;;
         dpkg-dev) command -v dpkg-shlibdeps >/dev/null ;;
+        man-db) command -v man >/dev/null ;;
+        graphviz) command -v dot >/dev/null ;;
         python3-jsonschema) python3 -c "import jsonschema" 2>/dev/null ;;
         *) command -v "$1" >/dev/null ;;
     esac
@@ -68,6 +70,8 @@ set_up() {
 
 RUN_PACKAGES=(g++ cmake ninja-build ccache rapidjson-dev libsimdjson-dev libudunits2-dev libcli11-dev libreadline-dev)
 TEST_PACKAGES=("${RUN_PACKAGES[@]}" libgtest-dev libbenchmark-dev python3 python3-jsonschema binutils valgrind)
+# The shells whose completion is tested, and what sets the manual page.
+SHELL_PACKAGES=(fish zsh groff man-db graphviz)
 SANITIZER_PACKAGES=(clang libclang-rt-14-dev)
 MEASURE_PACKAGES=(g++ cmake ninja-build ccache rapidjson-dev libsimdjson-dev libudunits2-dev libbenchmark-dev)
 # What ./measure compares with, beside RapidJSON. It measures without those that cannot be had.

@@ -4,7 +4,8 @@ names, in the same sixteen files, with catalogs that list the copies as the samp
 
     tests/tool/check_cost.py build/release/bin/vyrcfd [ITEMS ...]
 
-With --wrong every item has a mistake: a default's path, or a reference to nothing.
+With --wrong every item has a mistake: a default's path, or a reference to nothing. With --within SECONDS it fails where the
+largest takes longer, or where an item of it costs more than twice as much as one of the smallest.
 """
 
 import json
@@ -79,17 +80,26 @@ def check(tool, folder):
 
 def main(arguments):
     is_wrong = "--wrong" in arguments
+    limit = float("inf")
+    if "--within" in arguments[:-1]:
+        at = arguments.index("--within")
+        limit = float(arguments[at + 1])
+        del arguments[at:at + 2]
     arguments = [argument for argument in arguments if argument != "--wrong"]
     if not arguments:
         sys.exit(__doc__)
+    costs = []
     for items in [int(argument) for argument in arguments[1:]] or SIZES:
         with tempfile.TemporaryDirectory() as name:
             folder = Path(name)
             copies, items = write_configurations(folder, items, is_wrong)
             write_catalogs(folder, copies)
             seconds, processor, summary = check(arguments[0], folder)
+        costs.append(processor / items)
         print(f"{items:7} items  {seconds:5.2f} s, {processor:5.2f} s of the processor, "
               f"{processor / items * 1e6:5.1f} us an item: {summary}")
+    if limit != float("inf") and (seconds > limit or costs[-1] > 2 * costs[0]):
+        sys.exit(f"too slow: {seconds:.2f} s, an item {costs[-1] / costs[0]:.1f} times as much as in the smallest")
 
 
 main(sys.argv[1:])
