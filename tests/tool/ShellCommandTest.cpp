@@ -3,6 +3,8 @@
  * The commands of the shell one by one: what each prints, and how it fails.
  */
 
+#include <sstream>
+
 #include "ShellTest.h"
 
 namespace
@@ -264,10 +266,10 @@ const ScriptRun SessionScripts[] = {
      "auto PATH [on|off]\n"
      "    the auto flag of an attribute; with on or off, writes it\n"
      "    The first time only makes the flag; later, on also puts the attribute back on its default.\n"
-     "Example: auto Solver.1/relaxation on\n"
+     "Example: auto Solver.1/iterations on\n"
      "get PATH\n"
      "    the value of an attribute\n"
-     "Example: get Solver.1/relaxation\n",
+     "Example: get Solver.1/iterations\n",
      ""},
     {"Quit", Flow, "quit\nget nothing\n", "", ""},
     {"Exit", Flow, "exit\nget nothing\n", "", ""},
@@ -380,6 +382,31 @@ TEST_F(ShellTest, Help_ListsEveryCommand)
                                 "quit",
                                 "exit"})
         EXPECT_NE(("\n" + run.output).find(std::string("\n") + command + "  "), std::string::npos) << command;
+}
+
+/// What stands behind a mark at the beginning of lines.
+std::vector<std::string> Marked(const std::string& iText, const std::string& iMark)
+{
+    std::vector<std::string> rests;
+    std::istringstream lines(iText);
+    for (std::string line; std::getline(lines, line);)
+        if (line.starts_with(iMark))
+            rests.push_back(line.substr(iMark.size()));
+    return rests;
+}
+
+TEST_F(ShellTest, Help_HasAnExampleOfEachCommand_ThatWorksOnTheSample)
+{
+    std::string questions;
+    for (const std::string& line : Marked(Script(Flow, "help\n").output, ""))
+        questions += "help " + line.substr(0, line.find(' ')) + "\n";
+    const std::vector<std::string> examples = Marked(Script(Flow, questions).output, "Example: ");
+    EXPECT_EQ(examples.size(), Marked(questions, "help ").size());
+    std::string script;
+    for (const std::string& example : examples)
+        if (example != "quit" && example != "exit")
+            script += example + "\n";
+    EXPECT_EQ(Script(External, script).status, 0) << Script(External, script).errors;
 }
 
 TEST_F(ShellTest, Apply_ThatFailsInTheMiddle_ShowsWhatItHasDone)

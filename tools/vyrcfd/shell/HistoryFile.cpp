@@ -45,10 +45,12 @@ HistoryFile::HistoryFile() : m_file(ChosenFile())
 
 void HistoryFile::Add(const std::string& iLine)
 {
-    if (iLine == m_last)
+    // A completed word has a blank behind it.
+    const std::string line = iLine.substr(0, iLine.find_last_not_of(" \t") + 1);
+    if (line.empty() || line == m_last)
         return;
-    m_last = iLine;
-    add_history(iLine.c_str());
+    m_last = line;
+    add_history(line.c_str());
     if (m_file.empty())
         return;
     std::error_code ignored;

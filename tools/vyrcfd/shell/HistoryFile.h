@@ -23,7 +23,7 @@ public:
     HistoryFile();
 
     /// Adds a line to the history, and at once to the file, so that a session that is killed leaves it behind. A line
-    /// that repeats the one before adds nothing.
+    /// that repeats the one before, or holds nothing, adds nothing.
     void Add(const std::string& iLine);
 
 private:

@@ -84,6 +84,8 @@ int ClearInterruptedLine()
     rl_crlf();
     rl_on_new_line();
     rl_replace_line("", 1);
+    // Whoever was looking for a line begins again behind the last one.
+    using_history();
     rl_redisplay();
     return 0;
 }
@@ -136,9 +138,7 @@ std::optional<std::string> TerminalLines::Next()
         std::fflush(rl_outstream);
         return std::nullopt;
     }
-    const std::string text = line.get();
-    if (text.find_first_not_of(" \t") != std::string::npos)
-        m_history.Add(text);
-    return text;
+    m_history.Add(line.get());
+    return line.get();
 }
 } // namespace Tool
