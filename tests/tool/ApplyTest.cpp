@@ -20,7 +20,11 @@ TEST_F(SmallTest, Apply_PrintsReportsOfNestedFailures_AsNotes_AndSucceeds)
               Outcome(0, "note: assertion: spDefMgmt != NULL_var in VYRCfdConfigurator::ApplyConfiguration, status "
                          "0x80004005\n"
                          "note: assertion: ispObject != NULL_var in VYRCfdConfigurator::ApplyConfiguration, status "
-                         "0x80004005\n"));
+                         "0x80004005\n"
+                         "note: \"cavity\", item 8, applies \"watchfulProbe\" to an object that cannot be configured: "
+                         "samples/reffiles/VYRCfdApp/conditionsConfig_Flow.json:13:9\n"
+                         "note: \"cavity\", item 9, finds no object to apply \"watchfulProbe\" to: "
+                         "samples/reffiles/VYRCfdApp/conditionsConfig_Flow.json:14:9\n"));
 }
 
 TEST_F(SmallTest, Apply_OfNoItems_SaysThatNothingWasDone_AndSucceeds)
@@ -95,14 +99,17 @@ TEST_P(FailedRuns, TellWhatTheErrorServiceHolds_AndWriteNothing)
 const FailedRun FailedRunCases[] = {
     {"InTheMiddle", "Case.1", "breaksOff",
      "small.model.json: \"breaksOff\" failed on \"Case.1\"\n"
+     "\"breaksOff\", item 2, fails: samples/reffiles/VYRCfdApp/conditionsConfig_Flow.json:23:9\n"
      "error: No attribute unheardOf in VYRCfdObjectAccess::SetStrings, status 0x80004005\n"
      "failed call: specAccess[path].SetStrings(valuesList) in VYRCfdConfigurator::ApplyConfiguration, status "
      "0x80004005\n"},
     {"ChoiceItemOnNoChoice", "Case.1", "choosing",
      "small.model.json: \"choosing\" failed on \"Case.1\"\n"
+     "\"choosing\", item 1, fails: samples/reffiles/VYRCfdApp/conditionsConfig_Flow.json:26:38\n"
      "assertion: spChoice in VYRCfdConfigurator::ApplyConfiguration, status 0x80004005\n"},
     {"EmptyEntryOnTheWay", "Case.1", "intoGap",
-     "small.model.json: \"intoGap\" failed on \"Case.1\", fatally: unexpected null pointer\n"},
+     "small.model.json: \"intoGap\" failed on \"Case.1\", fatally: unexpected null pointer\n"
+     "\"intoGap\", item 1, fails: samples/reffiles/VYRCfdApp/conditionsConfig_Flow.json:50:37\n"},
 };
 INSTANTIATE_TEST_SUITE_P(Apply, FailedRuns, testing::ValuesIn(FailedRunCases),
                          [](const auto& iInfo) { return iInfo.param.name; });
@@ -113,17 +120,54 @@ TEST_F(SmallTest, Apply_ToAMarkedType_GoesThroughItsManager)
     EXPECT_EQ(Outcome(Run({"apply", Flow, "Flow.1/energy", "undeclared"})), Outcome(0, ""));
     EXPECT_EQ(Outcome(Run({"apply", Flow, "Flow.1/solver", "undeclared"})),
               Outcome(1, "flow.model.json: \"undeclared\" failed on \"Flow.1/solver\"\n"
+                         "\"undeclared\", item 1, fails: "
+                         "samples/reffiles/VYRCfdApp/conditionsConfig_Flow.json:48:40\n"
                          "error: Invalid choice multigrid in VYRCfdChoiceMgrAdp::ConfigureChoiceMgr, status "
                          "0x80004005\n"
                          "failed call: spChoiceMgr->ConfigureChoiceMgr(choicesList, defaultValue, display) in "
                          "VYRCfdConfigurator::ApplyConfiguration, status 0x80004005\n"));
 }
 
-TEST_F(SmallTest, Apply_OfACircle_EndsWithOneNote)
+TEST_F(SmallTest, Apply_OfACircle_EndsWithOneReport_AndTheItem)
 {
     const ToolRun run = Run({"apply", Small, "list", "circle"});
     EXPECT_EQ(Outcome(run), Outcome(0, "note: error: Configuration nesting too deep: circle in "
-                                       "VYRCfdConfigurator::ApplyConfiguration, status 0x80004005\n"));
+                                       "VYRCfdConfigurator::ApplyConfiguration, status 0x80004005\n"
+                                       "note: \"circle\", item 1, applies \"circle\", by which it is applied itself: "
+                                       "samples/reffiles/VYRCfdApp/conditionsConfig_Flow.json:51:36\n"));
+}
+
+TEST_F(SmallTest, Apply_TellsTheItemThatFails_InNestedConfigurationsToo)
+{
+    Write(std::string(Configurations) + "measurementsConfig.json",
+          R"({"configurations": [
+            {"name": "outer", "config": [
+              {"path": "", "config": "inner"},
+              {"path": "title", "type": "string", "default": "Outer"}]},
+            {"name": "inner", "config": [
+              {"path": "iterations", "default": "3"},
+              {"path": "probe", "config": "innermost", "condition": "iterations==3"},
+              {"path": "titel", "default": "Inner"}]},
+            {"name": "innermost", "config": [{"path": "feild", "default": "nothing"}]}]})");
+    const std::string spParm = "note: assertion: spParm in VYRCfdDefaultManagementAdp::SetCustomDefault, status "
+                               "0x80004005\n"
+                               "note: failed call: spDefMgmt->SetCustomDefault(path, defaultValue) in "
+                               "VYRCfdConfigurator::ApplyConfiguration, status 0x80004005\n";
+    EXPECT_EQ(Outcome(Run({"apply", Small, "Case.1", "outer"})),
+              Outcome(0, spParm + spParm +
+                             "note: \"innermost\", item 1, fails: "
+                             "samples/reffiles/VYRCfdApp/measurementsConfig.json:9:46\n"
+                             "note: \"inner\", item 3, fails: "
+                             "samples/reffiles/VYRCfdApp/measurementsConfig.json:8:15\n"));
+}
+
+TEST_F(SmallTest, Apply_SaysWhereItHasSaved)
+{
+    const std::string saved = Run({"apply", Small, "Case.1/probe", "watchfulProbe", "-o", "new.model.json"}).output;
+    EXPECT_EQ(saved.substr(saved.rfind("Saved", saved.size())), "Saved to new.model.json.\n");
+    EXPECT_EQ(Run({"apply", Small, "Case.1/probe", "watchfulProbe"}).output.find("Saved"), std::string::npos);
+    EXPECT_EQ(Run({"apply", Small, "Mesh", "nothing", "-o", "same.model.json"}).output,
+              "Nothing done: \"nothing\" has no items.\nSaved to same.model.json.\n");
 }
 
 TEST_F(ToolTest, Apply_OfTheSample_ReachesWhatTheConfigurationNames)

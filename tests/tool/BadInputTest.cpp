@@ -148,6 +148,14 @@ const BadInput ConfigurationFiles[] = {
      "reffiles/VYRCfdApp/solverConfig_Flow.json: no such file in the installation samples\n"},
     {"MissingInList", Removed(Configuration), List, 1,
      "reffiles/VYRCfdApp/solverConfig_Flow.json: no such file in the installation samples\n"},
+    {"SeveralMissing",
+     [](const TemporaryFolder& iFolder) {
+         Removed(Configuration)(iFolder);
+         Written("samples/reffiles/VYRCfdApp/meshFYEConfig.json", "{")(iFolder);
+     },
+     List, 1,
+     "reffiles/VYRCfdApp/solverConfig_Flow.json: no such file in the installation samples\n"
+     "samples/reffiles/VYRCfdApp/meshFYEConfig.json:1:2: Missing a name for object member.\n"},
     {"Unreadable", Unreadable(Configuration), Apply, 1, Configuration + ": cannot be read: Input/output error\n"},
     {"Truncated", Written(Configuration, CutShort), ApplyAndSave, 1,
      Configuration + ":2:44: Missing a closing quotation mark in string.\n"},
@@ -157,25 +165,26 @@ const BadInput ConfigurationFiles[] = {
      ApplyAndSave, 1, Configuration + ":2:46: Invalid encoding in string.\n"},
     {"ByteOrderMark", Written(Configuration, "\xEF\xBB\xBF{}"), Apply, 1,
      Configuration + ":1:1: A byte order mark has no place in JSON.\n"},
-    {"NoObject", Written(Configuration, "[]"), Apply, 1, Configuration + ": must be an object, not an array\n"},
+    {"NoObject", Written(Configuration, "[]"), Apply, 1,
+     Configuration + ":1:1: a configuration file must be an object, not an array\n"},
     {"ConfigurationsNoArray", Written(Configuration, R"({"configurations": {}})"), List, 1,
-     Configuration + ": /configurations: must be an array, not an object\n"},
+     Configuration + ":1:20: \"configurations\" must be an array, not an object\n"},
     {"ConfigurationNoObject", Written(Configuration, R"({"configurations": ["a"]})"), List, 1,
-     Configuration + ": /configurations/0: must be an object, not a text\n"},
+     Configuration + ":1:21: a configuration must be an object, not a text\n"},
     {"NoName", Written(Configuration, R"({"configurations": [{"name": "a"}, {"config": []}]})"), List, 1,
-     Configuration + ": /configurations/1/name: is missing\n"},
+     Configuration + ":1:36: the configuration has no \"name\"\n"},
     {"NameNoText", Written(Configuration, R"({"configurations": [{"name": 1}]})"), List, 1,
-     Configuration + ": /configurations/0/name: must be a text, not a number\n"},
+     Configuration + ":1:30: \"name\" must be a text, not a number\n"},
     {"ConfigNoArray", Written(Configuration, R"({"configurations": [{"name": "a", "config": "b"}]})"), List, 1,
-     Configuration + ": /configurations/0/config: must be an array, not a text\n"},
+     Configuration + ":1:45: \"config\" must be an array, not a text\n"},
     {"ItemNoObject", Written(Configuration, R"({"configurations": [{"name": "a", "config": [null]}]})"), List, 1,
-     Configuration + ": /configurations/0/config/0: must be an object, not null\n"},
+     Configuration + ":1:46: an item must be an object, not null\n"},
     {"NumberInPlaceOfText",
      Written(Configuration, R"({"configurations": [{"name": "a", "config": [{}, {"path": "p", "default": 0.7}]}]})"),
-     Apply, 1, Configuration + ": /configurations/0/config/1/default: must be a text, not a number\n"},
+     Apply, 1, Configuration + ":1:75: \"default\" must be a text, not a number\n"},
     {"TextInPlaceOfBoolean",
      Written(Configuration, R"({"configurations": [{"name": "a", "config": [{"list": "true"}]}]})"), Apply, 1,
-     Configuration + ": /configurations/0/config/0/list: must be true or false, not a text\n"},
+     Configuration + ":1:55: \"list\" must be true or false, not a text\n"},
 };
 INSTANTIATE_TEST_SUITE_P(ConfigurationFiles, BadInputs, testing::ValuesIn(ConfigurationFiles), NameOf);
 
@@ -192,12 +201,24 @@ const BadInput Names[] = {
      Nothing(),
      {"show", Model, "Solver.1/fluids"},
      1,
-     Model + ": \"Solver.1/fluids\" leads nowhere: No attribute fluids\n"},
+     Model + ": \"Solver.1/fluids\" leads nowhere: No attribute fluids; did you mean \"fluid\"?\n"},
+    {"PathThroughListOfTexts",
+     Nothing(),
+     {"show", "small.model.json", "Case.1/monitors/lift"},
+     1,
+     "small.model.json: \"Case.1/monitors/lift\" leads nowhere: \"monitors\" holds no objects that a path could lead "
+     "on to\n"},
+    {"OptionalAttributeThatIsNotThere",
+     Nothing(),
+     {"explain", Model, "Solver.1/solutionMesh"},
+     1,
+     Model + ": \"Solver.1/solutionMesh\" leads nowhere: the attribute \"solutionMesh\" is optional, and this "
+             "\"ExternalFlowSolver\" does not have it\n"},
     {"EntryLeadsNowhere",
      Nothing(),
      {"show", Model, "Mesh.1/zones/Zone.9"},
      1,
-     Model + ": \"Mesh.1/zones/Zone.9\" leads nowhere: No matching object to Zone.9\n"},
+     Model + ": \"Mesh.1/zones/Zone.9\" leads nowhere: No matching object to Zone.9; did you mean \"Zone.1\"?\n"},
     {"EmptyEntryOnTheWay",
      Nothing(),
      {"show", "small.model.json", "Case.1/probes/Outlet"},
@@ -227,6 +248,7 @@ const BadInput Names[] = {
      {"apply", Model, "Mesh.1", "externalFlow", "-o", Model},
      1,
      Model + ": \"externalFlow\" failed on \"Mesh.1\"\n"
+             "\"externalFlow\", item 1, fails: samples/reffiles/VYRCfdApp/SolverConfigurations.json:6:9\n"
              "assertion: spParm in VYRCfdDefaultManagementAdp::SetCustomDefault, status 0x80004005\n"
              "failed call: spDefMgmt->SetCustomDefault(path, defaultValue) in VYRCfdConfigurator::ApplyConfiguration, "
              "status 0x80004005\n"},

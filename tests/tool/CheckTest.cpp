@@ -9,6 +9,7 @@
 #include <fstream>
 #include <regex>
 #include <set>
+#include <sstream>
 
 #include "ToolTest.h"
 
@@ -40,7 +41,7 @@ protected:
               "conditionsConfig_Species", "conditionsConfig_Phase", "solverConfig_Flow", "solverConfig_Energy",
               "solverConfig_Turbulence", "solverConfig_MultiSpecies", "measurementsConfig", "solverConfig_Radiation",
               "conditionsConfig_Radiation", "conditionsConfig_ECooling", "solverConfig_MultiPhase", "meshFYEConfig"})
-            m_folder.Write(Reffiles + name + ".json", "{}");
+            m_folder.Write(Reffiles + name + ".json", R"({"configurations": []})");
         m_folder.Write("installation/catalogs/Rig.catalog.json", ReadData("check/Rig.catalog.json"));
     }
 
@@ -55,6 +56,15 @@ protected:
             const bool isCatalog = name.find(".catalog.") != std::string::npos;
             m_folder.Write((isCatalog ? "installation/catalogs/" : Reffiles) + name, ReadData(iCase + "/" + name));
         }
+    }
+
+    /// Takes the files away that a folder of the data names in removed.txt.
+    void RemoveFiles(const std::string& iCase)
+    {
+        const std::string list = iCase + "/removed.txt";
+        std::istringstream names(fs::exists(std::string(VYR_TEST_DATA_DIR) + "/" + list) ? ReadData(list) : "");
+        for (std::string name; std::getline(names, name);)
+            ASSERT_TRUE(fs::remove(m_folder.Path(Reffiles + name))) << name;
     }
 
     void AddConfigurations(const std::string& iText) { m_folder.Write(Reffiles + "SolverConfigurations.json", iText); }
@@ -92,6 +102,7 @@ TEST_P(WrongInstallations, AreFoundToBeSo)
 {
     const std::string folder = Wrong + "/" + GetParam();
     AddCase(folder);
+    RemoveFiles(folder);
     const ToolRun run = Check();
     const std::string found = FindingsIn(run);
     if (const char* renewed = std::getenv("VYR_RENEWED_CHECKS"); renewed != nullptr)
@@ -123,7 +134,9 @@ INSTANTIATE_TEST_SUITE_P(Check, OddInstallations, testing::ValuesIn(FoldersIn(Od
 
 TEST(WrongFolders, HaveOneAtLeastForEveryKindOfFinding)
 {
-    const std::set<std::string> kinds{"unknown-key",
+    const std::set<std::string> kinds{"unreadable-file",
+                                      "ignored-file",
+                                      "unknown-key",
                                       "wrong-kind",
                                       "does-nothing",
                                       "ignored-key",
@@ -263,10 +276,30 @@ TEST_F(CheckTest, ACatalogThatIsNamed_HoldsInPlaceOfAnInstalledOneOfItsName)
               "attribute relaxation; there is \"defaultManagement\" [path-nowhere]\n");
 }
 
-TEST_F(CheckTest, AFileThatIsNoJson_IsToldWithItsPlace)
+TEST_F(CheckTest, Json_HoldsWhatIsWrongWithAFile)
 {
     AddConfigurations("{\n  \"configurations\": [}\n");
-    EXPECT_EQ(Outcome(Check()), Outcome(1, Reffiles + "SolverConfigurations.json:2:22: Invalid value.\n"));
+    const ToolRun run = Check({"--json"});
+    EXPECT_EQ(Outcome(run), Outcome(1, "vyrcfd: the check found 1 error, 0 warnings and 0 notes in 0 configurations "
+                                       "with 0 items\n"));
+    EXPECT_EQ(run.output, R"({
+  "findings": [
+    {
+      "kind": "unreadable-file",
+      "severity": "error",
+      "file": "installation/reffiles/VYRCfdApp/SolverConfigurations.json",
+      "line": 2,
+      "column": 22,
+      "configuration": null,
+      "item": null,
+      "key": null,
+      "message": "Invalid value; without this file the engine reads no configuration at all",
+      "suggestion": null,
+      "related": []
+    }
+  ]
+}
+)");
 }
 
 TEST_F(CheckTest, DeepNesting_IsRead)

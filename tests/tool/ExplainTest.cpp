@@ -56,6 +56,14 @@ TEST_F(SmallTest, Explain_TellsEveryItemThatLeavesSuchARecord_AndOnlyThose)
                                                "same, item 2  " + folder + "measurementsConfig.json:3:15"}));
 }
 
+TEST_F(ToolTest, Explain_OfAnOptionalAttribute_SaysThatItIs)
+{
+    const std::string text = Run({"explain", External, "Solver.1/remark"}).output;
+    EXPECT_EQ(LinesOf(text).front(), "Solver.1/remark  string, optional");
+    EXPECT_EQ(BehindLabel(text, "    start-up"), "none: the attribute is optional, and was added to this object");
+    EXPECT_NE(text.find("declared by FlowSolver in the catalog FlowCommon  samples/catalogs/"), std::string::npos);
+}
+
 TEST_F(SmallTest, Explain_OfARecordThatNoItemLeavesAnyMore_SaysSo)
 {
     Write(std::string(Configurations) + "conditionsConfig_Flow.json", "{}");

@@ -3,7 +3,9 @@
 #include "ApplyText.h"
 #include "Command.h"
 #include "ConfigurationFiles.h"
+#include "ConfigurationSource.h"
 #include "Configuring.h"
+#include "FailedItem.h"
 #include "Failure.h"
 #include "ObjectPath.h"
 #include "Output.h"
@@ -24,8 +26,9 @@ struct ApplyArguments
     std::string output;
 };
 
-/// What a failure leaves with the error service goes with it.
-bool ConfigureOrTell(const ORXISpecObject_var& iObject, const Configuring& iConfiguring)
+/// Where it has failed, and what a failure leaves with the error service, go with it.
+bool ConfigureOrTell(const ORXISpecObject_var& iObject, const Configuring& iConfiguring,
+                     const ConfigurationSource& iSource)
 {
     const Progress progress("Applying " + OneLine(iConfiguring.configuration));
     try
@@ -35,7 +38,10 @@ bool ConfigureOrTell(const ORXISpecObject_var& iObject, const Configuring& iConf
     catch (const Failure& failure)
     {
         std::string text = failure.what();
-        for (const std::string& report : TakeReportLines())
+        const std::vector<std::string> reports = TakeReportLines();
+        for (const FailedItem& item : FailedItems(iObject, iConfiguring.configuration, iSource))
+            text += "\n" + item.Shown();
+        for (const std::string& report : reports)
             text += "\n" + report;
         throw Failure(text);
     }
@@ -45,12 +51,13 @@ void Apply(const CommonOptions& iOptions, const ApplyArguments& iArguments)
 {
     const Installation installation(iOptions);
     const std::vector<std::string> configurations = ConfigurationNames(ReadConfigurationFiles(installation));
+    const ConfigurationSource source(installation);
     const VYRStandalone::Model model = installation.LoadModel(iArguments.model);
     const ORXISpecObject_var spObject = FollowToObject(model, iArguments.model, iArguments.object);
 
     const Snapshot before = TakeSnapshot(model);
-    const bool isDone =
-        ConfigureOrTell(spObject, {iArguments.model, iArguments.object, iArguments.configuration, configurations});
+    const bool isDone = ConfigureOrTell(
+        spObject, {iArguments.model, iArguments.object, iArguments.configuration, configurations}, source);
     const std::vector<std::string> reports = TakeReportLines();
 
     const Snapshot after = TakeSnapshot(model);
@@ -61,9 +68,14 @@ void Apply(const CommonOptions& iOptions, const ApplyArguments& iArguments)
         const Uninterrupted save(iArguments.output);
         model.Save(iArguments.output);
     }
+    Application application{iArguments.configuration, iArguments.object, isDone, iArguments.output, reports, {}};
+    // Last of all, since it changes the model.
+    if (!reports.empty())
+        application.failed = FailedItems(spObject, iArguments.configuration, source);
     for (const std::string& report : reports)
         PrintError("note: " + report);
-    const Application application{iArguments.configuration, iArguments.object, isDone, iArguments.output, reports};
+    for (const FailedItem& item : application.failed)
+        PrintError("note: " + item.Shown());
     Print(iOptions.json ? ApplyJson(application, difference) : ApplyText(application, difference));
 }
 } // namespace
@@ -85,14 +97,15 @@ void AddApplyCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
     command->footer(
         std::string(ObjectPathHelp) +
         "\n\nThe exit status is that of this application: a nested configuration that fails stops nothing, and its "
-        "reports are notes on standard error. Nothing is written when the run failed."
+        "reports are notes on standard error, with the items that failed. Nothing is written when the run failed."
         "\n\nWhat has changed on an object stands as \"old -> new\", with its flags; of an object that has come or "
         "gone, as the data object of a Choice, all that it holds (+) or has held (-). Records that nothing refers to "
         "any more are taken away by vyrcfd purge. Colours are for terminals, and not where the variable NO_COLOR is "
         "set to something."
         "\n\nWith --json: {\"configuration\", \"object\", \"done\", \"objects\": [{\"path\", \"type\", \"change\", "
         "\"oldType\", \"attributes\": {NAME: {\"kind\", \"before\", \"after\"}}, \"newRecords\", \"goneRecords\", "
-        "\"remadeRecords\"}], \"unreferencedRecords\", \"notes\", \"savedTo\"}; \"before\" and \"after\" are "
+        "\"remadeRecords\"}], \"unreferencedRecords\", \"notes\", \"failedItems\": [{\"configuration\", \"item\", "
+        "\"why\", \"file\", \"line\", \"column\"}], \"savedTo\"}; \"before\" and \"after\" are "
         "{\"value\", \"set\", \"auto\"}, null where the object has no such attribute. \"change\" is \"changed\", "
         "\"new\", \"gone\" or \"replaced\", and only then there is \"oldType\". \"done\" is false for a "
         "configuration without items."

@@ -234,6 +234,21 @@ void WriteObject(JsonWriter& oWriter, const ObjectChange& iChange)
     oWriter.Uint64(iChange.remadeRecords);
     oWriter.EndObject();
 }
+void WriteFailedItem(JsonWriter& oWriter, const FailedItem& iFailed)
+{
+    oWriter.StartObject();
+    WriteMember(oWriter, "configuration", iFailed.item.configuration.name);
+    WriteKey(oWriter, "item");
+    oWriter.Uint64(iFailed.item.number);
+    WriteMember(oWriter, "why", iFailed.why);
+    WriteMember(oWriter, "file", OneLine(iFailed.item.configuration.file->Path()));
+    WriteKey(oWriter, "line");
+    oWriter.Int(iFailed.item.value.position.line);
+    WriteKey(oWriter, "column");
+    oWriter.Int(iFailed.item.value.position.column);
+    oWriter.EndObject();
+}
+
 } // namespace
 
 std::string DifferenceText(const Difference& iDifference)
@@ -266,9 +281,10 @@ void WriteChanges(JsonWriter& oWriter, const Difference& iDifference)
 
 std::string ApplyText(const Application& iApplication, const Difference& iDifference)
 {
+    const std::string saved = iApplication.savedTo.empty() ? "" : "Saved to " + OneLine(iApplication.savedTo) + ".\n";
     if (!iApplication.isDone)
-        return "Nothing done: " + Quoted(iApplication.configuration) + " has no items.\n";
-    return DifferenceText(iDifference) + SummaryText(iApplication, iDifference);
+        return "Nothing done: " + Quoted(iApplication.configuration) + " has no items.\n" + saved;
+    return DifferenceText(iDifference) + SummaryText(iApplication, iDifference) + saved;
 }
 
 std::string ApplyJson(const Application& iApplication, const Difference& iDifference)
@@ -287,6 +303,11 @@ std::string ApplyJson(const Application& iApplication, const Difference& iDiffer
         oWriter.StartArray();
         for (const std::string& note : iApplication.notes)
             WriteText(oWriter, note);
+        oWriter.EndArray();
+        WriteKey(oWriter, "failedItems");
+        oWriter.StartArray();
+        for (const FailedItem& failed : iApplication.failed)
+            WriteFailedItem(oWriter, failed);
         oWriter.EndArray();
         WriteKey(oWriter, "savedTo");
         if (iApplication.savedTo.empty())

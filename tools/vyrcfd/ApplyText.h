@@ -9,6 +9,7 @@
 #include <string>
 
 #include "Difference.h"
+#include "FailedItem.h"
 #include "JsonWriter.h"
 
 namespace Tool
@@ -24,6 +25,8 @@ struct Application
     std::string savedTo;
     /// What the error service holds, one line each.
     std::vector<std::string> notes;
+    /// Where nested configurations have failed.
+    std::vector<FailedItem> failed;
 };
 
 /// What has changed, object by object; empty for nothing.

@@ -1,69 +1,72 @@
 #include "ConfigurationShape.h"
 
+#include "ConfigurationKeys.h"
 #include "VYRStandaloneErrors.h"
+#include "Wording.h"
 
 namespace Tool
 {
 namespace
 {
-/// A place in the document.
-struct Place
+using Kind = SourceValue::Kind;
+
+class Shape
 {
-    const std::string& file;
-    const SourceValue& value;
-    std::string path;
+public:
+    explicit Shape(const std::string& iFile) : m_file(iFile) {}
 
-    void Expect(SourceValue::Kind iKind, const char* iWanted) const
+    void CheckFile(const SourceValue& iRoot) const
     {
-        if (!value.Is(iKind))
-            throw VYRStandalone::DocumentError(file, path,
-                                               std::string("must be ") + iWanted + ", not " + value.KindText());
+        Expect(iRoot, Kind::Object, "a configuration file");
+        // What names the schema is for editors.
+        CheckKey(iRoot, "configurations", Kind::Array);
+        for (const SourceValue* configuration : iRoot.ElementsOf("configurations"))
+            CheckConfiguration(*configuration);
     }
 
-    Place Element(std::size_t iIndex) const
+private:
+    void CheckConfiguration(const SourceValue& iConfiguration) const
     {
-        return {file, *value.elements[iIndex], path + "/" + std::to_string(iIndex)};
+        Expect(iConfiguration, Kind::Object, "a configuration");
+        if (!iConfiguration.Has("name"))
+            Fail(iConfiguration, "the configuration has no \"name\"");
+        CheckKeys(iConfiguration, ConfigurationKeys());
+        for (const SourceValue* item : iConfiguration.ElementsOf("config"))
+        {
+            Expect(*item, Kind::Object, "an item");
+            CheckKeys(*item, ItemKeys());
+        }
     }
 
-    bool Has(const char* iKey) const { return value.Has(iKey); }
-    Place Member(const char* iKey) const { return {file, *value.Find(iKey)->value, path + "/" + iKey}; }
+    void CheckKeys(const SourceValue& iObject, const KindsByKey& iKeys) const
+    {
+        for (const auto& [key, kind] : iKeys)
+            CheckKey(iObject, key, kind);
+    }
+
+    void CheckKey(const SourceValue& iObject, const std::string& iKey, Kind iKind) const
+    {
+        if (const SourceMember* member = iObject.Find(iKey))
+            Expect(*member->value, iKind, Quoted(iKey));
+    }
+
+    void Expect(const SourceValue& iValue, Kind iKind, const std::string& iWhat) const
+    {
+        if (!iValue.Is(iKind))
+            Fail(iValue, WrongKindText(iWhat, iKind, iValue));
+    }
+
+    [[noreturn]] void Fail(const SourceValue& iValue, const std::string& iMessage) const
+    {
+        throw VYRStandalone::DocumentError(m_file, iValue.position.line, iValue.position.column, iMessage);
+    }
+
+    const std::string& m_file;
 };
-
-void CheckItem(const Place& iItem)
-{
-    iItem.Expect(SourceValue::Kind::Object, "an object");
-    for (const char* key : {"path", "type", "default", "defaultAutoKey", "display", "value", "config", "condition",
-                            "choices", "Startups"})
-        if (iItem.Has(key))
-            iItem.Member(key).Expect(SourceValue::Kind::Text, "a text");
-    if (iItem.Has("list"))
-        iItem.Member("list").Expect(SourceValue::Kind::Boolean, "true or false");
-}
-
-void CheckConfiguration(const Place& iConfiguration)
-{
-    iConfiguration.Expect(SourceValue::Kind::Object, "an object");
-    if (!iConfiguration.Has("name"))
-        throw VYRStandalone::DocumentError(iConfiguration.file, iConfiguration.path + "/name", "is missing");
-    iConfiguration.Member("name").Expect(SourceValue::Kind::Text, "a text");
-    if (!iConfiguration.Has("config"))
-        return;
-    const Place items = iConfiguration.Member("config");
-    items.Expect(SourceValue::Kind::Array, "an array");
-    for (std::size_t i = 0; i < items.value.elements.size(); ++i)
-        CheckItem(items.Element(i));
-}
 } // namespace
 
 void CheckConfigurationShape(const SourceFile& iFile)
 {
-    const Place root{iFile.Path(), iFile.Root(), ""};
-    root.Expect(SourceValue::Kind::Object, "an object");
-    if (!root.Has("configurations"))
-        return;
-    const Place configurations = root.Member("configurations");
-    configurations.Expect(SourceValue::Kind::Array, "an array");
-    for (std::size_t i = 0; i < configurations.value.elements.size(); ++i)
-        CheckConfiguration(configurations.Element(i));
+    Shape(iFile.Path()).CheckFile(iFile.Root());
 }
 } // namespace Tool

@@ -4,6 +4,7 @@
 
 #include "Failure.h"
 #include "ListNames.h"
+#include "PathNames.h"
 #include "VYRCfdObjectAccess.h"
 #include "VYRStandaloneCatalog.h"
 #include "Wording.h"
@@ -70,11 +71,9 @@ Target FollowPath(const VYRStandalone::Model& iModel, const std::string& iFile, 
         Fail(iFile, "no top-level object " + Quoted(head.View()) + DidYouMean(head.View(), KnownNames(iModel)));
 
     const VYRCfdObjectAccess access = Walk(spObject, rest, iFile, iPath);
-    if (access.HasError())
-        FailNowhere(iFile, iPath, TextOf(access.GetError()));
     const ORXISpecObject_var spTarget = access.Self();
     if (access.IsNull() || !spTarget)
-        FailNowhere(iFile, iPath, "there is no object");
+        FailNowhere(iFile, iPath, WhyNowhere(ORXBaseUnknown_var(spObject), rest));
     // Only an object has a type; at an attribute the name is the attribute's.
     return {spTarget, access.GetType().IsEmpty() ? TextOf(access.GetName()) : std::string()};
 }

@@ -1,6 +1,7 @@
 #include "Value.h"
 
 #include <charconv>
+#include <cmath>
 
 #include "Wording.h"
 
@@ -8,12 +9,21 @@ namespace Tool
 {
 namespace
 {
-/// The shortest decimal that reads back the same.
-std::string Decimal(double iValue)
+std::string Decimal(double iValue, std::chars_format iFormat)
 {
     char text[64];
-    const std::to_chars_result end = std::to_chars(text, text + sizeof(text), iValue);
+    const std::to_chars_result end = std::to_chars(text, text + sizeof(text), iValue, iFormat);
     return {text, end.ptr};
+}
+
+/// The shortest decimal that reads back the same, with an exponent only where the digits alone would be hard to read.
+std::string Decimal(double iValue)
+{
+    constexpr double Small = 1e-4;
+    constexpr double Large = 1e15;
+    const double size = std::abs(iValue);
+    const bool isReadable = size == 0.0 || (size >= Small && size < Large);
+    return Decimal(iValue, isReadable ? std::chars_format::fixed : std::chars_format::scientific);
 }
 } // namespace
 

@@ -6,6 +6,11 @@
  * The checks that need no catalog. Each looks at one kind of mistake, and adds what it finds.
  */
 
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
 #include "ConfigurationSource.h"
 #include "FindingList.h"
 #include "Suggestions.h"
@@ -18,15 +23,32 @@ struct CheckRun
     const ConfigurationSource& source;
     FindingList findings{};
     Suggestions suggestions{};
+    /// False while files or catalogs are missing: what they would hold may be referred to, and may refer to the rest.
+    bool isWhole = true;
+
+    /// Configurations whose objects are not known, since a mistake stands where the way to them is told. What they are
+    /// for is not guessed then: it would be found wrong for that mistake alone.
+    std::set<std::string, std::less<>> unclear{};
+
+    /// Configurations that are applied from outside: a catalog says that they are for a type, or a reference that is
+    /// misspelt means them.
+    std::set<std::string, std::less<>> wanted{};
+    /// Whether any catalog says what is applied by itself.
+    bool knowsWanted = false;
 
     void Add(Finding iFinding) { findings.Add(std::move(iFinding)); }
-    /// The same, with what was probably meant.
-    void Add(Finding iFinding, std::string_view iUnknown, const std::vector<std::string>& iKnown)
+    /// The same, with what was probably meant. @return that; empty where nothing is like it
+    std::string Add(Finding iFinding, std::string_view iUnknown, const std::vector<std::string>& iKnown)
     {
         suggestions.Complete(iFinding, iUnknown, iKnown);
+        std::string suggestion = iFinding.suggestion;
         findings.Add(std::move(iFinding));
+        return suggestion;
     }
 };
+
+/// Files that fail the engine's load, that it passes over, and that have nothing in them.
+void CheckFiles(const Installation& iInstallation, CheckRun& ioRun);
 
 /// Keys that nothing reads, that stand twice, or whose value is of the wrong kind, everywhere in the files.
 void CheckKeys(CheckRun& ioRun);
@@ -38,7 +60,8 @@ void CheckRoles(CheckRun& ioRun);
 /// configuration that a catalog lists as meant for a type is referred to.
 void CheckNames(CheckRun& ioRun);
 
-/// Configurations that apply themselves in the end. One finding for each group that hangs together.
+/// Configurations that apply themselves in the end. One finding for each group that hangs together, and another where
+/// nothing applies the group, for which the names must have been checked.
 void CheckCycles(CheckRun& ioRun);
 
 /// Conditions that are none, and such as compare something else than they seem to, as far as the text shows.
@@ -47,9 +70,19 @@ void CheckConditionTexts(CheckRun& ioRun);
 /// Comma lists: their lengths, their entries, and a default that is none of its choices.
 void CheckLists(CheckRun& ioRun);
 
-/// Paths of defaults and values that the engine takes for the name of one attribute, and defaults of the same attribute
-/// in one configuration.
-void CheckDefaultPaths(CheckRun& ioRun);
+/// Paths with an empty name in them, and those of defaults and values, which the engine takes for the name of one
+/// attribute.
+void CheckPaths(CheckRun& ioRun);
+
+/// Adds that nothing applies a configuration.
+void AddUnused(const SourceConfiguration& iConfiguration, const std::string& iWhy, CheckRun& ioRun);
+
+/// How much of a path the cursor follows: it stops, without an error, at the first name that is empty.
+std::size_t EndOfNames(std::string_view iPath);
+
+/// Defaults of the same attribute in one configuration. Of such as are good by themselves, so that all other checks of
+/// defaults come before.
+void CheckRepeatedDefaults(CheckRun& ioRun);
 
 /// Whether an item has a key that is unknown or of the wrong kind, which then says why the item does not do what it
 /// seems to.

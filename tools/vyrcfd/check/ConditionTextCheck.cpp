@@ -1,5 +1,6 @@
 #include "CheckRun.h"
 #include "ConditionText.h"
+#include "Oddity.h"
 #include "VYRCfdUtilityMethods.h"
 #include "VYRStandaloneModel.h"
 #include "Wording.h"
@@ -31,24 +32,15 @@ bool IsQuoted(const std::string& iValue)
     return text.size() >= 2 && text.front() == text.back() && (text.front() == '"' || text.front() == '\'');
 }
 
-/// What is odd about a condition, and what was probably meant. Empty when nothing is.
-struct Oddity
-{
-    std::string message;
-    std::string suggestion;
-};
-
 Oddity OddityOf(const ConditionText& iParts)
 {
     for (const char* joint : {"&&", "||", " and ", " or "})
         if (iParts.value.find(joint) != std::string::npos)
             return {"a condition is one comparison: " + Quoted(joint) + " and what follows belong to the text that " +
-                        Quoted(iParts.path) + " is compared with",
-                    {}};
+                    Quoted(iParts.path) + " is compared with"};
     if (iParts.path.find_first_of("=!<>") != std::string::npos)
         return {"a condition is one comparison: the left side would be the path " + Quoted(iParts.path) +
-                    ", and no attribute has such a name",
-                {}};
+                ", and no attribute has such a name"};
     if (HasWhiteEdge(iParts.path))
         return {"the blank beside the operator belongs to the path " + Quoted(iParts.path) + ", which leads nowhere",
                 Trimmed(iParts.path) + iParts.sign + Trimmed(iParts.value)};

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "ItemTrial.h"
+#include "Oddity.h"
 #include "ScratchObjects.h"
 #include "VYRCfdUtilityMethods.h"
 #include "VYRStandaloneCatalog.h"
@@ -12,13 +13,6 @@ namespace Tool
 namespace
 {
 using Comparison = VYRCfdConditionOperator;
-
-struct Oddity
-{
-    std::string message{};
-    std::string unknown{};
-    std::vector<std::string> known{};
-};
 
 bool AsksForEquality(const ConditionText& iParts)
 {
@@ -54,10 +48,8 @@ Oddity OfEnumeration(const ConditionText& iParts, const std::vector<std::string>
     const auto named = std::find(iTexts.begin(), iTexts.end(), iParts.value);
     const std::string number = named != iTexts.end() ? std::to_string(named - iTexts.begin() + 1) : std::string();
     return {Quoted(iParts.path) + " is an enumeration, and compares as the number of its text, from 1 to " +
-                std::to_string(iTexts.size()) + ": the condition never holds" +
-                (number.empty() ? "" : "; " + Quoted(iParts.value) + " has the number " + number),
-            {},
-            {}};
+            std::to_string(iTexts.size()) + ": the condition never holds" +
+            (number.empty() ? "" : "; " + Quoted(iParts.value) + " has the number " + number)};
 }
 
 Oddity OfInteger(const ConditionText& iParts, const std::vector<std::string>& iTexts)
@@ -86,15 +78,9 @@ Oddity OfText(const ConditionText& iParts, const VYRCfdObjectAccess& iAttribute)
         return {};
     return {Quoted(iParts.value) + " is no choice of " + Quoted(iParts.path) + ": the condition " +
                 (iParts.comparison == Comparison::Equal ? "never" : "always") + " holds",
-            iParts.value, choices};
-}
-
-std::vector<std::string> TextsOf(const VYRCfdObjectAccess& iAttribute)
-{
-    for (const VYRStandalone::AttributeInfo& info : VYRStandalone::Attributes(ORXISpecObject_var(iAttribute.Self())))
-        if (UnicodeOf(info.name) == iAttribute.GetName())
-            return info.values;
-    return {};
+            {},
+            iParts.value,
+            choices};
 }
 
 /// Asked in the order in which the engine does.
@@ -111,6 +97,14 @@ Oddity OddityOf(const ConditionText& iParts, const VYRCfdObjectAccess& iAttribut
     return {Quoted(iParts.path) + " is neither a number, a text nor a boolean: the condition never holds"};
 }
 } // namespace
+
+std::vector<std::string> TextsOf(const VYRCfdObjectAccess& iAttribute)
+{
+    for (const VYRStandalone::AttributeInfo& info : VYRStandalone::Attributes(ORXISpecObject_var(iAttribute.Self())))
+        if (UnicodeOf(info.name) == iAttribute.GetName())
+            return info.values;
+    return {};
+}
 
 void CheckComparison(const SourceItem& iItem, const Trial& iTrial, const ConditionText& iParts,
                      const VYRCfdObjectAccess& iAttribute, TrialFindings& oFindings)

@@ -24,8 +24,12 @@ Circles CirclesOf(const ReferenceGraph& iGraph)
     return circles;
 }
 
-/// The shortest way from a node back to itself; empty when there is none. All nodes of its group are done then.
-Chain ShortestCycle(const Circles& iCircles, std::size_t iStart, std::vector<bool>& ioDone)
+/// Configurations that lead to each other, in no order.
+using Group = std::vector<std::size_t>;
+
+/// The shortest way from a node back to itself; empty when there is none. @param oGroup all that lead to each other
+/// with the node
+Chain ShortestCycle(const Circles& iCircles, std::size_t iStart, Group& oGroup)
 {
     std::unordered_map<std::size_t, const Reference*> reachedBy;
     std::deque<std::size_t> waiting{iStart};
@@ -33,7 +37,7 @@ Chain ShortestCycle(const Circles& iCircles, std::size_t iStart, std::vector<boo
     {
         const std::size_t node = waiting.front();
         waiting.pop_front();
-        ioDone[node] = true;
+        oGroup.push_back(node);
         for (const Reference* const reference : iCircles[node])
             if (reachedBy.try_emplace(reference->to, reference).second && reference->to != iStart)
                 waiting.push_back(reference->to);
@@ -75,19 +79,47 @@ void AddCycle(const Chain& iChain, CheckRun& ioRun)
         }
     ioRun.Add(std::move(finding));
 }
+
+/// By node, whether it is applied by another than those that it applies in the end.
+std::vector<bool> AppliedByOthers(const ReferenceGraph& iGraph)
+{
+    std::vector<bool> applied(iGraph.nodes.size(), false);
+    for (const Reference& reference : iGraph.references)
+        if (!reference.isInCircle)
+            applied[reference.to] = true;
+    return applied;
+}
+
+/// What is applied by its own group alone is applied by nothing. One that applies itself only is told by its name.
+void CheckUse(const Group& iGroup, const ReferenceGraph& iGraph, const std::vector<bool>& iApplied, CheckRun& ioRun)
+{
+    const bool isUsed = std::any_of(iGroup.begin(), iGroup.end(), [&](std::size_t iNode) {
+        return iApplied[iNode] || ioRun.wanted.count(iGraph.nodes[iNode].name) != 0;
+    });
+    if (isUsed || iGroup.size() < 2 || !ioRun.isWhole)
+        return;
+    const SourceConfiguration& first = *iGraph.nodes[iGroup.front()].configuration;
+    AddUnused(first, "only configurations that it applies itself in the end refer to " + Quoted(first.name), ioRun);
+}
 } // namespace
 
 void CheckCycles(CheckRun& ioRun)
 {
     const ReferenceGraph graph = ReferencesOf(ioRun.source, {nullptr, true});
     const Circles circles = CirclesOf(graph);
+    const std::vector<bool> applied = AppliedByOthers(graph);
     std::vector<bool> isDone(graph.nodes.size(), false);
     // Of several nodes of a group the first in the files begins the chain.
     for (std::size_t node = 0; node < graph.nodes.size(); ++node)
     {
-        const Chain chain = isDone[node] ? Chain() : ShortestCycle(circles, node, isDone);
-        if (!chain.empty())
-            AddCycle(chain, ioRun);
+        Group group;
+        const Chain chain = isDone[node] ? Chain() : ShortestCycle(circles, node, group);
+        for (const std::size_t one : group)
+            isDone[one] = true;
+        if (chain.empty())
+            continue;
+        AddCycle(chain, ioRun);
+        CheckUse(group, graph, applied, ioRun);
     }
 }
 } // namespace Tool

@@ -92,6 +92,9 @@ void DefaultTrial::Check(const SourceItem& iItem, const Trial& iTrial, TrialFind
                    {PathEnd::Kind::Nowhere, iTrial.object, iTrial.place, name, "No attribute " + name}, oFindings);
         return;
     }
+    if (IsOptional(iTrial.object, name))
+        AddOptional(iItem, iTrial, "path", Severity::Warning, name, "on any other the configuration fails here",
+                    oFindings);
     // What a Choice takes depends on what it offers at the moment.
     const std::tuple key(std::string(iTrial.object.GetType().View()), name, text);
     const auto known = IsChoice(iTrial.object) ? m_verdicts.end() : m_verdicts.find(key);

@@ -8,6 +8,10 @@ const char* NameOf(FindingKind iKind)
 {
     switch (iKind)
     {
+    case FindingKind::UnreadableFile:
+        return "unreadable-file";
+    case FindingKind::IgnoredFile:
+        return "ignored-file";
     case FindingKind::UnknownKey:
         return "unknown-key";
     case FindingKind::WrongKind:
@@ -60,14 +64,19 @@ const char* NameOf(Severity iSeverity)
     return "note";
 }
 
+Finding FindingIn(const std::string& iFile, const SourcePosition& iPosition, FindingKind iKind, Severity iSeverity,
+                  std::string iMessage)
+{
+    return {iKind, iSeverity, OneLine(iFile), iPosition, nullptr, 0, {}, std::move(iMessage), {}, {}};
+}
+
 Finding FindingAt(const SourceConfiguration& iConfiguration, std::string_view iKey, FindingKind iKind,
                   Severity iSeverity, std::string iMessage)
 {
-    Finding finding{
-        iKind, iSeverity, OneLine(iConfiguration.file->Path()), iConfiguration.position, &iConfiguration, 0, {}, {},
-        {},    {}};
+    Finding finding =
+        FindingIn(iConfiguration.file->Path(), iConfiguration.position, iKind, iSeverity, std::move(iMessage));
+    finding.configuration = &iConfiguration;
     finding.key = iKey;
-    finding.message = std::move(iMessage);
     if (const SourceMember* member = iConfiguration.value->Find(iKey))
         finding.position = member->value->position;
     return finding;

@@ -16,6 +16,8 @@ namespace Tool
 {
 enum class FindingKind
 {
+    UnreadableFile,
+    IgnoredFile,
     UnknownKey,
     WrongKind,
     DoesNothing,
@@ -82,6 +84,10 @@ Finding FindingAt(const SourceItem& iItem, std::string_view iKey, FindingKind iK
 /// A finding at the value of a key of a configuration, or at the configuration where it has none.
 Finding FindingAt(const SourceConfiguration& iConfiguration, std::string_view iKey, FindingKind iKind,
                   Severity iSeverity, std::string iMessage);
+
+/// A finding in a file, outside every configuration.
+Finding FindingIn(const std::string& iFile, const SourcePosition& iPosition, FindingKind iKind, Severity iSeverity,
+                  std::string iMessage);
 
 /// Where the name of a configuration stands.
 RelatedPlace PlaceOf(const SourceConfiguration& iConfiguration);

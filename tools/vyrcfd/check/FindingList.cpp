@@ -43,9 +43,9 @@ bool FindingList::Has(const Finding& iFinding) const
 std::vector<Finding> FindingList::Sorted(const ConfigurationSource& iSource) const
 {
     std::unordered_map<std::string, std::size_t> order;
-    for (const SourceFile& file : iSource.Files())
-        order.emplace(OneLine(file.Path()), order.size());
-    // Catalogs stand behind all configuration files.
+    for (const std::string& path : iSource.Paths())
+        order.emplace(OneLine(path), order.size());
+    // Catalogs, and files that nothing reads, stand behind all configuration files.
     const auto place = [&](const Finding& iFinding) {
         const auto known = order.find(iFinding.file);
         return std::tuple(known != order.end() ? known->second : order.size(), std::string_view(iFinding.file),

@@ -71,6 +71,9 @@ void TryValues(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFin
 /// Configures the Choice as the engine does. @return whether what the Choice offers was changed
 bool TryChoice(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
 
+/// The texts of the enumeration that an attribute is; empty for any other.
+std::vector<std::string> TextsOf(const VYRCfdObjectAccess& iAttribute);
+
 /// What a comparison with an attribute comes to.
 void CheckComparison(const SourceItem& iItem, const Trial& iTrial, const ConditionText& iParts,
                      const VYRCfdObjectAccess& iAttribute, TrialFindings& oFindings);
@@ -78,6 +81,10 @@ void CheckComparison(const SourceItem& iItem, const Trial& iTrial, const Conditi
 /// Adds that a path of an item leads nowhere.
 void AddNowhere(const SourceItem& iItem, const Trial& iTrial, const char* iKey, const std::string& iPath,
                 const PathEnd& iEnd, TrialFindings& oFindings);
+
+/// Adds that an attribute need not be there, and what comes of it.
+void AddOptional(const SourceItem& iItem, const Trial& iTrial, const char* iKey, Severity iSeverity,
+                 const std::string& iName, const std::string& iConsequence, TrialFindings& oFindings);
 } // namespace Tool
 
 #endif

@@ -1,8 +1,8 @@
 #include <algorithm>
-#include <map>
 #include <set>
 
 #include "CheckRun.h"
+#include "ConfigurationKeys.h"
 #include "Wording.h"
 
 namespace Tool
@@ -10,45 +10,6 @@ namespace Tool
 namespace
 {
 using Kind = SourceValue::Kind;
-using KindsByKey = std::map<std::string, Kind, std::less<>>;
-
-const KindsByKey& RootKeys()
-{
-    // The first names the schema for editors.
-    static const KindsByKey keys{{"$schema", Kind::Text}, {"configurations", Kind::Array}};
-    return keys;
-}
-
-const KindsByKey& ConfigurationKeys()
-{
-    static const KindsByKey keys{{"name", Kind::Text}, {"config", Kind::Array}};
-    return keys;
-}
-
-const KindsByKey& ItemKeys()
-{
-    static const KindsByKey keys{{"path", Kind::Text},    {"type", Kind::Text},           {"default", Kind::Text},
-                                 {"display", Kind::Text}, {"defaultAutoKey", Kind::Text}, {"value", Kind::Text},
-                                 {"list", Kind::Boolean}, {"config", Kind::Text},         {"condition", Kind::Text},
-                                 {"choices", Kind::Text}, {"Startups", Kind::Text}};
-    return keys;
-}
-
-const char* WantedText(Kind iKind)
-{
-    switch (iKind)
-    {
-    case Kind::Boolean:
-        return "true or false";
-    case Kind::Array:
-        return "an array";
-    case Kind::Object:
-        return "an object";
-    default:
-        return "a text";
-    }
-}
-
 std::vector<std::string> NamesOf(const KindsByKey& iKeys)
 {
     std::vector<std::string> names;
@@ -76,8 +37,8 @@ public:
 
     void CheckFile(const SourceFile& iFile)
     {
-        Finding place{FindingKind::WrongKind, Severity::Error, OneLine(iFile.Path()), {}, nullptr, 0, {}, {}, {}, {}};
-        CheckObject({iFile.Root(), RootKeys(), "a file", place});
+        const Finding place = FindingIn(iFile.Path(), {}, FindingKind::WrongKind, Severity::Error, {});
+        CheckObject({iFile.Root(), FileKeys(), "a file", place});
     }
 
     void CheckConfiguration(const SourceConfiguration& iConfiguration)
@@ -95,7 +56,7 @@ private:
         if (!iObject.value.Is(Kind::Object))
         {
             Add(iObject, FindingKind::WrongKind, Severity::Error, {}, iObject.value.position,
-                std::string(iObject.what) + " must be an object, not " + iObject.value.KindText());
+                WrongKindText(iObject.what, Kind::Object, iObject.value));
             return;
         }
         std::set<std::string_view> seen;
@@ -113,7 +74,7 @@ private:
                 "the key " + Quoted(iMember.key) + " stands twice in " + iObject.what + ", and the first counts");
         else if (!iMember.value->Is(known->second))
             Add(iObject, FindingKind::WrongKind, Severity::Error, iMember.key, iMember.value->position,
-                Quoted(iMember.key) + " must be " + WantedText(known->second) + ", not " + iMember.value->KindText());
+                WrongKindText(Quoted(iMember.key), known->second, *iMember.value));
     }
 
     void AddUnknown(const KeyedObject& iObject, const SourceMember& iMember)

@@ -58,9 +58,13 @@ void TryValues(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFin
     if (name.empty() || name.find('/') != std::string::npos)
         return;
     if (!KeyOf(iTrial.object, name))
-        AddNowhere(iItem, iTrial, "path", name,
-                   {PathEnd::Kind::Nowhere, iTrial.object, iTrial.place, name, "No attribute " + name}, oFindings);
-    else if (iTrial.object[UnicodeOf(name)].SetStrings(SplitList(iItem.Text("value"))) < 0)
+        return AddNowhere(iItem, iTrial, "path", name,
+                          {PathEnd::Kind::Nowhere, iTrial.object, iTrial.place, name, "No attribute " + name},
+                          oFindings);
+    if (IsOptional(iTrial.object, name))
+        AddOptional(iItem, iTrial, "path", Severity::Warning, name, "on any other the configuration fails here",
+                    oFindings);
+    if (iTrial.object[UnicodeOf(name)].SetStrings(SplitList(iItem.Text("value"))) < 0)
         AddFailed(iItem, iTrial, "path", FindingKind::DefaultInvalid, Quoted(name) + " is no list of texts", oFindings);
 }
 

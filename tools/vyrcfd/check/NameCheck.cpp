@@ -17,29 +17,13 @@ std::vector<std::string> KnownNames(const ConfigurationSource& iSource)
     return names;
 }
 
-/// The value at a path such as "/types/0/name" of a catalog, which was read before.
-SourcePosition PositionIn(const SourceFile& iFile, const std::string& iPath)
-{
-    const SourceValue* value = &iFile.Root();
-    for (std::size_t at = 1; at < iPath.size();)
-    {
-        const std::size_t end = std::min(iPath.find('/', at), iPath.size());
-        const std::string step = iPath.substr(at, end - at);
-        if (value->Is(SourceValue::Kind::Array))
-            value = value->elements.at(static_cast<std::size_t>(std::stoul(step)));
-        else if (const SourceMember* member = value->Find(step))
-            value = member->value;
-        at = end + 1;
-    }
-    return value->position;
-}
-
 class NameCheck
 {
 public:
     explicit NameCheck(CheckRun& ioRun)
         : m_run(ioRun), m_known(KnownNames(ioRun.source)), m_meant(VYRStandalone::MeantConfigurations())
     {
+        m_run.knowsWanted = !m_meant.empty();
     }
 
     void Check()
@@ -55,21 +39,15 @@ public:
 private:
     void CheckMeant(const VYRStandalone::MeantConfiguration& iMeant)
     {
-        m_used.insert(iMeant.configuration);
-        if (m_run.source.Find(iMeant.configuration) != nullptr)
+        m_run.wanted.insert(iMeant.configuration);
+        if (m_run.source.Find(iMeant.configuration) != nullptr || !m_run.isWhole)
             return;
-        Finding finding{FindingKind::UnknownConfig,
-                        Severity::Error,
-                        OneLine(iMeant.file),
-                        PositionIn(SourceFile(iMeant.file), iMeant.path),
-                        nullptr,
-                        0,
-                        "configurations",
-                        "type " + Quoted(iMeant.type) + " is meant for a configuration " +
-                            Quoted(iMeant.configuration) + ", and there is none",
-                        {},
-                        {}};
-        m_run.Add(std::move(finding), iMeant.configuration, m_known);
+        Finding finding = FindingIn(iMeant.file, SourceFile(iMeant.file).PositionAt(iMeant.path),
+                                    FindingKind::UnknownConfig, Severity::Error,
+                                    "type " + Quoted(iMeant.type) + " is meant for a configuration " +
+                                        Quoted(iMeant.configuration) + ", and there is none");
+        finding.key = "configurations";
+        AddUnknown(std::move(finding), iMeant.configuration);
     }
 
     void CheckReferences(const SourceConfiguration& iConfiguration)
@@ -80,12 +58,24 @@ private:
                 continue;
             const std::string_view name = item.Text("config");
             if (m_run.source.Find(name) == nullptr)
-                m_run.Add(FindingAt(item, "config", FindingKind::UnknownConfig, Severity::Error,
-                                    "there is no configuration " + Quoted(name)),
-                          name, m_known);
+                AddUnknown(FindingAt(item, "config", FindingKind::UnknownConfig, Severity::Error,
+                                     "there is no configuration " + Quoted(name)),
+                           name);
             else if (name != iConfiguration.name && iConfiguration.hiddenBy == nullptr)
                 m_used.emplace(name);
         }
+    }
+
+    /// The one that was probably meant is used, for what is not known.
+    void AddUnknown(Finding iFinding, std::string_view iName)
+    {
+        if (!m_run.isWhole)
+            return;
+        const std::string meant = m_run.Add(std::move(iFinding), iName, m_known);
+        if (meant.empty())
+            return;
+        m_run.wanted.insert(meant);
+        m_run.unclear.insert(meant);
     }
 
     void CheckName(const SourceConfiguration& iConfiguration)
@@ -103,8 +93,9 @@ private:
                                     ", so that no item can apply it"));
         else if (iConfiguration.hiddenBy != nullptr)
             AddDuplicate(iConfiguration);
-        else if (m_used.count(iConfiguration.name) == 0)
-            AddUnused(iConfiguration);
+        else if (m_run.isWhole && m_used.count(iConfiguration.name) == 0 &&
+                 m_run.wanted.count(iConfiguration.name) == 0)
+            AddUnused(iConfiguration, "no other configuration refers to " + Quoted(iConfiguration.name), m_run);
     }
 
     void AddDuplicate(const SourceConfiguration& iConfiguration)
@@ -118,22 +109,21 @@ private:
         m_run.Add(std::move(finding));
     }
 
-    /// As long as no catalog tells what is applied from outside, nothing can be held against it.
-    void AddUnused(const SourceConfiguration& iConfiguration)
-    {
-        const std::string message = "no other configuration refers to " + Quoted(iConfiguration.name);
-        m_run.Add(FindingAt(
-            iConfiguration, "name", FindingKind::UnusedConfig, m_meant.empty() ? Severity::Note : Severity::Warning,
-            message + (m_meant.empty() ? ", and no catalog says what is applied by itself"
-                                       : ", and no type of the catalogs lists it under \"configurations\"")));
-    }
-
     CheckRun& m_run;
     std::vector<std::string> m_known;
     std::vector<VYRStandalone::MeantConfiguration> m_meant;
     std::unordered_set<std::string> m_used;
 };
 } // namespace
+
+/// As long as no catalog tells what is applied from outside, nothing can be held against it.
+void AddUnused(const SourceConfiguration& iConfiguration, const std::string& iWhy, CheckRun& ioRun)
+{
+    const Severity severity = ioRun.knowsWanted ? Severity::Warning : Severity::Note;
+    const char* const catalogs = ioRun.knowsWanted ? ", and no type of the catalogs lists it under \"configurations\""
+                                                   : ", and no catalog says what is applied by itself";
+    ioRun.Add(FindingAt(iConfiguration, "name", FindingKind::UnusedConfig, severity, iWhy + catalogs));
+}
 
 void CheckNames(CheckRun& ioRun)
 {

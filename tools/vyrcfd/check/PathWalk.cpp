@@ -6,6 +6,7 @@
 #include "ORXISpecAttrKey.h"
 #include "ORXSimBCInitializeServices.h"
 #include "ORXTypeCode.h"
+#include "PathNames.h"
 #include "ScratchObjects.h"
 #include "SourceItem.h"
 #include "VYRStandaloneCatalog.h"
@@ -99,18 +100,24 @@ std::vector<PathEnd> PathWalk::Follow(const std::string& iPath) const
 void PathWalk::Step(const PathEnd& iFrom, const Names& iNames, std::size_t iNext, std::vector<PathEnd>& oEnds) const
 {
     const bool leadsOn = iFrom.kind == PathEnd::Kind::Object || iFrom.kind == PathEnd::Kind::Attribute;
-    if (!leadsOn || iNext == iNames.size())
-    {
+    const bool isLast = iNext == iNames.size();
+    if (iFrom.kind == PathEnd::Kind::Unheld && !isLast)
+        oEnds.push_back(Open());
+    else if (!leadsOn || isLast)
         oEnds.push_back(iFrom);
-        return;
-    }
-    const std::string& name = iNames[iNext];
-    if (iFrom.kind == PathEnd::Kind::Attribute)
-        Step(StepInList(iFrom, name), iNames, iNext + 1, oEnds);
-    else if (name == "Data" && IsChoice(iFrom.access))
+    else if (iFrom.kind == PathEnd::Kind::Object && iNames[iNext] == "Data" && IsChoice(iFrom.access))
         StepToData(iFrom, iNames, iNext + 1, oEnds);
     else
-        Step(StepOnObject(iFrom, name), iNames, iNext + 1, oEnds);
+        Step(Next(iFrom, iNames[iNext]), iNames, iNext + 1, oEnds);
+}
+
+PathEnd PathWalk::Next(const PathEnd& iFrom, const std::string& iName) const
+{
+    if (iFrom.kind == PathEnd::Kind::Attribute)
+        return StepInList(iFrom, iName);
+    PathEnd next = StepOnObject(iFrom, iName);
+    next.optional = iFrom.optional.empty() && IsOptional(iFrom.access, iName) ? iName : iFrom.optional;
+    return next;
 }
 
 void PathWalk::StepToData(const PathEnd& iFrom, const Names& iNames, std::size_t iNext,
@@ -133,7 +140,7 @@ void PathWalk::StepToData(const PathEnd& iFrom, const Names& iNames, std::size_t
             continue;
         }
         std::vector<PathEnd> ends;
-        Step({PathEnd::Kind::Object, data, PlaceOfType(data)}, iNames, iNext, ends);
+        Step({PathEnd::Kind::Object, data, PlaceOfType(data), {}, {}, iFrom.optional}, iNames, iNext, ends);
         for (PathEnd& end : ends)
             (end.kind == PathEnd::Kind::Nowhere ? failed : oEnds).push_back(std::move(end));
     }
@@ -197,7 +204,7 @@ PathEnd PathWalk::StepOnObject(const PathEnd& iFrom, const std::string& iName) c
     if (!HoldsObjects(spKey->GetType()))
         return {PathEnd::Kind::Attribute, next, iFrom.place};
     if (next.IsNull())
-        return Open();
+        return {PathEnd::Kind::Unheld};
     return {PathEnd::Kind::Object, next,
             spKey->GetType() == tk_component ? iFrom.place.Component(iName) : PlaceOfType(next)};
 }
@@ -205,7 +212,7 @@ PathEnd PathWalk::StepOnObject(const PathEnd& iFrom, const std::string& iName) c
 PathEnd PathWalk::StepInList(const PathEnd& iFrom, const std::string& iName)
 {
     if (!iFrom.access.IsObjectList())
-        return Nowhere(iFrom, iName, std::string(iFrom.access.Get(UnicodeOf(iName)).GetError().View()));
+        return Nowhere(iFrom, iName, WhyNoFurther(iFrom.access, iName));
     VYRCfdObjectAccess entry = iFrom.access.Get(UnicodeOf(iName));
     if (entry.IsNull() && IsType(iName))
     {

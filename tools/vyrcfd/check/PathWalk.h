@@ -24,6 +24,8 @@ struct PathEnd
         Nowhere,
         /// Through a reference, a list or a component that a model may hold or not: nothing can be said.
         Open,
+        /// An attribute for an object, which holds none as long as a model puts none there.
+        Unheld,
         Object,
         Attribute
     };
@@ -36,6 +38,8 @@ struct PathEnd
     /// Of a path that leads nowhere: the name that did not lead on, and what the cursor says of it.
     std::string name{};
     std::string reason{};
+    /// The first attribute on the way that an object need not have; empty where all have all.
+    std::string optional{};
 };
 
 /**
@@ -59,6 +63,7 @@ private:
 
     void Step(const PathEnd& iFrom, const Names& iNames, std::size_t iNext, std::vector<PathEnd>& oEnds) const;
     void StepToData(const PathEnd& iFrom, const Names& iNames, std::size_t iNext, std::vector<PathEnd>& oEnds) const;
+    PathEnd Next(const PathEnd& iFrom, const std::string& iName) const;
     PathEnd StepOnObject(const PathEnd& iFrom, const std::string& iName) const;
     static PathEnd StepInList(const PathEnd& iFrom, const std::string& iName);
     /// The choices whose data objects are worth a look: of those that share a type, the first.

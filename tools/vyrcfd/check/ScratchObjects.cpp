@@ -1,5 +1,8 @@
 #include "ScratchObjects.h"
 
+#include <set>
+#include <utility>
+
 #include "ORXISpecAttribute.h"
 #include "ORXKeySetVYRCfdBase.h"
 #include "SourceItem.h"
@@ -37,6 +40,16 @@ void ScratchObjects::Spoil(const std::string& iType)
     m_roots.erase(iType);
 }
 
+namespace
+{
+/// Attributes that were made real, by the type of the object. Without that an object does not have them.
+std::set<std::pair<std::string, std::string>>& OptionalAttributes()
+{
+    static std::set<std::pair<std::string, std::string>> attributes;
+    return attributes;
+}
+} // namespace
+
 ORXISpecAttrKey_var KeyOf(const VYRCfdObjectAccess& iObject, const std::string& iName)
 {
     const ORXISpecAttrAccess_var spAccess = iObject.Access();
@@ -48,7 +61,14 @@ ORXISpecAttrKey_var KeyOf(const VYRCfdObjectAccess& iObject, const std::string& 
         return spKey;
     const ORXISpecAttribute_var spAdded =
         ORXISpecAttribute_var::Adopt(spObject->AddAttribute(UnicodeOf(iName), spKey->GetType(), 0));
+    OptionalAttributes().emplace(iObject.GetType().View(), iName);
     return spKey;
+}
+
+bool IsOptional(const VYRCfdObjectAccess& iObject, const std::string& iName)
+{
+    return !OptionalAttributes().empty() &&
+           OptionalAttributes().count({std::string(iObject.GetType().View()), iName}) != 0;
 }
 
 std::vector<std::string> NamesOn(const VYRCfdObjectAccess& iObject)

@@ -40,6 +40,9 @@ private:
 /// Key of an attribute of the object at which the cursor stands; an optional one is made real. Null for none.
 ORXISpecAttrKey_var KeyOf(const VYRCfdObjectAccess& iObject, const std::string& iName);
 
+/// Whether an object of the same type need not have the attribute, whose key was asked for. It does here.
+bool IsOptional(const VYRCfdObjectAccess& iObject, const std::string& iName);
+
 /// Names that lead on from an object: its attributes, and of a Choice what it offers.
 std::vector<std::string> NamesOn(const VYRCfdObjectAccess& iObject);
 

@@ -23,4 +23,12 @@ void AddNowhere(const SourceItem& iItem, const Trial& iTrial, const char* iKey, 
     oFindings.push_back({FindingAt(iItem, iKey, FindingKind::PathNowhere, iTrial.Worst(), std::move(message)),
                          isThere ? std::string() : iEnd.name, known});
 }
+
+void AddOptional(const SourceItem& iItem, const Trial& iTrial, const char* iKey, Severity iSeverity,
+                 const std::string& iName, const std::string& iConsequence, TrialFindings& oFindings)
+{
+    oFindings.push_back({FindingAt(iItem, iKey, FindingKind::PathNowhere, iSeverity,
+                                   Quoted(iName) + " is an optional attribute " + iTrial.Where() +
+                                       ", which an object has only once it was added: " + iConsequence)});
+}
 } // namespace Tool

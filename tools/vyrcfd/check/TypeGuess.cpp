@@ -53,7 +53,8 @@ std::vector<std::string> TypeGuess::TypesFor(const SourceConfiguration& iConfigu
     std::size_t most = 0;
     for (const auto& [type, count] : votes)
         most = std::max(most, count);
-    if (most == 0 || most * 2 < wanted)
+    // Where more go astray, the names say nothing of the type, and every finding would follow from a wrong guess.
+    if (most == 0 || most * 3 < wanted * 2)
         return {};
     Types best;
     for (const auto& [type, count] : votes)

@@ -17,7 +17,7 @@ public:
     explicit TypeGuess(ScratchObjects& ioObjects);
 
     /// The types with most of the names; of those that have as many, not such as derive from another one. Empty where
-    /// they are not even half, or too many types are as good.
+    /// they are not even two thirds, or too many types are as good.
     std::vector<std::string> TypesFor(const SourceConfiguration& iConfiguration);
 
     /// Whether any type has an attribute of the name.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "CatalogCheck.h"
 #include "VYRIMpaDefaultManagementProtected.h"
 #include "VYRStandaloneCatalog.h"
 #include "VYRStandaloneErrors.h"
@@ -9,15 +10,34 @@
 
 namespace Tool
 {
-TypedCheck::TypedCheck(CheckRun& ioRun) : m_run(ioRun), m_guess(m_objects) {}
+namespace
+{
+/// What a Choice has as it comes; empty for no Choice.
+std::string FirstChoiceOf(const VYRCfdObjectAccess& iObject)
+{
+    const ORXISpecObject_var spObject = iObject.Self();
+    if (!IsChoice(iObject) || !spObject)
+        return {};
+    const VYRCfdObjectAccess startup{ORXBaseUnknown_var(ORXISpecObject_var::Adopt(spObject->GetStartup()))};
+    ORXUnicodeString value;
+    startup["value"].GetString(value);
+    return std::string(value.View());
+}
+} // namespace
 
-void TypedCheck::Check()
+TypedCheck::TypedCheck(CheckRun& ioRun) : m_run(ioRun), m_guess(m_objects), m_overlap(ioRun.source) {}
+
+void TypedCheck::Check(const CatalogSource& iCatalogs)
 {
     CheckTypeNames();
+    CheckCatalogStartups(iCatalogs, m_objects, m_run);
     for (const VYRStandalone::MeantConfiguration& meant : VYRStandalone::MeantConfigurations())
         Put(meant.configuration, {meant.type}, false);
     WorkOff();
-    GuessRest();
+    SpreadUnclear();
+    // What files that are missing would lead to is not known.
+    if (m_run.isWhole)
+        GuessRest();
 }
 
 void TypedCheck::Put(std::string_view iConfiguration, const ObjectPlace& iPlace, bool iIsGuessed)
@@ -34,6 +54,22 @@ void TypedCheck::WorkOff()
         const Task task = m_tasks.front();
         m_tasks.pop_front();
         Report(Try(task));
+    }
+}
+
+/// Of what is applied only by configurations whose objects are not known, nothing is known either.
+void TypedCheck::SpreadUnclear()
+{
+    std::vector<std::string> names(m_run.unclear.begin(), m_run.unclear.end());
+    while (!names.empty())
+    {
+        const SourceConfiguration* const configuration = m_run.source.Find(names.back());
+        names.pop_back();
+        if (configuration == nullptr || !m_tried.insert(configuration).second)
+            continue;
+        for (const SourceItem& item : ItemsOf(*configuration))
+            if (Refers(item.role))
+                names.emplace_back(item.Text("config"));
     }
 }
 
@@ -105,11 +141,21 @@ TrialFindings TypedCheck::Try(const Task& iTask)
                                           ", which has no default management and cannot be configured")});
         return findings;
     }
+    m_overlap = ConditionOverlap(m_run.source);
+    m_firstChoice = FirstChoiceOf(trial.object);
     bool isSpoilt = false;
+    bool isBroken = false;
     for (const SourceItem& item : ItemsOf(*iTask.configuration))
     {
+        const std::size_t found = findings.size();
         if (item.role == ItemRole::Choice)
+        {
             isSpoilt = TryChoice(item, trial, findings) || isSpoilt;
+            m_firstChoice = item.Text("default");
+            isBroken = isBroken || IsBrokenChoice(item, findings.size() != found);
+        }
+        else if (isBroken && Refers(item.role))
+            m_run.unclear.emplace(item.Text("config"));
         else
             TryItem(item, trial, findings);
         isSpoilt = isSpoilt || (item.role == ItemRole::Values && IsChoice(trial.object));
@@ -119,6 +165,15 @@ TrialFindings TypedCheck::Try(const Task& iTask)
     // They are the engine's own way to say what is found here.
     VYRStandalone::TakeReports();
     return findings;
+}
+
+/// Whether the Choice does not offer what the item means it to, so that nothing can be said of what depends on it.
+bool TypedCheck::IsBrokenChoice(const SourceItem& iItem, bool iHasFailed) const
+{
+    const auto isTold = [&](FindingKind iKind, const char* iKey) {
+        return m_run.findings.Has(FindingAt(iItem, iKey, iKind, Severity::Error, {}));
+    };
+    return iHasFailed || HasWrongKey(iItem.value) || isTold(FindingKind::UnequalLists, "Startups");
 }
 
 void TypedCheck::TryItem(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings)
@@ -134,11 +189,43 @@ void TypedCheck::TryItem(const SourceItem& iItem, const Trial& iTrial, TrialFind
 void TypedCheck::TryReference(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings)
 {
     PathWalk walk(iTrial.object, iTrial.place);
-    if (iItem.role == ItemRole::Conditional && !TryCondition(iItem, iTrial, walk, oFindings))
-        return;
     const std::string path(iItem.Text("path"));
-    for (const PathEnd& end : walk.Follow(path))
-        TryTarget(iItem, iTrial, end, oFindings);
+    const std::size_t found = oFindings.size();
+    // What such a path was to lead to is not known.
+    bool isClear = EndOfNames(path) == path.size();
+    isClear = (iItem.role != ItemRole::Conditional || TryCondition(iItem, iTrial, walk, oFindings)) && isClear;
+    if (isClear)
+        for (const PathEnd& end : walk.Follow(path))
+            TryTarget(iItem, iTrial, end, oFindings);
+    const bool leadsNowhere = std::any_of(
+        oFindings.begin() + static_cast<std::ptrdiff_t>(found), oFindings.end(), [](const TrialFinding& iOne) {
+            return iOne.finding.kind == FindingKind::PathNowhere && iOne.finding.severity != Severity::Note;
+        });
+    if (!isClear || leadsNowhere)
+        m_run.unclear.emplace(iItem.Text("config"));
+    TryPresentData(iItem, iTrial, oFindings);
+}
+
+/// A Choice may offer data objects and have none at first.
+void TypedCheck::TryPresentData(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings) const
+{
+    const std::string_view path = iItem.Text("path");
+    const bool leadsToData = path == "Data" || path.substr(0, 5) == "Data/";
+    if (iItem.role != ItemRole::Nested || !leadsToData || !IsChoice(iTrial.object))
+        return;
+    const std::vector<std::string> choices = ChoicesOf(iTrial.object);
+    const std::vector<std::string> startups = StartupsOf(iTrial.object);
+    const auto present = std::find(choices.begin(), choices.end(), m_firstChoice);
+    const auto number = static_cast<std::size_t>(present - choices.begin());
+    const bool hasAny =
+        std::any_of(startups.begin(), startups.end(), [](const std::string& iStartup) { return !iStartup.empty(); });
+    if (present == choices.end() || !hasAny || startups.size() != choices.size() || !startups[number].empty())
+        return;
+    oFindings.push_back({FindingAt(iItem, "path", FindingKind::PathNowhere, Severity::Warning,
+                                   Quoted(path) + " leads to no object as long as the Choice has " +
+                                       Quoted(m_firstChoice) + " " + iTrial.Where() +
+                                       ", which it has at first: nothing is applied then; a \"condition\" says "
+                                       "when there is something")});
 }
 
 bool TypedCheck::TryCondition(const SourceItem& iItem, const Trial& iTrial, PathWalk& ioWalk, TrialFindings& oFindings)
@@ -148,8 +235,9 @@ bool TypedCheck::TryCondition(const SourceItem& iItem, const Trial& iTrial, Path
     if (!parts)
         return false;
     // Such a path is told already.
-    if (parts->path.find_first_of("=!<>") != std::string::npos || Trimmed(parts->path) != parts->path)
-        return true;
+    if (parts->path.find_first_of("=!<>") != std::string::npos || Trimmed(parts->path) != parts->path ||
+        EndOfNames(parts->path) != parts->path.size())
+        return false;
     const PathEnd end = ioWalk.Follow(parts->path).front();
     if (end.kind == PathEnd::Kind::Nowhere)
     {
@@ -158,7 +246,11 @@ bool TypedCheck::TryCondition(const SourceItem& iItem, const Trial& iTrial, Path
     }
     if (end.kind == PathEnd::Kind::Open)
         return true;
+    if (!end.optional.empty())
+        AddOptional(iItem, iTrial, "condition", Severity::Note, end.optional, "on any other the condition never holds",
+                    oFindings);
     CheckComparison(iItem, iTrial, *parts, end.access, oFindings);
+    m_overlap.Enter(iItem, iTrial, *parts, end.access, oFindings);
     const VYRCfdObjectAccess owner{end.access.Self()};
     if (end.kind == PathEnd::Kind::Attribute && end.access.GetName() == ORXUnicodeString("value") && IsChoice(owner))
         ioWalk.Restrict(owner, *parts, text);
@@ -168,6 +260,8 @@ bool TypedCheck::TryCondition(const SourceItem& iItem, const Trial& iTrial, Path
 void TypedCheck::TryTarget(const SourceItem& iItem, const Trial& iTrial, const PathEnd& iEnd, TrialFindings& oFindings)
 {
     const std::string path(iItem.Text("path"));
+    if (iEnd.kind != PathEnd::Kind::Nowhere && !iEnd.optional.empty())
+        AddOptional(iItem, iTrial, "path", Severity::Note, iEnd.optional, "on any other nothing is applied", oFindings);
     if (iEnd.kind == PathEnd::Kind::Nowhere)
         AddNowhere(iItem, iTrial, "path", path, iEnd, oFindings);
     else if (iEnd.kind == PathEnd::Kind::Attribute)

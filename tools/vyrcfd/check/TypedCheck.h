@@ -8,7 +8,9 @@
 #include <unordered_set>
 #include <vector>
 
+#include "CatalogSource.h"
 #include "CheckRun.h"
+#include "ConditionOverlap.h"
 #include "ItemTrial.h"
 #include "ScratchObjects.h"
 #include "TypeGuess.h"
@@ -25,7 +27,7 @@ class TypedCheck
 public:
     explicit TypedCheck(CheckRun& ioRun);
 
-    void Check();
+    void Check(const CatalogSource& iCatalogs);
 
 private:
     struct Task
@@ -38,12 +40,15 @@ private:
     void Put(std::string_view iConfiguration, const ObjectPlace& iPlace, bool iIsGuessed);
     void WorkOff();
     void GuessRest();
+    void SpreadUnclear();
     void Guess(const SourceConfiguration& iConfiguration);
     TrialFindings Try(const Task& iTask);
+    bool IsBrokenChoice(const SourceItem& iItem, bool iHasFailed) const;
     void TryItem(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
+    void TryPresentData(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings) const;
     void TryReference(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
-    /// @return false where the condition itself leads nowhere
-    static bool TryCondition(const SourceItem& iItem, const Trial& iTrial, PathWalk& ioWalk, TrialFindings& oFindings);
+    /// @return false where the condition itself is none or leads nowhere
+    bool TryCondition(const SourceItem& iItem, const Trial& iTrial, PathWalk& ioWalk, TrialFindings& oFindings);
     void TryTarget(const SourceItem& iItem, const Trial& iTrial, const PathEnd& iEnd, TrialFindings& oFindings);
     void CheckTypeNames();
     void Report(TrialFindings iFindings);
@@ -52,6 +57,10 @@ private:
     ScratchObjects m_objects;
     DefaultTrial m_defaults;
     TypeGuess m_guess;
+    /// Of the configuration that is being tried.
+    ConditionOverlap m_overlap;
+    /// What the Choice that is being tried has before anybody chooses; empty where that is not known.
+    std::string m_firstChoice;
     std::deque<Task> m_tasks;
     std::set<std::tuple<const SourceConfiguration*, std::string, std::string>> m_known;
     std::unordered_set<const SourceConfiguration*> m_tried;

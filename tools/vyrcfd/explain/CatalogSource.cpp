@@ -41,6 +41,13 @@ CatalogSource::CatalogSource(const Installation& iInstallation, const std::strin
     AddNamed(SourceFile(iModelFile), "catalogs");
 }
 
+CatalogSource::CatalogSource(const Installation& iInstallation, const std::vector<std::string>& iFiles)
+    : m_folders(iInstallation.CatalogFolders())
+{
+    for (const std::string& file : iFiles)
+        Add(file);
+}
+
 void CatalogSource::Add(const std::string& iFile)
 {
     const auto isRead = [&](const SourceFile& iOne) { return iOne.Path() == iFile; };

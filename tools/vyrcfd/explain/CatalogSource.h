@@ -3,7 +3,7 @@
 
 /**
  * @file
- * The catalogs that a model uses, with the places of what they declare.
+ * Catalogs, with the places of what they declare.
  */
 
 #include <deque>
@@ -29,12 +29,26 @@ struct CatalogPlace
 class CatalogSource
 {
 public:
+    /// A declaration of a type; there may be several of one.
+    struct Declaration
+    {
+        std::string_view type;
+        const SourceFile* file;
+        const SourceValue* value;
+    };
+
     /// Reads the files that the host has read for the model: those of the options, those that the model names, and
     /// those that they use. @throws VYRStandalone::DocumentError
     CatalogSource(const Installation& iInstallation, const std::string& iModelFile);
 
+    /// Reads files, and those that they use. @throws VYRStandalone::DocumentError
+    CatalogSource(const Installation& iInstallation, const std::vector<std::string>& iFiles);
+
     CatalogSource(const CatalogSource&) = delete;
     CatalogSource& operator=(const CatalogSource&) = delete;
+
+    /// In the order in which they are read.
+    const std::vector<Declaration>& Declarations() const noexcept { return m_declarations; }
 
     /// The places where catalogs declare an attribute of a type; several for one that is declared again.
     std::vector<CatalogPlace> DeclarationsOf(std::string_view iType, std::string_view iAttribute) const;
@@ -47,14 +61,6 @@ public:
     std::vector<CatalogPlace> ValuesOf(std::string_view iType, const std::vector<std::string>& iPath) const;
 
 private:
-    /// A declaration of a type; there may be several of one.
-    struct Declaration
-    {
-        std::string_view type;
-        const SourceFile* file;
-        const SourceValue* value;
-    };
-
     void Add(const std::string& iFile);
     void AddNamed(const SourceFile& iBy, std::string_view iKey);
     std::vector<Declaration> LineOf(std::string_view iType) const;

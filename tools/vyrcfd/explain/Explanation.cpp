@@ -94,21 +94,38 @@ std::string CatalogPlaceText(const char* iWhat, const CatalogPlace& iPlace)
            PlaceText(iPlace.file->Path(), iPlace.position);
 }
 
+std::string DeclarationsText(const Explanation& iExplanation, const CatalogSource& iCatalogs)
+{
+    std::string text;
+    const std::vector<CatalogPlace> declarations = DeclarationsOf(iExplanation, iCatalogs);
+    if (declarations.empty())
+        text += Below("declared by " + OneLine(iExplanation.attribute.info.declaredBy) + ", which comes with the host");
+    for (const CatalogPlace& place : declarations)
+        text += Below(CatalogPlaceText("declared by ", place));
+    return text;
+}
+
+std::string WithoutPrototypeText(const Explanation& iExplanation, const CatalogSource& iCatalogs)
+{
+    const VYRStandalone::AttributeInfo& info = iExplanation.attribute.info;
+    if (info.added)
+        return Line("start-up", "none: the attribute was added to this object alone");
+    if (!info.optional)
+        return Line("start-up", "none");
+    return Line("start-up", "none: the attribute is optional, and was added to this object") +
+           DeclarationsText(iExplanation, iCatalogs);
+}
+
 std::string PrototypeText(const Explanation& iExplanation, const CatalogSource& iCatalogs, const Colours& iColours)
 {
     const Ladder& ladder = *iExplanation.ladder;
-    const VYRStandalone::AttributeInfo& info = iExplanation.attribute.info;
     if (!ladder.prototype)
-        return Line("start-up", info.added ? "none: the attribute was added to this object alone" : "none");
+        return WithoutPrototypeText(iExplanation, iCatalogs);
     const bool counts = ladder.isFound && ladder.byDefault.origin != DefaultOrigin::Record;
     const std::string value = ladder.prototype->value.Shown();
     std::string text = Line(
         "start-up", (counts ? iColours.Added(value) : value) + "  (" + OneLine(ladder.prototype->path) + ")", counts);
-    const std::vector<CatalogPlace> declarations = DeclarationsOf(iExplanation, iCatalogs);
-    if (declarations.empty())
-        text += Below("declared by " + OneLine(info.declaredBy) + ", which comes with the host");
-    for (const CatalogPlace& place : declarations)
-        text += Below(CatalogPlaceText("declared by ", place));
+    text += DeclarationsText(iExplanation, iCatalogs);
     if (const std::vector<CatalogPlace> values = ValuesOf(*ladder.prototype, iCatalogs); !values.empty())
         text += Below(CatalogPlaceText("value given by ", values.back()));
     return text;
@@ -148,7 +165,8 @@ std::string ExplanationText(const Explanation& iExplanation, const ExplanationSo
 {
     const Colours colours;
     const AttributeSnapshot& attribute = iExplanation.attribute;
-    std::string text = colours.Heading(OneLine(iExplanation.path)) + "  " + attribute.KindText() + "\n";
+    std::string text = colours.Heading(OneLine(iExplanation.path)) + "  " + attribute.KindText() +
+                       (attribute.info.optional ? ", optional\n" : "\n");
     text += Line("value", attribute.value.Shown());
     if (!iExplanation.ladder)
         return text + Line("default", "none: the object has no default management, and nothing unsets it");

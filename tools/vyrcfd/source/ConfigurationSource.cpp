@@ -1,5 +1,7 @@
 #include "ConfigurationSource.h"
 
+#include "ConfigurationKeys.h"
+#include "DocumentMessage.h"
 #include "Failure.h"
 #include "ORXEnvironment.h"
 #include "VYRStandaloneErrors.h"
@@ -9,8 +11,28 @@ namespace Tool
 {
 namespace
 {
-/// Names and order are the engine's.
-std::vector<std::string> FileNames()
+/// Below a folder of the installation.
+std::string RelativePath(const std::string& iName)
+{
+    return std::string("reffiles") + ORXFolderSeparator + "VYRCfdApp" + ORXFolderSeparator + iName;
+}
+
+UnreadableFile Missing(const std::string& iName, const Installation& iInstallation)
+{
+    const std::string relative = RelativePath(iName);
+    const std::string why = "no such file in the installation " + OneLine(iInstallation.Path());
+    return {ConfigurationFolder(iInstallation.Folders().front()) + iName, {}, why, true, relative + ": " + why};
+}
+
+UnreadableFile Unread(const std::string& iPath, const VYRStandalone::DocumentError& iError)
+{
+    const bool hasPlace = iError.Line() > 0;
+    const SourcePosition position = hasPlace ? SourcePosition{iError.Line(), iError.Column()} : SourcePosition{};
+    return {iPath, position, MessageOf(iError), false, iError.what()};
+}
+} // namespace
+
+std::vector<std::string> ConfigurationFileNames()
 {
     const bool bySlope = ORXGetEnv("VYRCfd_USE_DxSLOPE_CONVG_CRIT") != nullptr;
     return {bySlope ? "SolverConfigurations_dxSlope.json" : "SolverConfigurations.json",
@@ -31,34 +53,43 @@ std::vector<std::string> FileNames()
             "meshFYEConfig.json"};
 }
 
-std::string Find(const std::string& iName, const Installation& iInstallation)
+std::string ConfigurationFolder(const std::string& iInstallationFolder)
 {
-    const std::string relative =
-        std::string("reffiles") + ORXFolderSeparator + "VYRCfdApp" + ORXFolderSeparator + iName;
-    const char* path = ORXFindPath(relative.c_str(), iInstallation.Path().c_str());
-    if (path == nullptr)
-        throw Failure(relative + ": no such file in the installation " + OneLine(iInstallation.Path()));
-    return path;
-}
-} // namespace
-
-std::vector<std::string> ConfigurationFilePaths(const Installation& iInstallation)
-{
-    std::vector<std::string> paths;
-    for (const std::string& name : FileNames())
-        paths.push_back(Find(name, iInstallation));
-    return paths;
+    return iInstallationFolder + ORXFolderSeparator + RelativePath({});
 }
 
-ConfigurationSource::ConfigurationSource(const Installation& iInstallation)
+ConfigurationSource::ConfigurationSource(const Installation& iInstallation, Faults iFaults)
 {
-    for (const std::string& path : ConfigurationFilePaths(iInstallation))
+    for (const std::string& name : ConfigurationFileNames())
     {
-        const SourceFile& file = m_files.emplace_back(path);
-        if (!file.Root().Is(SourceValue::Kind::Object))
-            throw VYRStandalone::DocumentError(path, "",
-                                               std::string("must be an object, not ") + file.Root().KindText());
-        Add(file);
+        const char* path = ORXFindPath(RelativePath(name).c_str(), iInstallation.Path().c_str());
+        if (path == nullptr)
+            m_unreadable.push_back(Missing(name, iInstallation));
+        m_paths.emplace_back(path != nullptr ? std::string(path) : m_unreadable.back().path);
+        if (path != nullptr)
+            Read(m_paths.back());
+    }
+    std::string lines;
+    for (const UnreadableFile& file : m_unreadable)
+        lines += (lines.empty() ? "" : "\n") + file.line;
+    if (iFaults == Faults::Throw && !lines.empty())
+        throw Failure(lines);
+}
+
+void ConfigurationSource::Read(const std::string& iPath)
+{
+    try
+    {
+        SourceFile file(iPath);
+        const SourceValue& root = file.Root();
+        if (!root.Is(SourceValue::Kind::Object))
+            throw VYRStandalone::DocumentError(iPath, root.position.line, root.position.column,
+                                               WrongKindText("a configuration file", SourceValue::Kind::Object, root));
+        Add(m_files.emplace_back(std::move(file)));
+    }
+    catch (const VYRStandalone::DocumentError& error)
+    {
+        m_unreadable.push_back(Unread(iPath, error));
     }
 }
 

@@ -34,38 +34,64 @@ struct SourceConfiguration
     const SourceConfiguration* hiddenBy = nullptr;
 };
 
+/// A file that fails the engine's load: it is missing, cannot be read, or is no JSON object.
+struct UnreadableFile
+{
+    std::string path;
+    /// The beginning of the file where no place in it is wrong.
+    SourcePosition position;
+    std::string message;
+    bool isMissing = false;
+    /// Path, place and message, as the other commands say it.
+    std::string line;
+};
+
 class ConfigurationSource
 {
 public:
+    enum class Faults
+    {
+        Throw,
+        Keep
+    };
+
     /**
      * Reads the files in the order in which the engine does.
-     * @throws Failure for a file that is missing
-     * @throws VYRStandalone::DocumentError for one that cannot be read or is no JSON object, which fail the engine's
-     * load
+     * @throws Failure unless they are kept: a line for each file that fails the engine's load
      */
-    explicit ConfigurationSource(const Installation& iInstallation);
+    explicit ConfigurationSource(const Installation& iInstallation, Faults iFaults = Faults::Throw);
 
     ConfigurationSource(const ConfigurationSource&) = delete;
     ConfigurationSource& operator=(const ConfigurationSource&) = delete;
 
+    /// Those that can be read.
     const std::deque<SourceFile>& Files() const noexcept { return m_files; }
+    const std::vector<UnreadableFile>& Unreadable() const noexcept { return m_unreadable; }
+    /// Of all files, also of those that are missing, in their order.
+    const std::vector<std::string>& Paths() const noexcept { return m_paths; }
     /// All definitions, file by file, also those that another one hides.
     const std::deque<SourceConfiguration>& Configurations() const noexcept { return m_configurations; }
     /// The definition that holds; borrowed, null for an unknown name.
     const SourceConfiguration* Find(std::string_view iName) const;
 
 private:
+    void Read(const std::string& iPath);
     void Add(const SourceFile& iFile);
 
+    std::vector<std::string> m_paths;
+    std::vector<UnreadableFile> m_unreadable;
     std::deque<SourceFile> m_files;
     std::deque<SourceConfiguration> m_configurations;
     /// Names are those of `m_configurations`.
     std::unordered_map<std::string_view, const SourceConfiguration*> m_byName;
 };
 
-/// Paths of the files, in the order in which the engine reads them: of a name that is defined twice the first
-/// definition holds. @throws Failure for a file that is missing
-std::vector<std::string> ConfigurationFilePaths(const Installation& iInstallation);
+/// The bare names that the engine looks for, in the order in which it reads the files: of a name that is defined twice
+/// the first definition holds.
+std::vector<std::string> ConfigurationFileNames();
+
+/// The folder of the files, in a folder of the installation.
+std::string ConfigurationFolder(const std::string& iInstallationFolder);
 } // namespace Tool
 
 #endif

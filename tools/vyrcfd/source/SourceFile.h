@@ -30,6 +30,9 @@ public:
     const std::string& Path() const noexcept { return m_path; }
     const SourceValue& Root() const noexcept { return m_values.front(); }
 
+    /// Of the value at a path such as "/types/0/name"; where something of the path is not there, of what is there last.
+    SourcePosition PositionAt(const std::string& iPath) const;
+
 private:
     std::string m_path;
     /// In the order in which they begin; entries stay where they are.
