@@ -99,6 +99,19 @@ run_tool() {
     [ -s "$1/share/bash-completion/completions/vyrcfd" ]
 }
 
+# shown_by_gdb TREE: by the printers that come with it. g++ describes a cursor's class only where its library has debug
+# information, unless it is told to.
+shown_by_gdb() {
+    local flags
+    flags=$(PKG_CONFIG_PATH=$(libraries_of "$1")/pkgconfig pkg-config --cflags --libs VYRCfdBase VYRStandaloneHost)
+    # shellcheck disable=SC2086
+    g++ -std=c++20 -g -femit-class-debug-always "$sources/gdb/Values.cpp" -o "$work/values" $flags \
+        -Wl,-rpath,"$(libraries_of "$1")"
+    LC_ALL=C.UTF-8 gdb -q -batch -nx -x "$1/share/VYRCfdBase/gdb/VYRCfdPrinters.py" -x "$sources/gdb/values.gdb" \
+        "$work/values" >"$work/shown" 2>&1
+    diff "$sources/expected/gdb.txt" <(grep '^\$' "$work/shown" | sed -E 's/0x[0-9a-f]+/ADDRESS/g')
+}
+
 # called_by_soname TREE: name for linking, soname, file.
 called_by_soname() {
     local library file
@@ -210,6 +223,7 @@ check "pkg-config finds the static tree, and its programs run" by_pkg_config pkg
 check "shared programs load both libraries" needs_ours "$work/pkg-config-shared" 2
 check "static programs load none" needs_ours "$work/pkg-config-static" 0
 check "the installed tool runs with its samples" run_tool "$shared"
+check "gdb shows values by the installed printers" shown_by_gdb "$shared"
 check "the libraries are called by their soname" called_by_soname "$shared"
 check "the module exports what is listed" exports "$(libraries_of "$shared")"
 check "the module runs on a second host" second_host
