@@ -61,13 +61,15 @@ protected:
         EXPECT_EQ(Files(), before);
     }
 
-    /// The command fails, names its line, and changes nothing: what follows is not reached, and a session that goes on
-    /// has nothing to undo.
+    /// The command fails, names its line, answers nothing and leaves nothing that could be undone.
     void ExpectFailure(const FailingScript& iExpected) const
     {
         const auto before = Files();
-        const ToolRun run = Script(iExpected.model, iExpected.script + "\nsave\n");
-        EXPECT_EQ(Outcome(run), Outcome(1, "stdin:1: " + iExpected.errors + "\n"));
+        ToolSettings settings;
+        settings.input = iExpected.script + "\nundo\n";
+        const ToolRun run = Run({"shell", iExpected.model, "--keep-going"}, settings);
+        EXPECT_EQ(Outcome(run), Outcome(1, "stdin:1: " + iExpected.errors +
+                                               "\nstdin:2: nothing to undo\nstdin: 2 commands failed\n"));
         EXPECT_EQ(run.output, "");
         EXPECT_EQ(Files(), before);
     }
