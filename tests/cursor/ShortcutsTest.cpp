@@ -77,12 +77,12 @@ TEST_F(Shortcuts, StandAside_WhereReadsAndWritesFail)
 
 TEST_F(Shortcuts, StandAside_WhileScopesAreShown)
 {
-    const std::vector<std::string> step = {"> VYRCfdObjectAccess::GetByPath [25]", " > VYRCfdObjectAccess::Get [30]",
-                                           "  > VYRCfdObjectAccess::Get [30]"};
+    const std::vector<std::string> step = {"> VYRCfdObjectAccess::GetByPath [25]", "  > VYRCfdObjectAccess::Get [30]",
+                                           "    > VYRCfdObjectAccess::Get [30]"};
     std::vector<std::string> expected = step;
     expected.insert(expected.end(), step.begin(), step.end());
     expected.push_back("> VYRCfdObjectAccess::GetDouble [25]");
-    expected.push_back(" > VYRCfdObjectAccess::GetParm [25]");
+    expected.push_back("  > VYRCfdObjectAccess::GetParm [25]");
     EXPECT_EQ(EnteredScopes(30,
                             [&] {
                                 double value = 0.0;

@@ -147,6 +147,10 @@ TEST_F(Shortcuts, Step_OfAttributesThatOneObjectHas_IsRightOrDeclined)
     EXPECT_FALSE(ByKey(without, own).isGiven);
     EXPECT_FALSE(ByName(optional, "oref").isGiven);
     EXPECT_FALSE(!!notAdded && ByKey(optional, notAdded).isGiven);
+    double read = 7.0;
+    EXPECT_FALSE(m_shortcuts->ReadReal(AccessOf(optional), KeyOf(optional, "oreal"), read));
+    EXPECT_FALSE(m_shortcuts->WriteReal(AccessOf(optional), KeyOf(optional, "oreal"), 1.0));
+    EXPECT_EQ(read, 7.0);
     Add(optional, "oref", tk_specobject);
     Set(optional, "oref", without);
     ExpectRight(ByName(optional, "oref"), optional, "oref");
