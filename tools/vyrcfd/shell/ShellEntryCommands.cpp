@@ -4,6 +4,7 @@
  */
 
 #include <algorithm>
+#include <unordered_set>
 
 #include "AttributeReader.h"
 #include "DocumentEntry.h"
@@ -20,19 +21,22 @@ namespace Tool
 {
 namespace
 {
-bool IsNamed(const ShellSession& iSession, const std::string& iName)
+using Names = std::unordered_set<std::string>;
+
+/// By which the top-level objects are called.
+Names NamesIn(const VYRStandalone::Model& iModel)
 {
-    const std::vector<ORXISpecObject_var> objects = iSession.Model().Objects();
-    return std::any_of(objects.begin(), objects.end(), [&](const ORXISpecObject_var& iOne) {
-        return TextOf(iOne->GetName()) == iName || AliasOf(iOne) == iName;
-    });
+    Names names;
+    for (const ORXISpecObject_var& object : iModel.Objects())
+        names.insert({TextOf(object->GetName()), AliasOf(object)});
+    return names;
 }
 
 /// The type and the first number that gives a name that no object bears.
-std::string FreeName(const ShellSession& iSession, const std::string& iType)
+std::string FreeName(const Names& iNames, const std::string& iType)
 {
     for (std::size_t number = 1;; ++number)
-        if (const std::string name = iType + "." + std::to_string(number); !IsNamed(iSession, name))
+        if (const std::string name = iType + "." + std::to_string(number); iNames.count(name) == 0)
             return name;
 }
 
@@ -158,10 +162,11 @@ void ShellNew(ShellSession& ioSession, const ShellArguments& iArguments)
     const std::vector<std::string> types = VYRStandalone::TypeNames();
     if (std::find(types.begin(), types.end(), type) == types.end())
         throw Failure("no feature type " + Quoted(type) + DidYouMean(type, types));
-    const std::string name = iArguments.size() == 2 ? iArguments[1] : FreeName(ioSession, type);
+    const Names names = NamesIn(ioSession.Model());
+    const std::string name = iArguments.size() == 2 ? iArguments[1] : FreeName(names, type);
     if (name.empty())
         throw Failure("\"\" is no name");
-    if (IsNamed(ioSession, name))
+    if (names.count(name) != 0)
         ioSession.Reports().Note("an object is called " + Quoted(name) + " already; the name means that one");
     ioSession.Change([&] { ioSession.Create(type, name); });
 }
