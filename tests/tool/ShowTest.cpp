@@ -31,6 +31,21 @@ TEST_F(SmallTest, Show_ChangesNoFile)
     EXPECT_EQ(Files(), before);
 }
 
+TEST_F(SmallTest, Show_OfReals_NeedsNoExponentWhereTheDigitsCanBeRead)
+{
+    const std::map<std::string, std::string> shown{
+        {"2e5", "200000"}, {"-1.5e14", "-150000000000000"}, {"0.0001", "0.0001"}, {"0.0", "0"},
+        {"1e-5", "1e-05"}, {"101325.5", "101325.5"},        {"1e15", "1e+15"},    {"0.1", "0.1"}};
+    for (const auto& [written, expected] : shown)
+    {
+        std::string model = ReadData("small.model.json");
+        const std::string old = "\"relaxation\": 0.5,";
+        Write(Small, model.replace(model.find(old), old.size(), "\"relaxation\": " + written + ","));
+        const std::string text = Run({"show", Small, "Case.1/relaxation"}).output;
+        EXPECT_NE(text.find("relaxation  real  " + expected + "  set"), std::string::npos) << text;
+    }
+}
+
 TEST_F(SmallTest, Show_GivesEachObjectOnce_RecordsWithTheirObject)
 {
     const std::vector<std::string> expected{"Case.1",

@@ -43,13 +43,24 @@ Oddity OfReal(const ConditionText& iParts)
     return {};
 }
 
+/// Such as `1 "upwind", 2 "central"`.
+std::string NumberedTexts(const std::vector<std::string>& iTexts)
+{
+    constexpr std::size_t Most = 12;
+    std::string list;
+    for (std::size_t i = 0; i < std::min(iTexts.size(), Most); ++i)
+        list += (list.empty() ? "" : ", ") + std::to_string(i + 1) + " " + Quoted(iTexts[i]);
+    return iTexts.size() > Most ? list + " and so on to " + std::to_string(iTexts.size()) : list;
+}
+
 Oddity OfEnumeration(const ConditionText& iParts, const std::vector<std::string>& iTexts)
 {
-    const auto named = std::find(iTexts.begin(), iTexts.end(), iParts.value);
-    const std::string number = named != iTexts.end() ? std::to_string(named - iTexts.begin() + 1) : std::string();
-    return {Quoted(iParts.path) + " is an enumeration, and compares as the number of its text, from 1 to " +
-            std::to_string(iTexts.size()) + ": the condition never holds" +
-            (number.empty() ? "" : "; " + Quoted(iParts.value) + " has the number " + number)};
+    Oddity oddity{Quoted(iParts.path) + " is an enumeration, and compares as the number of its text: " +
+                  NumberedTexts(iTexts) + "; the condition never holds"};
+    const auto meant = std::find(iTexts.begin(), iTexts.end(), Nearest(iParts.value, iTexts));
+    if (meant != iTexts.end())
+        oddity.suggestion = iParts.path + iParts.sign + std::to_string(meant - iTexts.begin() + 1);
+    return oddity;
 }
 
 Oddity OfInteger(const ConditionText& iParts, const std::vector<std::string>& iTexts)
@@ -112,8 +123,9 @@ void CheckComparison(const SourceItem& iItem, const Trial& iTrial, const Conditi
     Oddity oddity = OddityOf(iParts, iAttribute);
     if (oddity.message.empty())
         return;
-    oFindings.push_back({FindingAt(iItem, "condition", FindingKind::OddCondition, Severity::Warning,
-                                   oddity.message + " (" + iTrial.Where() + ")"),
-                         std::move(oddity.unknown), std::move(oddity.known)});
+    Finding finding = FindingAt(iItem, "condition", FindingKind::OddCondition, Severity::Warning,
+                                oddity.message + " (" + iTrial.Where() + ")");
+    finding.suggestion = oddity.suggestion;
+    oFindings.push_back({std::move(finding), std::move(oddity.unknown), std::move(oddity.known)});
 }
 } // namespace Tool

@@ -34,11 +34,8 @@ std::vector<fs::path> StrangeFiles(const Installation& iInstallation)
 
 Finding UnreadableFinding(const UnreadableFile& iFile)
 {
-    std::string message = iFile.message;
-    if (!message.empty() && message.back() == '.')
-        message.pop_back();
     return FindingIn(iFile.path, iFile.position, FindingKind::UnreadableFile, Severity::Error,
-                     message + "; without this file the engine reads no configuration at all");
+                     iFile.message + "; without this file the engine reads no configuration at all");
 }
 
 bool AddsNothing(const SourceFile& iFile)

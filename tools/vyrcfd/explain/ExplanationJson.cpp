@@ -124,6 +124,8 @@ std::string ExplanationJson(const Explanation& iExplanation, const ExplanationSo
         WriteMember(oWriter, "object", iExplanation.object);
         WriteMember(oWriter, "attribute", attribute.info.name);
         WriteMember(oWriter, "kind", attribute.KindName());
+        WriteKey(oWriter, "optional");
+        oWriter.Bool(attribute.info.optional);
         WriteState(oWriter, attribute);
         WriteMember(oWriter, "source",
                     SourceText(attribute, iExplanation.ladder ? iExplanation.ladder->byDefault : AttributeDefault()));

@@ -12,7 +12,11 @@ std::string MessageOf(const VYRStandalone::DocumentError& iError)
     else if (!iError.Path().empty())
         place += ": " + iError.Path();
     place = OneLine(place) + ": ";
-    const std::string whole = iError.what();
-    return whole.compare(0, place.size(), place) == 0 ? whole.substr(place.size()) : whole;
+    std::string message = iError.what();
+    if (message.compare(0, place.size(), place) == 0)
+        message.erase(0, place.size());
+    if (!message.empty() && message.back() == '.')
+        message.pop_back();
+    return message;
 }
 } // namespace Tool

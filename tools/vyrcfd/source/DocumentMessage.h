@@ -12,7 +12,7 @@
 
 namespace Tool
 {
-/// The message alone.
+/// The message alone, without full stop.
 std::string MessageOf(const VYRStandalone::DocumentError& iError);
 } // namespace Tool
 
