@@ -28,6 +28,8 @@ constexpr Surrounding Variables[] = {
     {"VYRCfd_USE_DxSLOPE_CONVG_CRIT",
      "While it exists, SolverConfigurations_dxSlope.json is read in place of SolverConfigurations.json."},
     {"NO_COLOR", "Set to something, answers on a terminal have no colours."},
+    {"VYRCFD_HISTORY", "File in which the shell keeps the lines that were typed; empty for none."},
+    {"XDG_STATE_HOME", "Folder below which that file is where VYRCFD_HISTORY does not say; otherwise ~/.local/state."},
     {"VYRCFDTRACES_ALL", "Level of the library's traces, which are printed on standard error; 200 prints all."},
 };
 
@@ -35,6 +37,7 @@ constexpr Surrounding Files[] = {
     {"reffiles/VYRCfdApp/*.json", "Configuration files, below the folder of the installation."},
     {"catalogs/NAME.catalog.json",
      "Catalogs of feature types, below the folder of the installation or beside a model."},
+    {"~/.local/state/vyrcfd/history", "Lines that were typed in the shell."},
     {"NAME.model.json", "Models. A save replaces the whole file in one step."},
 };
 
