@@ -1,4 +1,5 @@
-# What is installed, and where. Nothing of it names a folder of the machine that built it, so that the tree may be moved.
+# What is installed, and where. Nothing of it names a folder of the machine that built it, so that the tree may be
+# moved.
 #
 # It has three parts, each of which is a package of its own: library, development and tool.
 
@@ -51,7 +52,7 @@ vyr_install_target(VYRCfdBase Base)
 if(BUILD_SHARED_LIBS)
   set(base_libraries "-Wl,--push-state,--no-as-needed -lVYRCfdBase -Wl,--pop-state")
 else()
-  set(base_libraries "-Wl,-u,${VYRCFD_REGISTERING_SYMBOL} -lVYRCfdBase")
+  set(base_libraries "-Wl,${VYRCFD_ASKED_FOR} -lVYRCfdBase")
 endif()
 set(host_private_libraries "")
 if(TARGET VYRStandaloneHost)

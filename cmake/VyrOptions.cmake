@@ -2,13 +2,13 @@
 
 option(BUILD_SHARED_LIBS "Build the libraries shared; they are static otherwise" ON)
 set(VYRCFD_HOST_LIBRARIES "" CACHE STRING
-  "Libraries of another host, targets or files: VYRCfdBase is linked with them, and nothing that needs the stand-alone host is built")
+  "Libraries of another host, targets or files, for VYRCfdBase; what needs the stand-alone host is not built then")
 set(VYRCFD_HOST_INCLUDE_DIRS "" CACHE STRING "Folders with that host's headers, which take the place of host/")
 set(VYRCFD_HAS_STANDALONE_HOST ON)
 if(VYRCFD_HOST_LIBRARIES)
   set(VYRCFD_HAS_STANDALONE_HOST OFF)
 elseif(VYRCFD_HOST_INCLUDE_DIRS)
-  message(FATAL_ERROR "VYRCFD_HOST_INCLUDE_DIRS names another host's headers; its libraries belong in VYRCFD_HOST_LIBRARIES")
+  message(FATAL_ERROR "VYRCFD_HOST_INCLUDE_DIRS is given, and no VYRCFD_HOST_LIBRARIES of that host")
 endif()
 
 # These run on the stand-alone host.

@@ -16,8 +16,8 @@ set(CPACK_COMPONENTS_ALL library development tool)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION science)
-# What programs need of other packages is read from them. Where our libraries lie is told, and to packages outside, which
-# one they come with.
+# What programs need of other packages is read from them. Where our libraries lie is told, and to packages outside,
+# which one they come with.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")
