@@ -74,8 +74,8 @@ vyr_install_pkgconfig(VYRCfdBase)
 install(EXPORT VYRCfdBaseTargets NAMESPACE VYRCfd:: DESTINATION "${config_folder}" COMPONENT development)
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/VYRCfdBaseConfig.cmake.in"
   "${PROJECT_BINARY_DIR}/VYRCfdBaseConfig.cmake" INSTALL_DESTINATION "${config_folder}" PATH_VARS VYRCFD_INSTALL_DATA)
-# As with the soname: before 1.0.0 each minor version is one of its own.
-write_basic_package_version_file("${PROJECT_BINARY_DIR}/VYRCfdBaseConfigVersion.cmake" COMPATIBILITY SameMinorVersion)
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/VYRCfdBaseConfigVersion.cmake"
+  COMPATIBILITY ${VYRCFD_COMPATIBILITY})
 install(
   FILES "${PROJECT_BINARY_DIR}/VYRCfdBaseConfig.cmake" "${PROJECT_BINARY_DIR}/VYRCfdBaseConfigVersion.cmake"
   DESTINATION "${config_folder}" COMPONENT development)

@@ -24,6 +24,14 @@ option(VYRCFD_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 set(VYRCFD_SANITIZE "" CACHE STRING "Sanitizers for the whole tree, as -fsanitize= takes them; clang")
 option(VYRCFD_COVERAGE "Measure which lines and branches of the two libraries run; clang" OFF)
 
+# What a newer library can stand in for: before 1.0.0 each minor version is one of its own, from then on each major one.
+set(VYRCFD_SOVERSION ${PROJECT_VERSION_MAJOR})
+set(VYRCFD_COMPATIBILITY SameMajorVersion)
+if(PROJECT_VERSION_MAJOR EQUAL 0)
+  set(VYRCFD_SOVERSION 0.${PROJECT_VERSION_MINOR})
+  set(VYRCFD_COMPATIBILITY SameMinorVersion)
+endif()
+
 # Where the sample installation is installed, which the tool has to know.
 include(GNUInstallDirs)
 set(VYRCFD_INSTALL_DATA "${CMAKE_INSTALL_DATADIR}/VYRCfdBase")

@@ -2,8 +2,6 @@
 #
 #     cpack --config build/release/CPackConfig.cmake -B FOLDER
 
-set(soname_version "${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}")
-
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME vyrcfd)
 set(CPACK_PACKAGE_VENDOR "VYRCfdBase")
@@ -24,7 +22,7 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${CMAKE_LIBRARY_OUTPUT_DIRECTOR
 set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
 
 # By its soname, so that an old one and its programs can stay.
-set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME "libvyrcfdbase${soname_version}")
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME "libvyrcfdbase${VYRCFD_SOVERSION}")
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
 set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "The libraries VYRCfdBase and VYRStandaloneHost.")
 

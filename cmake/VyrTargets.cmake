@@ -35,8 +35,7 @@ function(vyr_library_defaults target)
     VISIBILITY_INLINES_HIDDEN ON
     POSITION_INDEPENDENT_CODE ON
     VERSION ${PROJECT_VERSION}
-    # Before 1.0.0 each minor version may break what is linked with it.
-    SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+    SOVERSION ${VYRCFD_SOVERSION})
   target_link_libraries(${target} PRIVATE "$<BUILD_INTERFACE:vyr_warnings>")
   if(VYRCFD_COVERAGE)
     target_compile_options(${target} PRIVATE -fprofile-instr-generate -fcoverage-mapping)

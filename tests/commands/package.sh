@@ -9,7 +9,10 @@ set_up "${TEST_PACKAGES[@]}" pkg-config dpkg-dev gdb
 work=$root/build/package
 sources=$root/tests/package
 version=$(sed -n 's/^ *VERSION \([0-9.]*\)$/\1/p' "$root/CMakeLists.txt")
-soname=${version%.*}
+case $version in
+    0.*) soname=${version%.*} ;;
+    *) soname=${version%%.*} ;;
+esac
 
 # Where a tree's libraries lie: in lib, or where the system has them.
 libraries_of() { dirname "$(find "$1" -name pkgconfig -type d)"; }
