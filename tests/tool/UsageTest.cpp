@@ -51,6 +51,10 @@ const WrongUse WrongUseCases[] = {
     {"OptionWithoutValue", {"list", "--catalog"}, "--catalog", "vyrcfd list"},
     {"OutputOfShow", {"show", "a", "-o", "b"}, "-o", "vyrcfd show"},
     {"ShellWithoutModel", {"shell"}, "MODEL", "vyrcfd shell"},
+    {"InterfaceOfAnUnknownShell",
+     {"interface", "tcsh"},
+     "WHAT: tcsh not in {man,bash,zsh,fish,complete}",
+     "vyrcfd interface"},
     {"OutputWithoutName", {"apply", "a", "b", "c", "-o", ""}, "names no file", "vyrcfd apply"},
 };
 INSTANTIATE_TEST_SUITE_P(Usage, WrongUses, testing::ValuesIn(WrongUseCases),
