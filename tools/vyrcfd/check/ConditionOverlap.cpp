@@ -92,22 +92,36 @@ bool HoldsFor(const std::string& iText, const ConditionText& iParts)
                                                        : false;
 }
 
-/// @param iChoices what the text may be; empty where it may be anything
-std::optional<std::string> TextForBoth(const ConditionText& iOne, const ConditionText& iOther,
-                                       const std::vector<std::string>& iChoices)
+/// Anything but a Choice may have any text, also one of the two.
+std::optional<std::string> TextForBoth(const ConditionText& iOne, const ConditionText& iOther)
 {
-    const std::vector<std::string> texts =
-        iChoices.empty() ? std::vector<std::string>{iOne.value, iOther.value} : iChoices;
-    const auto found = std::find_if(texts.begin(), texts.end(), [&](const std::string& iText) {
-        return HoldsFor(iText, iOne) && HoldsFor(iText, iOther);
-    });
-    return found != texts.end() ? std::optional(Quoted(*found)) : std::nullopt;
+    for (const std::string& text : {iOne.value, iOther.value})
+        if (HoldsFor(text, iOne) && HoldsFor(text, iOther))
+            return Quoted(text);
+    return std::nullopt;
+}
+
+/// A choice that meets both, and with which there is an object at the end of the path.
+std::optional<std::string> ChoiceForBoth(const ConditionText& iOne, const ConditionText& iOther,
+                                         const VYRCfdObjectAccess& iChoice, const VYRCfdObjectAccess& iStart,
+                                         const ORXUnicodeString& iPath)
+{
+    for (const std::string& text : ChoicesOf(iChoice))
+    {
+        if (!HoldsFor(text, iOne) || !HoldsFor(text, iOther))
+            continue;
+        Select(iChoice, text);
+        if (!iStart.GetByPath(iPath).IsNull())
+            return Quoted(text);
+    }
+    return std::nullopt;
 }
 
 /// A value for which both hold. Of booleans nothing is said: what they are compared with plays no part, and that is
 /// told of each.
 std::optional<std::string> ValueForBoth(const ConditionText& iOne, const ConditionText& iOther,
-                                        const VYRCfdObjectAccess& iAttribute)
+                                        const VYRCfdObjectAccess& iAttribute, const Trial& iTrial,
+                                        std::string_view iPath)
 {
     if (iAttribute.IsDouble())
         return RealForBoth(iOne, iOther);
@@ -115,9 +129,10 @@ std::optional<std::string> ValueForBoth(const ConditionText& iOne, const Conditi
         return IntegerForBoth(iOne, iOther, iAttribute.IsEnum() ? TextsOf(iAttribute) : std::vector<std::string>());
     if (!iAttribute.IsString())
         return std::nullopt;
-    const bool isOfChoice = iAttribute.GetName() == ORXUnicodeString("value");
-    return TextForBoth(iOne, iOther,
-                       isOfChoice ? ChoicesOf(VYRCfdObjectAccess(iAttribute.Self())) : std::vector<std::string>());
+    const VYRCfdObjectAccess owner{iAttribute.Self()};
+    if (iAttribute.GetName() == ORXUnicodeString("value") && IsChoice(owner))
+        return ChoiceForBoth(iOne, iOther, owner, iTrial.object, UnicodeOf(iPath));
+    return TextForBoth(iOne, iOther);
 }
 } // namespace
 
@@ -140,7 +155,8 @@ void ConditionOverlap::Enter(const SourceItem& iItem, const Trial& iTrial, const
     {
         if (other.item.Text("config") == iItem.Text("config") || !LeavesRecords(other.item.Text("config")))
             continue;
-        const std::optional<std::string> value = ValueForBoth(other.parts, iParts, iAttribute);
+        const std::optional<std::string> value =
+            ValueForBoth(other.parts, iParts, iAttribute, iTrial, iItem.Text("path"));
         if (!value)
             continue;
         const Finding place = FindingAt(other.item, "condition", FindingKind::OddCondition, Severity::Note, {});

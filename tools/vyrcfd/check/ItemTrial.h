@@ -24,6 +24,8 @@ struct Trial
     ObjectPlace place;
     /// Not what a catalog says, but the type that most paths of the configuration fit.
     bool isGuessed = false;
+    /// Applied under a condition, here or further out.
+    bool isConditional = false;
 
     /// Such as `on "Type/path"`.
     std::string Where() const;

@@ -1,6 +1,7 @@
 #include "TypedCheck.h"
 
 #include <algorithm>
+#include <map>
 
 #include "CatalogCheck.h"
 #include "VYRIMpaDefaultManagementProtected.h"
@@ -32,19 +33,20 @@ void TypedCheck::Check(const CatalogSource& iCatalogs)
     CheckTypeNames();
     CheckCatalogStartups(iCatalogs, m_objects, m_run);
     for (const VYRStandalone::MeantConfiguration& meant : VYRStandalone::MeantConfigurations())
-        Put(meant.configuration, {meant.type}, false);
+        Put(meant.configuration, {meant.type}, false, false);
     WorkOff();
     SpreadUnclear();
     // What files that are missing would lead to is not known.
     if (m_run.isWhole)
         GuessRest();
+    ReportPending();
 }
 
-void TypedCheck::Put(std::string_view iConfiguration, const ObjectPlace& iPlace, bool iIsGuessed)
+void TypedCheck::Put(std::string_view iConfiguration, const ObjectPlace& iPlace, bool iIsGuessed, bool iIsConditional)
 {
     const SourceConfiguration* configuration = m_run.source.Find(iConfiguration);
     if (configuration != nullptr && m_known.emplace(configuration, iPlace.type, iPlace.path).second)
-        m_tasks.push_back({configuration, iPlace, iIsGuessed});
+        m_tasks.push_back({configuration, iPlace, iIsGuessed, iIsConditional});
 }
 
 void TypedCheck::WorkOff()
@@ -103,7 +105,7 @@ void TypedCheck::Guess(const SourceConfiguration& iConfiguration)
     }
     if (types.size() == 1)
     {
-        Put(iConfiguration.name, {types.front()}, true);
+        Put(iConfiguration.name, {types.front()}, true, false);
         WorkOff();
         return;
     }
@@ -112,7 +114,7 @@ void TypedCheck::Guess(const SourceConfiguration& iConfiguration)
     m_followsReferences = false;
     for (const std::string& type : types)
     {
-        TrialFindings found = Try({&iConfiguration, {type}, true});
+        TrialFindings found = Try({&iConfiguration, {type}, true, false});
         if (type == types.front())
         {
             common = std::move(found);
@@ -133,7 +135,7 @@ TrialFindings TypedCheck::Try(const Task& iTask)
 {
     m_tried.insert(iTask.configuration);
     TrialFindings findings;
-    const Trial trial{m_objects.At(iTask.place), iTask.place, iTask.isGuessed};
+    const Trial trial{m_objects.At(iTask.place), iTask.place, iTask.isGuessed, iTask.isConditional};
     if (!VYRIMpaDefaultManagementProtected_var(trial.object.Self()))
     {
         findings.push_back({FindingAt(*iTask.configuration, "name", FindingKind::PathNowhere, trial.Worst(),
@@ -143,6 +145,7 @@ TrialFindings TypedCheck::Try(const Task& iTask)
     }
     m_overlap = ConditionOverlap(m_run.source);
     m_firstChoice = FirstChoiceOf(trial.object);
+    m_choosesItself = false;
     bool isSpoilt = false;
     bool isBroken = false;
     for (const SourceItem& item : ItemsOf(*iTask.configuration))
@@ -151,13 +154,13 @@ TrialFindings TypedCheck::Try(const Task& iTask)
         if (item.role == ItemRole::Choice)
         {
             isSpoilt = TryChoice(item, trial, findings) || isSpoilt;
-            m_firstChoice = item.Text("default");
             isBroken = isBroken || IsBrokenChoice(item, findings.size() != found);
         }
         else if (isBroken && Refers(item.role))
             m_run.unclear.emplace(item.Text("config"));
         else
             TryItem(item, trial, findings);
+        NoteFirstChoice(item);
         isSpoilt = isSpoilt || (item.role == ItemRole::Values && IsChoice(trial.object));
     }
     if (isSpoilt)
@@ -206,8 +209,21 @@ void TypedCheck::TryReference(const SourceItem& iItem, const Trial& iTrial, Tria
     TryPresentData(iItem, iTrial, oFindings);
 }
 
+/// Follows what the items so far make of the first value of a Choice.
+void TypedCheck::NoteFirstChoice(const SourceItem& iItem)
+{
+    const bool choosesItself =
+        iItem.role == ItemRole::Choice || (SetsDefault(iItem.role) && iItem.Text("path") == "value");
+    if (choosesItself)
+        m_firstChoice = iItem.Text("default");
+    // What it applies to the Choice may choose for it.
+    else if (Refers(iItem.role) && iItem.Text("path").empty())
+        m_firstChoice.clear();
+    m_choosesItself = m_choosesItself || choosesItself;
+}
+
 /// A Choice may offer data objects and have none at first.
-void TypedCheck::TryPresentData(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings) const
+void TypedCheck::TryPresentData(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings)
 {
     const std::string_view path = iItem.Text("path");
     const bool leadsToData = path == "Data" || path.substr(0, 5) == "Data/";
@@ -221,11 +237,26 @@ void TypedCheck::TryPresentData(const SourceItem& iItem, const Trial& iTrial, Tr
         std::any_of(startups.begin(), startups.end(), [](const std::string& iStartup) { return !iStartup.empty(); });
     if (present == choices.end() || !hasAny || startups.size() != choices.size() || !startups[number].empty())
         return;
-    oFindings.push_back({FindingAt(iItem, "path", FindingKind::PathNowhere, Severity::Warning,
+    TrialFinding finding{FindingAt(iItem, "path", FindingKind::PathNowhere, Severity::Warning,
                                    Quoted(path) + " leads to no object as long as the Choice has " +
                                        Quoted(m_firstChoice) + " " + iTrial.Where() +
                                        ", which it has at first: nothing is applied then; a \"condition\" says "
-                                       "when there is something")});
+                                       "when there is something")};
+    if (m_choosesItself)
+        oFindings.push_back(std::move(finding));
+    else if (!iTrial.isConditional)
+        m_pending.push_back({std::move(finding), iTrial.place});
+}
+
+/// Where another configuration is for the same Choice, that may have chosen before.
+void TypedCheck::ReportPending()
+{
+    std::map<std::pair<std::string, std::string>, std::size_t> configurations;
+    for (const auto& [configuration, type, path] : m_known)
+        ++configurations[{type, path}];
+    for (Pending& pending : m_pending)
+        if (configurations[{pending.place.type, pending.place.path}] == 1)
+            Report({std::move(pending.finding)});
 }
 
 bool TypedCheck::TryCondition(const SourceItem& iItem, const Trial& iTrial, PathWalk& ioWalk, TrialFindings& oFindings)
@@ -273,7 +304,8 @@ void TypedCheck::TryTarget(const SourceItem& iItem, const Trial& iTrial, const P
                                        Quoted(path) + " leads to an object that cannot be configured " +
                                            iTrial.Where() + ": a " + Quoted(iEnd.access.GetType().View()))});
     else if (iEnd.kind == PathEnd::Kind::Object && m_followsReferences)
-        Put(iItem.Text("config"), iEnd.place, iTrial.isGuessed);
+        Put(iItem.Text("config"), iEnd.place, iTrial.isGuessed,
+            iTrial.isConditional || iItem.role == ItemRole::Conditional);
 }
 
 void TypedCheck::CheckTypeNames()

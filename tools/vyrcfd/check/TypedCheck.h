@@ -35,9 +35,17 @@ private:
         const SourceConfiguration* configuration;
         ObjectPlace place;
         bool isGuessed;
+        bool isConditional;
     };
 
-    void Put(std::string_view iConfiguration, const ObjectPlace& iPlace, bool iIsGuessed);
+    /// What is wrong unless another configuration sets the Choice up.
+    struct Pending
+    {
+        TrialFinding finding;
+        ObjectPlace place;
+    };
+
+    void Put(std::string_view iConfiguration, const ObjectPlace& iPlace, bool iIsGuessed, bool iIsConditional);
     void WorkOff();
     void GuessRest();
     void SpreadUnclear();
@@ -45,7 +53,9 @@ private:
     TrialFindings Try(const Task& iTask);
     bool IsBrokenChoice(const SourceItem& iItem, bool iHasFailed) const;
     void TryItem(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
-    void TryPresentData(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings) const;
+    void TryPresentData(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
+    void NoteFirstChoice(const SourceItem& iItem);
+    void ReportPending();
     void TryReference(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
     /// @return false where the condition itself is none or leads nowhere
     bool TryCondition(const SourceItem& iItem, const Trial& iTrial, PathWalk& ioWalk, TrialFindings& oFindings);
@@ -61,6 +71,9 @@ private:
     ConditionOverlap m_overlap;
     /// What the Choice that is being tried has before anybody chooses; empty where that is not known.
     std::string m_firstChoice;
+    /// Whether the configuration that is being tried says so itself.
+    bool m_choosesItself = false;
+    std::vector<Pending> m_pending;
     std::deque<Task> m_tasks;
     std::set<std::tuple<const SourceConfiguration*, std::string, std::string>> m_known;
     std::unordered_set<const SourceConfiguration*> m_tried;
