@@ -13,7 +13,7 @@ AddedAttribute::AddedAttribute(FeatureObject& iObject, const FeatureKey::Traits&
 {
     const auto release = [](FeatureKey* iKey) { iKey->Release(); };
     std::unique_ptr<FeatureKey, decltype(release)> key(new FeatureKey(iTraits, *this), release);
-    SlotBlock::Holder block(SlotBlock::Make(SlotMaking::BytesOf(iTraits)));
+    SlotBlock::Holder block(SlotBlock::Make(SlotMaking::BytesOf(iTraits), iObject));
     SlotMaking::Make(block->At(0), iObject, *key, *block);
     m_key = key.release();
     m_block = block.release();

@@ -13,6 +13,7 @@
 #include "FeatureType.h"
 #include "IdentityFacet.h"
 #include "ORXISpecObject.h"
+#include "ManipulatorTable.h"
 #include "SlotBlock.h"
 #include "SlotMaking.h"
 #include "Slots.h"
@@ -167,6 +168,7 @@ public:
     ORXBaseUnknown* Root() const noexcept { return const_cast<FeatureObject*>(this); }
     AttributeAccess& Access() noexcept { return m_access; }
     ExtensionTable& Extensions() noexcept { return m_extensions; }
+    ManipulatorTable& Manipulators() noexcept { return m_manipulators; }
     AttributeParm& Parm(const FeatureKey& iKey) const noexcept { return *static_cast<AttributeParm*>(Slot(iKey)); }
     ListSlot& List(const FeatureKey& iKey) const noexcept { return *static_cast<ListSlot*>(Slot(iKey)); }
     ObjectSlot& ObjectAt(const FeatureKey& iKey) const noexcept { return *static_cast<ObjectSlot*>(Slot(iKey)); }
@@ -270,6 +272,7 @@ private:
     std::unique_ptr<ObjectNames> m_names;
     std::unique_ptr<TableColumn> m_column;
     std::unique_ptr<Subscribers> m_subscribers;
+    ManipulatorTable m_manipulators;
     ORXUnicodeString m_name;
 };
 } // namespace VYRStandalone

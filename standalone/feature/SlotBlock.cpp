@@ -4,9 +4,10 @@
 
 namespace VYRStandalone
 {
-SlotBlock* SlotBlock::Make(std::size_t iBytes)
+SlotBlock* SlotBlock::Make(std::size_t iBytes, FeatureObject& iOwner)
 {
-    return ::new (::operator new(Header + iBytes)) SlotBlock;
+    static_assert(sizeof(SlotBlock) <= Header);
+    return ::new (::operator new(Header + iBytes)) SlotBlock(iOwner);
 }
 
 void SlotBlock::Drop() noexcept

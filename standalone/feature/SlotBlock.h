@@ -6,6 +6,8 @@
 
 namespace VYRStandalone
 {
+class FeatureObject;
+
 /**
  * Memory for slots. It is held by the object that the slots belong to, and by every value inside it that somebody
  * still holds when the object dies.
@@ -13,8 +15,11 @@ namespace VYRStandalone
 class SlotBlock
 {
 public:
-    /// With one holder. Alignment is that of the allocator.
-    static SlotBlock* Make(std::size_t iBytes);
+    /// With one holder, the object that the slots belong to. Alignment is that of the allocator.
+    static SlotBlock* Make(std::size_t iBytes, FeatureObject& iOwner);
+
+    /// Valid as long as it lives.
+    FeatureObject& Owner() const noexcept { return m_owner; }
 
     void Hold() noexcept { ++m_holders; }
     void Drop() noexcept;
@@ -28,10 +33,11 @@ public:
     void* At(std::size_t iOffset) noexcept { return reinterpret_cast<std::byte*>(this) + Header + iOffset; }
 
 private:
-    SlotBlock() = default;
+    explicit SlotBlock(FeatureObject& iOwner) noexcept : m_owner(iOwner) {}
 
     static constexpr std::size_t Header = alignof(std::max_align_t);
 
+    FeatureObject& m_owner;
     unsigned m_holders = 1;
 };
 } // namespace VYRStandalone

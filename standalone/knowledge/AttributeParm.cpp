@@ -5,7 +5,6 @@
 
 #include "FeatureObject.h"
 #include "Instruments.h"
-#include "Manipulator.h"
 #include "ORXComponentLink.h"
 #include "ParmReading.h"
 #include "RecordLines.h"
@@ -13,25 +12,17 @@
 namespace VYRStandalone
 {
 AttributeParm::AttributeParm(FeatureObject& iObject, const FeatureKey& iKey, SlotBlock& iBlock)
-    : m_object(iObject), m_key(iKey), m_current(nullptr), m_cell(*iKey.Knowledge(), &iBlock, iObject.IsPrototype())
+    : m_key(iKey), m_current(nullptr), m_cell(*iKey.Knowledge(), &iBlock, iObject.IsPrototype())
 {
     m_current = &m_cell;
     ORXComponentLink::CountAt(*this, iObject.PlaceOfCount());
 }
 
-AttributeParm::~AttributeParm()
-{
-    ForgetManipulator();
-}
-
-void AttributeParm::ForgetManipulator() noexcept
-{
-    if (!!m_manipulator)
-        static_cast<Manipulator*>(m_manipulator.Pointer())->Forget();
-}
+AttributeParm::~AttributeParm() {}
 
 void AttributeParm::Destroy()
 {
+    Object().Manipulators().Drop(m_key);
     if (m_current != &m_cell)
         m_current->Leave();
     m_cell.Leave();
@@ -62,7 +53,7 @@ void AttributeParm::Write(Scalar&& iValue)
     if (isTaken && std::holds_alternative<std::monostate>(Value()))
         return;
     Store(std::move(iValue));
-    m_object.Tell(m_key, m_current);
+    Object().Tell(m_key, m_current);
 }
 
 HRESULT AttributeParm::QueryInterface(const IID& iInterface, void** oInterface)
@@ -74,23 +65,23 @@ HRESULT AttributeParm::QueryInterface(const IID& iInterface, void** oInterface)
     *oInterface = isOffered ? this : nullptr;
     if (!isOffered)
         return E_NOINTERFACE;
-    m_object.AddReference();
+    Object().AddReference();
     return S_OK;
 }
 
 unsigned int AttributeParm::AddRef()
 {
-    return m_object.AddRef();
+    return Object().AddRef();
 }
 
 unsigned int AttributeParm::Release()
 {
-    return m_object.DropReference();
+    return Object().DropReference();
 }
 
 ORXICkeType_var AttributeParm::GetType()
 {
-    if (Instruments::Active() && Instruments::Fails("GetType", m_key.Name().View(), &m_object))
+    if (Instruments::Active() && Instruments::Fails("GetType", m_key.Name().View(), &Object()))
         return {};
     return ORXICkeType_var::Share(m_key.Knowledge());
 }
@@ -98,7 +89,7 @@ ORXICkeType_var AttributeParm::GetType()
 ORXIValue_var AttributeParm::GetValue()
 {
     if (Instruments::Active())
-        return m_current->Answer(Instruments::AnswerOf("GetValue", m_key.Name().View(), &m_object));
+        return m_current->Answer(Instruments::AnswerOf("GetValue", m_key.Name().View(), &Object()));
     return ORXIValue_var::Share(m_current);
 }
 
@@ -106,8 +97,8 @@ ORXIValue_var AttributeParm::GetValue()
 template <class Text> bool AttributeParm::IsStopped(const char* iOperation, const Text& iText)
 {
     if (Instruments::IsRecording())
-        Instruments::Record(RecordLines::Write(m_object, m_key.Name().View(), 0, iText()));
-    return Instruments::Fails(iOperation, m_key.Name().View(), &m_object);
+        Instruments::Record(RecordLines::Write(Object(), m_key.Name().View(), 0, iText()));
+    return Instruments::Fails(iOperation, m_key.Name().View(), &Object());
 }
 
 void AttributeParm::Valuate(const ORXCke::Boolean& iValue)
@@ -137,7 +128,7 @@ void AttributeParm::Valuate(double iValue)
         return;
     // Past what the other kinds need: numbers are written most.
     Store(iValue);
-    m_object.Tell(m_key, m_current);
+    Object().Tell(m_key, m_current);
 }
 
 void AttributeParm::Valuate(int iValue)
@@ -171,17 +162,15 @@ void AttributeParm::ValuateFromString(const ORXUnicodeString& iText)
 
 ORXICkeManipulator_var AttributeParm::CreateManipulator()
 {
-    if (Instruments::Active() && Instruments::Fails("CreateManipulator", m_key.Name().View(), &m_object))
+    if (Instruments::Active() && Instruments::Fails("CreateManipulator", m_key.Name().View(), &Object()))
         return {};
-    ForgetManipulator();
-    m_manipulator = ORXICkeManipulator_var::Adopt(new Manipulator(this));
-    return m_manipulator;
+    return Object().Manipulators().Make(*this);
 }
 
 ORXICkeManipulator_var AttributeParm::GetManipulator()
 {
-    if (Instruments::Active() && Instruments::Fails("GetManipulator", m_key.Name().View(), &m_object))
+    if (Instruments::Active() && Instruments::Fails("GetManipulator", m_key.Name().View(), &Object()))
         return {};
-    return m_manipulator;
+    return Object().Manipulators().Find(m_key);
 }
 } // namespace VYRStandalone

@@ -2,13 +2,13 @@
 #define AttributeParm_H
 
 #include "FeatureKey.h"
+#include "SlotBlock.h"
 #include "ORXICkeParm.h"
 #include "ValueCell.h"
 
 namespace VYRStandalone
 {
 class FeatureObject;
-class Manipulator;
 
 /// The slot of a value attribute, and its parameter at the same time: handing it out allocates nothing. Counting it
 /// counts its object.
@@ -22,7 +22,8 @@ public:
     /// The same for a start-up that nobody can have seen, so that nobody holds its value.
     void DestroyUnseen() noexcept;
 
-    FeatureObject& Object() const noexcept { return m_object; }
+    /// The block knows it: here it would be one more pointer in each slot.
+    FeatureObject& Object() const noexcept { return m_cell.m_block->Owner(); }
     const FeatureKey& Key() const noexcept { return m_key; }
     const Scalar& Value() const noexcept { return m_current->Value(); }
 
@@ -56,16 +57,11 @@ private:
     ~AttributeParm() override;
 
     template <class Text> bool IsStopped(const char* iOperation, const Text& iText);
-    /// Of the one that is held here.
-    void ForgetManipulator() noexcept;
     /// Takes a cell that nobody holds.
     void Renew();
 
-    FeatureObject& m_object;
     const FeatureKey& m_key;
     ValueCell* m_current;
-    /// Lives with the slot; null until one is created.
-    ORXICkeManipulator_var m_manipulator;
     /// In a union, since it outlives the slot while somebody holds it.
     union
     {
