@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
-"""Tests that the manual's chapter of messages has all that the module can report, and every kind of finding.
+"""Tests that the manual's chapter of messages has all that the module can report, and every kind of finding, and that the
+links of documents lead somewhere.
 
-    tests/docs/messages.py REPOSITORY
+    tests/docs/manual.py REPOSITORY
 """
 
 import re
@@ -40,6 +41,33 @@ class MessagesTest(unittest.TestCase):
         kinds = set(re.findall(r'return "([a-z]+-[a-z-]+|cycle)"', (ROOT / "tools/vyrcfd/check/Finding.cpp").read_text()))
         self.assertGreater(len(kinds), 15)
         self.assertEqual(sorted(kinds - told()), [])
+
+
+def heading_names(document):
+    """By which names a document's headings are linked to."""
+    headings = re.findall(r"^#+ (.*)$", document.read_text(), re.MULTILINE)
+    return {re.sub(r"[^\w\- ]", "", heading).strip().lower().replace(" ", "-") for heading in headings}
+
+
+class LinksTest(unittest.TestCase):
+    def test_links_lead_somewhere(self):
+        count = 0
+        for document in [ROOT / "README.md", ROOT / "CONTRIBUTING.md", *sorted((ROOT / "docs").rglob("*.md"))]:
+            for link in re.findall(r"\]\(([^)\s]+)\)", document.read_text()):
+                if link.startswith("http"):
+                    continue
+                count += 1
+                path, _, heading = link.partition("#")
+                target = document.parent / path if path else document
+                with self.subTest(document=document.name, link=link):
+                    self.assertTrue(target.exists())
+                    self.assertTrue(not heading or heading in heading_names(target))
+        self.assertGreater(count, 20)
+
+    def test_every_chapter_is_linked_to(self):
+        manual = ROOT / "docs/manual"
+        linked = set(re.findall(r"\]\(([^)#]+\.md)", (manual / "README.md").read_text()))
+        self.assertEqual({file.name for file in manual.glob("*.md")} - linked, {"README.md"})
 
 
 unittest.main()
