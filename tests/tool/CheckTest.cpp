@@ -302,6 +302,46 @@ TEST_F(CheckTest, Json_HoldsWhatIsWrongWithAFile)
 )");
 }
 
+/// What is said of attributes that an object need not have is what the engine does with an object that has none.
+TEST_F(CheckTest, ADefaultOfAnOptionalAttribute_FailsOnAnObjectWithoutIt)
+{
+    AddConfigurations(R"({"configurations": [{"name": "main", "config": [{"path": "note", "default": "x"}]}]})");
+    m_folder.Write("bare.model.json",
+                   R"({"model": 1, "catalogs": ["Rig"], "objects": [{"type": "Rig", "name": "Rig.1"}]})");
+    m_folder.Write("noted.model.json", R"({"model": 1, "catalogs": ["Rig"], "objects": [
+        {"type": "Rig", "name": "Rig.1", "added": {"note": {"kind": "string", "value": null}}}]})");
+    const auto apply = [&](const char* iModel) {
+        return RunTool({"--installation", "installation", "apply", iModel, "Rig.1", "main"}, {m_folder.Path()});
+    };
+    EXPECT_NE(FindingsIn(Check()).find("on any other the configuration fails here [path-nowhere]"), std::string::npos);
+    EXPECT_EQ(apply("bare.model.json").status, 1);
+    EXPECT_EQ(Outcome(apply("noted.model.json")), Outcome(0, ""));
+}
+
+TEST_F(CheckTest, FilesOfAllFoldersOfAnInstallation_AreLookedAt)
+{
+    AddConfigurations(R"({"configurations": [{"name": "main"}]})");
+    m_folder.Write("over/reffiles/VYRCfdApp/meshFYEConfig.json", "[]");
+    m_folder.Write("over/reffiles/VYRCfdApp/more.json", "{}");
+    const ToolRun run = RunTool({"--installation", "over:installation", "check"}, {m_folder.Path()});
+    EXPECT_EQ(FindingsIn(run),
+              "over/reffiles/VYRCfdApp/meshFYEConfig.json:1:1: error: a configuration file must be an "
+              "object, not an array; without this file the engine reads no configuration at all "
+              "[unreadable-file]\n"
+              "over/reffiles/VYRCfdApp/more.json:1:1: warning: the engine reads a fixed list of files, "
+              "and none of this name [ignored-file]\n");
+}
+
+TEST_F(CheckTest, ACatalogThatIsNotThere_IsAFinding)
+{
+    AddConfigurations(R"({"configurations": [{"name": "main"}]})");
+    const ToolRun run = Check({"nothing.catalog.json"});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(FindingsIn(run),
+              "nothing.catalog.json:1:1: error: cannot be opened: No such file or directory; as long as "
+              "this catalog is not read, nothing is checked against types [unreadable-file]\n");
+}
+
 TEST_F(CheckTest, DeepNesting_IsRead)
 {
     const std::string deep = std::string(900, '[') + std::string(900, ']');
