@@ -30,7 +30,7 @@ constexpr Surrounding Variables[] = {
     {"NO_COLOR", "Set to something, answers on a terminal have no colours."},
     {"VYRCFD_HISTORY", "File in which the shell keeps the lines that were typed; empty for none."},
     {"XDG_STATE_HOME", "Folder below which that file is where VYRCFD_HISTORY does not say; otherwise ~/.local/state."},
-    {"VYRCFDTRACES_ALL", "Level of the library's traces, which are printed on standard error; 200 prints all."},
+    {"VYRCFDTRACES_ALL", "Level up to which the library's operations are traced on standard error; 1 prints all."},
 };
 
 constexpr Surrounding Files[] = {
