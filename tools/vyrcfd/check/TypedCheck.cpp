@@ -11,21 +11,6 @@
 
 namespace Tool
 {
-namespace
-{
-/// What a Choice has as it comes; empty for no Choice.
-std::string FirstChoiceOf(const VYRCfdObjectAccess& iObject)
-{
-    const ORXISpecObject_var spObject = iObject.Self();
-    if (!IsChoice(iObject) || !spObject)
-        return {};
-    const VYRCfdObjectAccess startup{ORXBaseUnknown_var(ORXISpecObject_var::Adopt(spObject->GetStartup()))};
-    ORXUnicodeString value;
-    startup["value"].GetString(value);
-    return std::string(value.View());
-}
-} // namespace
-
 TypedCheck::TypedCheck(CheckRun& ioRun) : m_run(ioRun), m_guess(m_objects), m_overlap(ioRun.source) {}
 
 void TypedCheck::Check(const CatalogSource& iCatalogs)
@@ -39,7 +24,7 @@ void TypedCheck::Check(const CatalogSource& iCatalogs)
     // What files that are missing would lead to is not known.
     if (m_run.isWhole)
         GuessRest();
-    ReportPending();
+    ReportPresentData();
 }
 
 void TypedCheck::Put(std::string_view iConfiguration, const ObjectPlace& iPlace, bool iIsGuessed, bool iIsConditional)
@@ -144,8 +129,7 @@ TrialFindings TypedCheck::Try(const Task& iTask)
         return findings;
     }
     m_overlap = ConditionOverlap(m_run.source);
-    m_firstChoice = FirstChoiceOf(trial.object);
-    m_choosesItself = false;
+    m_presentData.Begin(trial);
     bool isSpoilt = false;
     bool isBroken = false;
     for (const SourceItem& item : ItemsOf(*iTask.configuration))
@@ -160,7 +144,7 @@ TrialFindings TypedCheck::Try(const Task& iTask)
             m_run.unclear.emplace(item.Text("config"));
         else
             TryItem(item, trial, findings);
-        NoteFirstChoice(item);
+        m_presentData.Follow(item);
         isSpoilt = isSpoilt || (item.role == ItemRole::Values && IsChoice(trial.object));
     }
     if (isSpoilt)
@@ -206,57 +190,18 @@ void TypedCheck::TryReference(const SourceItem& iItem, const Trial& iTrial, Tria
         });
     if (!isClear || leadsNowhere)
         m_run.unclear.emplace(iItem.Text("config"));
-    TryPresentData(iItem, iTrial, oFindings);
+    m_presentData.Try(iItem, iTrial, oFindings);
 }
 
-/// Follows what the items so far make of the first value of a Choice.
-void TypedCheck::NoteFirstChoice(const SourceItem& iItem)
-{
-    const bool choosesItself =
-        iItem.role == ItemRole::Choice || (SetsDefault(iItem.role) && iItem.Text("path") == "value");
-    if (choosesItself)
-        m_firstChoice = iItem.Text("default");
-    // What it applies to the Choice may choose for it.
-    else if (Refers(iItem.role) && iItem.Text("path").empty())
-        m_firstChoice.clear();
-    m_choosesItself = m_choosesItself || choosesItself;
-}
-
-/// A Choice may offer data objects and have none at first.
-void TypedCheck::TryPresentData(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings)
-{
-    const std::string_view path = iItem.Text("path");
-    const bool leadsToData = path == "Data" || path.substr(0, 5) == "Data/";
-    if (iItem.role != ItemRole::Nested || !leadsToData || !IsChoice(iTrial.object))
-        return;
-    const std::vector<std::string> choices = ChoicesOf(iTrial.object);
-    const std::vector<std::string> startups = StartupsOf(iTrial.object);
-    const auto present = std::find(choices.begin(), choices.end(), m_firstChoice);
-    const auto number = static_cast<std::size_t>(present - choices.begin());
-    const bool hasAny =
-        std::any_of(startups.begin(), startups.end(), [](const std::string& iStartup) { return !iStartup.empty(); });
-    if (present == choices.end() || !hasAny || startups.size() != choices.size() || !startups[number].empty())
-        return;
-    TrialFinding finding{FindingAt(iItem, "path", FindingKind::PathNowhere, Severity::Warning,
-                                   Quoted(path) + " leads to no object as long as the Choice has " +
-                                       Quoted(m_firstChoice) + " " + iTrial.Where() +
-                                       ", which it has at first: nothing is applied then; a \"condition\" says "
-                                       "when there is something")};
-    if (m_choosesItself)
-        oFindings.push_back(std::move(finding));
-    else if (!iTrial.isConditional)
-        m_pending.push_back({std::move(finding), iTrial.place});
-}
-
-/// Where another configuration is for the same Choice, that may have chosen before.
-void TypedCheck::ReportPending()
+/// Of two configurations for the same Choice one may choose before the other.
+void TypedCheck::ReportPresentData()
 {
     std::map<std::pair<std::string, std::string>, std::size_t> configurations;
     for (const auto& [configuration, type, path] : m_known)
         ++configurations[{type, path}];
-    for (Pending& pending : m_pending)
-        if (configurations[{pending.place.type, pending.place.path}] == 1)
-            Report({std::move(pending.finding)});
+    for (PresentData::Doubtful& doubtful : m_presentData.TakeDoubtful())
+        if (configurations[{doubtful.place.type, doubtful.place.path}] == 1)
+            Report({std::move(doubtful.finding)});
 }
 
 bool TypedCheck::TryCondition(const SourceItem& iItem, const Trial& iTrial, PathWalk& ioWalk, TrialFindings& oFindings)

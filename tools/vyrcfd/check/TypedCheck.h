@@ -12,6 +12,7 @@
 #include "CheckRun.h"
 #include "ConditionOverlap.h"
 #include "ItemTrial.h"
+#include "PresentData.h"
 #include "ScratchObjects.h"
 #include "TypeGuess.h"
 
@@ -38,13 +39,6 @@ private:
         bool isConditional;
     };
 
-    /// What is wrong unless another configuration sets the Choice up.
-    struct Pending
-    {
-        TrialFinding finding;
-        ObjectPlace place;
-    };
-
     void Put(std::string_view iConfiguration, const ObjectPlace& iPlace, bool iIsGuessed, bool iIsConditional);
     void WorkOff();
     void GuessRest();
@@ -53,14 +47,12 @@ private:
     TrialFindings Try(const Task& iTask);
     bool IsBrokenChoice(const SourceItem& iItem, bool iHasFailed) const;
     void TryItem(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
-    void TryPresentData(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
-    void NoteFirstChoice(const SourceItem& iItem);
-    void ReportPending();
     void TryReference(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
     /// @return false where the condition itself is none or leads nowhere
     bool TryCondition(const SourceItem& iItem, const Trial& iTrial, PathWalk& ioWalk, TrialFindings& oFindings);
     void TryTarget(const SourceItem& iItem, const Trial& iTrial, const PathEnd& iEnd, TrialFindings& oFindings);
     void CheckTypeNames();
+    void ReportPresentData();
     void Report(TrialFindings iFindings);
 
     CheckRun& m_run;
@@ -69,11 +61,7 @@ private:
     TypeGuess m_guess;
     /// Of the configuration that is being tried.
     ConditionOverlap m_overlap;
-    /// What the Choice that is being tried has before anybody chooses; empty where that is not known.
-    std::string m_firstChoice;
-    /// Whether the configuration that is being tried says so itself.
-    bool m_choosesItself = false;
-    std::vector<Pending> m_pending;
+    PresentData m_presentData;
     std::deque<Task> m_tasks;
     std::set<std::tuple<const SourceConfiguration*, std::string, std::string>> m_known;
     std::unordered_set<const SourceConfiguration*> m_tried;
