@@ -37,6 +37,8 @@ private:
     /// What is no default of its attribute is neither that now nor when the model is opened again.
     bool IsToldToBeWrong(const SourceItem& iItem) const
     {
+        if (m_run.findings.All().empty())
+            return false;
         const auto isTold = [&](const char* iKey, FindingKind iKind) {
             return m_run.findings.Has(FindingAt(iItem, iKey, iKind, Severity::Error, {}));
         };
