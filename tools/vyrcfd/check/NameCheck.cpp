@@ -1,6 +1,7 @@
 #include <unordered_set>
 
 #include "CheckRun.h"
+#include "ConfigurationKeys.h"
 #include "VYRStandaloneCatalog.h"
 #include "Wording.h"
 
@@ -54,6 +55,7 @@ private:
     {
         for (const SourceItem& item : ItemsOf(iConfiguration))
         {
+            CheckStrangeKeys(item);
             if (!Refers(item.role))
                 continue;
             const std::string_view name = item.Text("config");
@@ -64,6 +66,17 @@ private:
             else if (name != iConfiguration.name && iConfiguration.hiddenBy == nullptr)
                 m_used.emplace(name);
         }
+    }
+
+    /// A configuration that stands behind a misspelt key is used, for what is not known.
+    void CheckStrangeKeys(const SourceItem& iItem)
+    {
+        for (const SourceMember& member : iItem.value.members)
+            if (ItemKeys().count(member.key) == 0 && m_run.source.Find(member.value->text) != nullptr)
+            {
+                m_run.wanted.insert(member.value->text);
+                m_run.unclear.insert(member.value->text);
+            }
     }
 
     /// The one that was probably meant is used, for what is not known.

@@ -11,6 +11,39 @@
 
 namespace Tool
 {
+namespace
+{
+bool IsPathNowhere(const TrialFinding& iOne)
+{
+    return iOne.finding.kind == FindingKind::PathNowhere && iOne.finding.key == "path" &&
+           iOne.finding.severity != Severity::Note;
+}
+
+/// Where a configuration names little of what an object has, it is not its paths that are wrong, but that it is applied
+/// there.
+void BlameReference(const SourceItem& iOrigin, const SourceConfiguration& iConfiguration, const ObjectPlace& iPlace,
+                    TrialFindings& ioFindings)
+{
+    const std::vector<SourceItem> items = ItemsOf(iConfiguration);
+    const auto wanted = std::count_if(items.begin(), items.end(), [](const SourceItem& iItem) {
+        return iItem.role != ItemRole::Choice && !iItem.Text("path").empty();
+    });
+    const auto astray = std::count_if(ioFindings.begin(), ioFindings.end(), IsPathNowhere);
+    if (astray < 2 || astray * 3 < wanted * 2)
+        return;
+    const auto first = std::find_if(ioFindings.begin(), ioFindings.end(), IsPathNowhere);
+    Finding blamed = FindingAt(iOrigin, "config", FindingKind::PathNowhere, first->finding.severity,
+                               Quoted(iConfiguration.name) + " is hardly meant for " + iPlace.Shown() + ": of " +
+                                   Counted(static_cast<std::size_t>(wanted), "path") + " in it " +
+                                   std::to_string(astray) + " lead nowhere there");
+    for (const TrialFinding& one : ioFindings)
+        if (IsPathNowhere(one))
+            blamed.related.push_back({one.finding.file, one.finding.position.line});
+    ioFindings.erase(std::remove_if(ioFindings.begin(), ioFindings.end(), IsPathNowhere), ioFindings.end());
+    ioFindings.push_back({std::move(blamed)});
+}
+} // namespace
+
 TypedCheck::TypedCheck(CheckRun& ioRun) : m_run(ioRun), m_guess(m_objects), m_overlap(ioRun.source) {}
 
 void TypedCheck::Check(const CatalogSource& iCatalogs)
@@ -18,7 +51,7 @@ void TypedCheck::Check(const CatalogSource& iCatalogs)
     CheckTypeNames();
     CheckCatalogStartups(iCatalogs, m_objects, m_run);
     for (const VYRStandalone::MeantConfiguration& meant : VYRStandalone::MeantConfigurations())
-        Put(meant.configuration, {meant.type}, false, false);
+        Put(meant.configuration, {nullptr, {meant.type}, false, false});
     WorkOff();
     SpreadUnclear();
     // What files that are missing would lead to is not known.
@@ -27,11 +60,12 @@ void TypedCheck::Check(const CatalogSource& iCatalogs)
     ReportPresentData();
 }
 
-void TypedCheck::Put(std::string_view iConfiguration, const ObjectPlace& iPlace, bool iIsGuessed, bool iIsConditional)
+void TypedCheck::Put(std::string_view iConfiguration, Task iTask)
 {
-    const SourceConfiguration* configuration = m_run.source.Find(iConfiguration);
-    if (configuration != nullptr && m_known.emplace(configuration, iPlace.type, iPlace.path).second)
-        m_tasks.push_back({configuration, iPlace, iIsGuessed, iIsConditional});
+    iTask.configuration = m_run.source.Find(iConfiguration);
+    if (iTask.configuration != nullptr &&
+        m_known.emplace(iTask.configuration, iTask.place.type, iTask.place.path).second)
+        m_tasks.push_back(std::move(iTask));
 }
 
 void TypedCheck::WorkOff()
@@ -40,7 +74,10 @@ void TypedCheck::WorkOff()
     {
         const Task task = m_tasks.front();
         m_tasks.pop_front();
-        Report(Try(task));
+        TrialFindings findings = Try(task);
+        if (task.origin)
+            BlameReference(*task.origin, *task.configuration, task.place, findings);
+        Report(std::move(findings));
     }
 }
 
@@ -90,7 +127,7 @@ void TypedCheck::Guess(const SourceConfiguration& iConfiguration)
     }
     if (types.size() == 1)
     {
-        Put(iConfiguration.name, {types.front()}, true, false);
+        Put(iConfiguration.name, {nullptr, {types.front()}, true, false});
         WorkOff();
         return;
     }
@@ -128,30 +165,35 @@ TrialFindings TypedCheck::Try(const Task& iTask)
                                           ", which has no default management and cannot be configured")});
         return findings;
     }
+    TryItems(iTask, trial, findings);
+    // They are the engine's own way to say what is found here.
+    VYRStandalone::TakeReports();
+    return findings;
+}
+
+void TypedCheck::TryItems(const Task& iTask, const Trial& iTrial, TrialFindings& oFindings)
+{
     m_overlap = ConditionOverlap(m_run.source);
-    m_presentData.Begin(trial);
+    m_presentData.Begin(iTrial);
     bool isSpoilt = false;
     bool isBroken = false;
     for (const SourceItem& item : ItemsOf(*iTask.configuration))
     {
-        const std::size_t found = findings.size();
+        const std::size_t found = oFindings.size();
         if (item.role == ItemRole::Choice)
         {
-            isSpoilt = TryChoice(item, trial, findings) || isSpoilt;
-            isBroken = isBroken || IsBrokenChoice(item, findings.size() != found);
+            isSpoilt = TryChoice(item, iTrial, oFindings) || isSpoilt;
+            isBroken = isBroken || IsBrokenChoice(item, oFindings.size() != found);
         }
-        else if (isBroken && Refers(item.role))
+        else if (Refers(item.role) && (isBroken || HasWrongKey(item.value)))
             m_run.unclear.emplace(item.Text("config"));
         else
-            TryItem(item, trial, findings);
+            TryItem(item, iTrial, oFindings);
         m_presentData.Follow(item);
-        isSpoilt = isSpoilt || (item.role == ItemRole::Values && IsChoice(trial.object));
+        isSpoilt = isSpoilt || (item.role == ItemRole::Values && IsChoice(iTrial.object));
     }
     if (isSpoilt)
         m_objects.Spoil(iTask.place.type);
-    // They are the engine's own way to say what is found here.
-    VYRStandalone::TakeReports();
-    return findings;
 }
 
 /// Whether the Choice does not offer what the item means it to, so that nothing can be said of what depends on it.
@@ -249,8 +291,8 @@ void TypedCheck::TryTarget(const SourceItem& iItem, const Trial& iTrial, const P
                                        Quoted(path) + " leads to an object that cannot be configured " +
                                            iTrial.Where() + ": a " + Quoted(iEnd.access.GetType().View()))});
     else if (iEnd.kind == PathEnd::Kind::Object && m_followsReferences)
-        Put(iItem.Text("config"), iEnd.place, iTrial.isGuessed,
-            iTrial.isConditional || iItem.role == ItemRole::Conditional);
+        Put(iItem.Text("config"), {nullptr, iEnd.place, iTrial.isGuessed,
+                                   iTrial.isConditional || iItem.role == ItemRole::Conditional, iItem});
 }
 
 void TypedCheck::CheckTypeNames()

@@ -2,6 +2,7 @@
 #define TypedCheck_H
 
 #include <deque>
+#include <optional>
 #include <set>
 #include <string>
 #include <tuple>
@@ -37,14 +38,17 @@ private:
         ObjectPlace place;
         bool isGuessed;
         bool isConditional;
+        /// The item that leads there; nothing for what a catalog says.
+        std::optional<SourceItem> origin{};
     };
 
-    void Put(std::string_view iConfiguration, const ObjectPlace& iPlace, bool iIsGuessed, bool iIsConditional);
+    void Put(std::string_view iConfiguration, Task iTask);
     void WorkOff();
     void GuessRest();
     void SpreadUnclear();
     void Guess(const SourceConfiguration& iConfiguration);
     TrialFindings Try(const Task& iTask);
+    void TryItems(const Task& iTask, const Trial& iTrial, TrialFindings& oFindings);
     bool IsBrokenChoice(const SourceItem& iItem, bool iHasFailed) const;
     void TryItem(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
     void TryReference(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
