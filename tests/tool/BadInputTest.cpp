@@ -208,6 +208,11 @@ const BadInput Names[] = {
      1,
      "small.model.json: \"Case.1/monitors/lift\" leads nowhere: \"monitors\" holds no objects that a path could lead "
      "on to\n"},
+    {"ChoiceWithoutData",
+     Nothing(),
+     {"show", "flow.model.json", "Flow 2/turbulence/laminar"},
+     1,
+     "flow.model.json: \"Flow 2/turbulence/laminar\" leads nowhere: the choice \"laminar\" has no data object\n"},
     {"OptionalAttributeThatIsNotThere",
      Nothing(),
      {"explain", Model, "Solver.1/solutionMesh"},

@@ -28,6 +28,15 @@ ORXISpecAttrKey_var KeyNamed(const VYRCfdObjectAccess& iFrom, const std::string&
 {
     return ORXISpecAttrKey_var::Adopt(iFrom.Access()->GetAttrKey(ORXUnicodeString(iName.data(), iName.size())));
 }
+
+/// What a Choice has; empty for any other object.
+std::string ValueOf(const VYRCfdObjectAccess& iObject)
+{
+    ORXUnicodeString value;
+    if (iObject.IsSubTypeOf("VYRCfdChoice"))
+        iObject["value"].GetString(value);
+    return TextOf(value);
+}
 } // namespace
 
 std::vector<std::string> NamesFrom(const VYRCfdObjectAccess& iFrom)
@@ -37,9 +46,8 @@ std::vector<std::string> NamesFrom(const VYRCfdObjectAccess& iFrom)
     std::vector<std::string> names;
     for (const VYRStandalone::AttributeInfo& info : VYRStandalone::Attributes(ORXISpecObject_var(iFrom.Self())))
         names.push_back(info.name);
-    ORXUnicodeString value;
-    if (iFrom.IsSubTypeOf("VYRCfdChoice") && iFrom["value"].GetString(value) >= 0)
-        names.push_back(TextOf(value));
+    if (const std::string value = ValueOf(iFrom); !value.empty())
+        names.push_back(value);
     return names;
 }
 
@@ -55,7 +63,10 @@ std::string WhyNoFurther(const VYRCfdObjectAccess& iFrom, const std::string& iNa
     const VYRCfdObjectAccess next = iFrom.Get(ORXUnicodeString(iName.data(), iName.size()));
     if (!next.IsNull())
         return {};
-    return !!spKey ? Quoted(iName) + " holds no object" : TextOf(next.GetError());
+    if (!!spKey)
+        return Quoted(iName) + " holds no object";
+    return !isAttribute && ValueOf(iFrom) == iName ? "the choice " + Quoted(iName) + " has no data object"
+                                                   : TextOf(next.GetError());
 }
 
 std::string WhyNowhere(const VYRCfdObjectAccess& iStart, const ORXUnicodeString& iPath)
@@ -75,7 +86,7 @@ std::string WhyNowhere(const VYRCfdObjectAccess& iStart, const ORXUnicodeString&
         if (!why.empty())
         {
             // What is there and leads nowhere all the same is not misspelt.
-            const bool isThere = !IsAttribute(cursor) && !!KeyNamed(cursor, name);
+            const bool isThere = !IsAttribute(cursor) && (!!KeyNamed(cursor, name) || ValueOf(cursor) == name);
             return isThere ? why : why + DidYouMean(name, NamesFrom(cursor));
         }
         cursor = cursor.Get(head);
