@@ -72,6 +72,8 @@ RUN_PACKAGES=(g++ cmake ninja-build ccache rapidjson-dev libsimdjson-dev libudun
 TEST_PACKAGES=("${RUN_PACKAGES[@]}" libgtest-dev libbenchmark-dev python3 python3-jsonschema binutils valgrind)
 # The shells whose completion is tested, and what sets the manual page.
 SHELL_PACKAGES=(fish zsh groff man-db graphviz)
+# What makes the documentation.
+DOCS_PACKAGES=(python3 doxygen cmark-gfm)
 SANITIZER_PACKAGES=(clang libclang-rt-14-dev)
 MEASURE_PACKAGES=(g++ cmake ninja-build ccache rapidjson-dev libsimdjson-dev libudunits2-dev libbenchmark-dev)
 # What ./measure compares with, beside RapidJSON. It measures without those that cannot be had.

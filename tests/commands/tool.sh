@@ -6,7 +6,7 @@
 # Read in by ./test, whose functions it uses.
 
 set_up "${TEST_PACKAGES[@]}" "${SHELL_PACKAGES[@]}"
-build release --target tool_test vyrcfd_interface docs_embedding -DVYRCFD_BUILD_TESTS=ON
+build release --target tool_test vyrcfd_interface docs_examples -DVYRCFD_BUILD_TESTS=ON
 program=$root/build/release/bin/vyrcfd
 results=$root/build/release/test-results.xml
 rm -f "$results"

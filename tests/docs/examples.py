@@ -17,8 +17,8 @@ BLOCK = r"^```{0} {1}\n(.*?)^```$"
 def extract(document, folder):
     text = Path(document).read_text()
     names = set(re.findall(r"^```cpp (\S+)$", text, re.MULTILINE))
-    if not names:
-        sys.exit(f"{document} has no example")
+    if not names or re.search(r"^```(cpp|c\+\+)$", text, re.MULTILINE):
+        sys.exit(f"{document} has an example without a name, or none")
     for name in names:
         blocks = re.findall(BLOCK.format("cpp", re.escape(name)), text, re.MULTILINE | re.DOTALL)
         program, file = "\n".join(blocks), Path(folder) / name
@@ -30,6 +30,8 @@ def extract(document, folder):
 def run(document, name, command, is_renewing):
     text = Path(document).read_text()
     expected = re.search(BLOCK.format("text", re.escape(name)), text, re.MULTILINE | re.DOTALL)
+    if not expected:
+        sys.exit(f"{document} does not say what {name} prints")
     result = subprocess.run(command, capture_output=True, text=True)
     if is_renewing:
         Path(document).write_text(text[:expected.start(1)] + result.stdout + text[expected.end(1):])
