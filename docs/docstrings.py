@@ -22,9 +22,9 @@ FORMS = [(re.compile(form), text) for form, text in (
     (r".* operator\[\]\(int iPosition\)", "The entry at a position, counted from 1."),
     (r"void Append\(", "Adds an entry behind the last."),
     (r"operator const char\*\(\) const", "The same as `CastToCharPtr`."),
-    (r"(?:constexpr )?(\w+)\(const \1&(?: \w+)?\)(?! = delete)", "Copies."),
+    (r"(?:constexpr )?(\w+)\(const \1&(?: \w+)?\)", "Copies."),
     (r"(?:constexpr )?(\w+)\(\1&&(?: \w+)?\)", "Moves; of the source only its end or an assignment is left."),
-    (r"(\w+)& operator=\((?:const )?\1&(?: \w+)?\)(?! = delete)", "Copies."),
+    (r"(\w+)& operator=\((?:const )?\1&(?: \w+)?\)", "Copies."),
     (r"(\w+)& operator=\(\1&&(?: \w+)?\)", "Moves; of the source only its end or an assignment is left."),
 )]
 SCOPES = re.compile(r"(template <[^;]*> )?(class|struct|enum|namespace|union|extern \"C\")\b[^;]*$")
@@ -57,6 +57,7 @@ class Header:
         self.docstring, self.name = None, None  # what holds from here on, and for which name
         self.gathered = []  # lines of the docstring that is being read
         self.is_block = False  # within /** ... */
+        self.is_template = False  # the line before was the head of a template
         self.is_declaration = False  # whether a declaration is being read, and how deep its brackets are
         self.depth = 0
 
@@ -78,6 +79,8 @@ class Header:
         self.gathered = []
         if SCOPES.match(code):
             self.docstring = text = None
+        if "= delete" in code:
+            text = None
         return f"/** {text} */ {line}" if text else line
 
     def line(self, line):
@@ -94,7 +97,13 @@ class Header:
             if re.match(r"[#{}]|:[^:]|(public|protected|private):", code):
                 self.docstring, self.gathered = None, []
                 return line
-            line = self.begin(line)
+            if re.fullmatch(r"template <.*>", code):
+                # A docstring has its place in front of it.
+                self.is_template = True
+                return line
+            begun = self.begin(line)
+            line = line if self.is_template else begun
+            self.is_template = False
             if SCOPES.match(code):
                 # What is inside is read like what is outside.
                 return line
