@@ -61,7 +61,8 @@ def page_of(document):
 def chapters():
     """The chapters in the order in which the first page names them, each with its title."""
     names = dict.fromkeys(re.findall(r"\]\(([a-z-]+\.md)\)", (MANUAL / "README.md").read_text()))
-    for file in (MANUAL / "README.md", *(MANUAL / name for name in names)):
+    # One that is not there is told of where the links are followed.
+    for file in filter(Path.is_file, (MANUAL / "README.md", *(MANUAL / name for name in names))):
         yield file, re.search(r"^# (.*)$", file.read_text(), re.MULTILINE)[1]
 
 
