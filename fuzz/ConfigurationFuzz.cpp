@@ -27,8 +27,9 @@ public:
 };
 
 /**
- * How many applications one application can become at most, up to a limit. Configurations that apply each other twice
- * in a row become some millions of them within a few lines; that such a run takes its time is no finding.
+ * How many applications one application can become at most. Configurations that apply each other twice in a row become
+ * some millions of them within a few lines; that such a run takes its time is no finding. So there is a limit to what
+ * is applied for one input.
  */
 class Expansion
 {
@@ -38,10 +39,16 @@ public:
 
     explicit Expansion(const VYRCfdConfigurationMap& iMap) : m_map(iMap) {}
 
-    bool IsSmall(const ORXUnicodeString& iName)
+    /// Whether the configuration is within the limit, together with those that were before.
+    bool Takes(const ORXUnicodeString& iName)
     {
+        const int before = m_count;
+        m_isStopped = false;
         Count(iName, 1);
-        return m_count <= Most;
+        if (m_count <= Most)
+            return true;
+        m_count = before;
+        return false;
     }
 
 private:
@@ -118,7 +125,8 @@ void RunInput(std::string_view iInput)
     std::set<std::string> names;
     for (const auto& [name, items] : map)
         names.emplace(name.View());
+    Expansion expansion(map);
     for (const std::string& name : names)
-        if (const ORXUnicodeString text(name.data(), name.size()); Expansion(map).IsSmall(text))
+        if (const ORXUnicodeString text(name.data(), name.size()); expansion.Takes(text))
             Apply(configurator, text);
 }

@@ -54,16 +54,16 @@ public:
     VYRCfdObjectAccess(const ORXBaseUnknown_var& iObject);
     /// An error cursor with this text; an empty text gives the empty cursor.
     VYRCfdObjectAccess(const ORXUnicodeString& iError);
-    VYRCfdObjectAccess(const VYRCfdObjectAccess& iOther)
+    VYRCfdBaseInline VYRCfdObjectAccess(const VYRCfdObjectAccess& iOther)
         : _spAttr(iOther._spAttr), _spKey(iOther._spKey), _error(iOther._error)
     {
         if (IsTraced())
-            TraceConstructor();
+            TraceCopy();
     }
-    virtual ~VYRCfdObjectAccess()
+    VYRCfdBaseInline virtual ~VYRCfdObjectAccess()
     {
         if (IsTraced())
-            TraceDestructor();
+            TraceEnd();
     }
 
     VYRCfdObjectAccess& operator=(const VYRCfdObjectAccess& iOther);
@@ -232,7 +232,7 @@ public:
     HRESULT CleanList(const GUID& iInterface) const;
 
 private:
-    class Place;
+    class VYRCfdBaseLocal Place;
 
     /// @name The function scopes of what is inline here, since each link of a chain makes and ends a cursor.
     /// @{
@@ -241,13 +241,13 @@ private:
         const ORXTrace* const channel = VYRCfdTraceManager::_Features;
         return channel != nullptr && channel->IsActive();
     }
-    static void TraceConstructor();
-    static void TraceDestructor();
+    static void TraceCopy();
+    static void TraceEnd();
     /// @}
 
     VYRCfdObjectAccess(ORXISpecAttrAccess_var iAttr, ORXISpecAttrKey_var iKey);
     /// Takes the references over.
-    explicit VYRCfdObjectAccess(const ORXSpecAttrPlace& iPlace);
+    VYRCfdBaseLocal explicit VYRCfdObjectAccess(ORXSpecAttrPlace&& ioPlace);
 
     VYRCfdObjectAccess ObjectAt(ORXISpecAttrKey* iKey, int iIndex) const;
     VYRCfdObjectAccess GetOnObject(const ORXUnicodeString& iName) const;
@@ -257,9 +257,8 @@ private:
     /// What the host offers for plain steps from here; null where single operations have to be called.
     ORXSpecAttrShortcuts* Shortcuts() const;
     /// Goes along a path as far as shortcuts lead. @param oBegin where the path goes on; its length where nothing is
-    /// left
-    /// @return false when no step was taken
-    bool FollowPath(const ORXUnicodeString& iPath, int& oBegin, ORXSpecAttrPlace& oReached) const;
+    /// left. @param oReached its references are the caller's. @return false when no step was taken
+    VYRCfdBaseLocal bool FollowPath(const ORXUnicodeString& iPath, int& oBegin, ORXSpecAttrPlace& oReached) const;
 
     // Checks and reads that operations share; they report under the name of the operation.
     HRESULT CheckNoError(const char* iFunction) const;

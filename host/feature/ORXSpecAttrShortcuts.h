@@ -52,7 +52,8 @@ public:
     virtual bool ReadReal(ORXISpecAttrAccess* iObject, ORXISpecAttrKey* iKey, double& oNumber) noexcept = 0;
 
     /// Writes a real attribute, and tells of it. Stands for the look-up of the parameter, the test of its type and the
-    /// write. What listeners throw comes through. @return false for declined
+    /// write. What listeners throw comes through, and they may let go of the object and of the key: what is needed
+    /// behind the notification has to be held. @return false for declined
     virtual bool WriteReal(ORXISpecAttrAccess* iObject, ORXISpecAttrKey* iKey, double iNumber) = 0;
 
 protected:

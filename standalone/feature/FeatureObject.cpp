@@ -26,7 +26,8 @@ namespace VYRStandalone
 FeatureObject::FeatureObject(FeatureType& iType, const ORXUnicodeString& iName, FeatureObject* iStartup,
                              bool iIsPrototype)
     : m_access(*this), m_slotCount(static_cast<unsigned int>(iType.Keys().size())), m_isPrototype(iIsPrototype),
-      m_type(&iType), m_block(SlotBlock::Make(iType.SlotBytes(), *this)), m_startup(iStartup), m_identity(*this), m_name(iName)
+      m_type(&iType), m_block(SlotBlock::Make(iType.SlotBytes(), *this)), m_startup(iStartup), m_identity(*this),
+      m_name(iName)
 {
     ORXComponentLink::CountAt(*this, PlaceOfCount());
     ORXComponentLink::CountAt(m_access, PlaceOfCount());

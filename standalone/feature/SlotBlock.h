@@ -18,7 +18,7 @@ public:
     /// With one holder, the object that the slots belong to. Alignment is that of the allocator.
     static SlotBlock* Make(std::size_t iBytes, FeatureObject& iOwner);
 
-    /// Valid as long as it lives.
+    /// For the slots, which end before it does; the block may outlive it.
     FeatureObject& Owner() const noexcept { return m_owner; }
 
     void Hold() noexcept { ++m_holders; }

@@ -127,7 +127,7 @@ void AttributeParm::Valuate(double iValue)
     if (m_key.Knowledge()->Kind() != ValueKind::Real)
         return;
     // Past what the other kinds need: numbers are written most.
-    Store(iValue);
+    CellToWrite().WriteReal(iValue);
     Object().Tell(m_key, m_current);
 }
 

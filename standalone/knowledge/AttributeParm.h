@@ -2,8 +2,8 @@
 #define AttributeParm_H
 
 #include "FeatureKey.h"
-#include "SlotBlock.h"
 #include "ORXICkeParm.h"
+#include "SlotBlock.h"
 #include "ValueCell.h"
 
 namespace VYRStandalone
@@ -28,12 +28,7 @@ public:
     const Scalar& Value() const noexcept { return m_current->Value(); }
 
     /// Stores silently. A value that somebody holds stays as it was.
-    template <class Stored> void Store(Stored&& iValue)
-    {
-        if (m_current->Holds() != 0 || m_current->IsImmortal())
-            Renew();
-        m_current->Write(std::forward<Stored>(iValue));
-    }
+    template <class Stored> void Store(Stored&& iValue) { CellToWrite().Write(std::forward<Stored>(iValue)); }
 
     /// Stores and tells. The slot may be gone afterwards, if nobody holds the object.
     void Write(Scalar&& iValue);
@@ -57,6 +52,12 @@ private:
     ~AttributeParm() override;
 
     template <class Text> bool IsStopped(const char* iOperation, const Text& iText);
+    ValueCell& CellToWrite()
+    {
+        if (m_current->Holds() != 0 || m_current->IsImmortal())
+            Renew();
+        return *m_current;
+    }
     /// Takes a cell that nobody holds.
     void Renew();
 

@@ -51,8 +51,8 @@ ManipulatorTable::Entry* ManipulatorTable::EntryOf(const FeatureKey& iKey) const
 {
     if (m_entries == nullptr)
         return nullptr;
-    const auto found = std::find_if(m_entries->begin(), m_entries->end(),
-                                    [&](const Entry& iEntry) { return iEntry.key == &iKey; });
+    const auto found =
+        std::find_if(m_entries->begin(), m_entries->end(), [&](const Entry& iEntry) { return iEntry.key == &iKey; });
     return found != m_entries->end() ? &*found : nullptr;
 }
 } // namespace VYRStandalone

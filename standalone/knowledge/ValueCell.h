@@ -31,7 +31,8 @@ public:
     const Scalar& Value() const noexcept { return m_value; }
     void Write(const Scalar& iValue) { m_value = iValue; }
     void Write(Scalar&& iValue) noexcept { m_value = std::move(iValue); }
-    void Write(double iNumber) noexcept { m_value = iNumber; }
+    /// Of a real. Under a name of its own, since integers and booleans would become numbers in silence.
+    void WriteReal(double iNumber) noexcept { m_value = iNumber; }
     bool IsImmortal() const noexcept { return m_isImmortal; }
     /// Of others than the holder.
     unsigned int Holds() const noexcept { return m_isLeft ? m_count : m_count - 1; }

@@ -57,28 +57,51 @@ TEST_F(Paths, SplitPath_CutsAtTheFirstSlash)
     }
 }
 
+/// Compares a walk with one that is cut by `SplitPath`.
+void ExpectWalked(const VYRCfdObjectAccess& iStart, const ORXUnicodeString& iPath)
+{
+    VYRCfdObjectAccess expected = iStart;
+    ORXUnicodeString left(iPath);
+    ORXUnicodeString head;
+    while (true)
+    {
+        ORXUnicodeString tail;
+        VYRCfdObjectAccess::SplitPath(left, head, tail);
+        if (head.IsEmpty())
+            break;
+        expected = expected.Get(head);
+        left = tail;
+    }
+    const VYRCfdObjectAccess walked = iStart.GetByPath(iPath);
+    EXPECT_TRUE(walked == expected) << iPath;
+    EXPECT_EQ(walked.GetError(), expected.GetError()) << iPath;
+}
+
 /// In a text that is no UTF-8 a byte that continues a character belongs to the one before it, also to a slash.
 TEST_F(Paths, GetByPath_CutsWhereSplitPathDoes)
 {
     for (const char* const path : {"peer/\x80/x", "\x80/peer", "/\x80", "peer/\x80", "peer//\x80/y", "no/\xC3\xA9",
                                    "no\x80/peer", "peer/no/peer"})
-    {
-        VYRCfdObjectAccess expected = Cursor(m_part);
-        ORXUnicodeString left(path);
-        ORXUnicodeString head;
-        while (true)
-        {
-            ORXUnicodeString tail;
-            VYRCfdObjectAccess::SplitPath(left, head, tail);
-            if (head.IsEmpty())
-                break;
-            expected = expected.Get(head);
-            left = tail;
-        }
-        const VYRCfdObjectAccess walked = Cursor(m_part).GetByPath(path);
-        EXPECT_TRUE(walked == expected) << path;
-        EXPECT_EQ(walked.GetError(), expected.GetError()) << path;
-    }
+        ExpectWalked(Part(), path);
+}
+
+/// A zero byte makes up for a character of two bytes: the text then has as many characters as bytes in front of it.
+TEST_F(Paths, WithZeroBytes_AreCutWhereSplitPathCuts)
+{
+    for (const std::string& path :
+         {std::string("peer/\x80title\0", 12), std::string("peer/\xC3\xA9/\xC3\xA9\0x", 12),
+          std::string("peer/\xC3\xA9/title\0", 14), std::string("peer/title\0", 11), std::string("peer\0/title", 11)})
+        ExpectWalked(Part(), ORXUnicodeString(path.data(), path.size()));
+}
+
+// Characters are counted from somewhere near: from the beginning of such a path it would take an hour.
+TEST_F(Paths, OfManySegments_OneOfThemNotAscii_AreWalkedInTime)
+{
+    std::string path;
+    for (int segment = 0; segment < 200000; ++segment)
+        path += "peer/";
+    path += "\xC3\xA9";
+    EXPECT_TRUE(IsError(Part().GetByPath(path.c_str()), "No attribute \xC3\xA9"));
 }
 
 TEST_F(Paths, AreWalkedByAllMeaningsOfAName)

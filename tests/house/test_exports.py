@@ -19,6 +19,7 @@ NM_OUTPUT = """\
 0000000000001310 T non-virtual thunk to VYRCfdThing::Do(int)
 0000000000001400 W std::vector<int, std::allocator<int> >::push_back(int&&)
 0000000000001500 W ORXUnicodeString::IsEmpty() const
+0000000000001600 W VYRCfdObjectAccess::~VYRCfdObjectAccess()
 0000000000004100 V vtable for ORXHandle<ORXISpecObject>
 0000000000005100 u VYRCfdThing::Instance()::only
 0000000000005200 B __odr_asan_gen__ZN11VYRCfdThing7s_countE
@@ -28,6 +29,7 @@ NM_OUTPUT = """\
 """
 
 NAMES = [
+    "VYRCfdObjectAccess::~VYRCfdObjectAccess()",
     "VYRCfdThing::Do(int) const",
     "VYRCfdThing::VYRCfdThing(ORXUnicodeString const&)",
     "VYRCfdThing::s_count",

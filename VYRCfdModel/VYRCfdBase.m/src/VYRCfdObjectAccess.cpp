@@ -11,10 +11,10 @@
 #include "ORXISimBCDataTableColumn.h"
 #include "ORXKeySetVYRCfdBase.h"
 #include "ORXOmxInternals.h"
+#include "ORXSpecAttrShortcuts.h"
 #include "VYRCfdChecks.h"
 #include "VYRCfdListArrangement.h"
 #include "VYRCfdObjectCondition.h"
-#include "VYRCfdShortcuts.h"
 #include "VYRIFldIdentifier.h"
 
 namespace
@@ -38,13 +38,27 @@ HRESULT CutSegment(const ORXUnicodeString& iPath, int iBegin, ORXUnicodeString& 
 {
     static const ORXUnicodeString separator("/");
     const int length = iPath.GetLengthInChar();
-    const int position = iPath.SearchSubString(separator, iBegin, 1);
+    const int position = iPath.FindPosition(separator, iBegin);
     const int end = position < 0 ? length : position;
     oSegment = iPath.SubString(iBegin, end - iBegin);
     oNext = std::min(end + 1, length);
     return S_OK;
 }
 
+/// The host's; null where it has none, and until the library is loaded.
+ORXSpecAttrShortcuts* const hostShortcuts = ORXGetSpecAttrShortcuts != nullptr ? ORXGetSpecAttrShortcuts() : nullptr;
+
+/// Whether all characters are single bytes, of which none is 0: positions are offsets then, and a text may be cut at
+/// each of them.
+bool IsPlain(const ORXUnicodeString& iText)
+{
+    const char* const text = iText;
+    const std::size_t length = std::strlen(text);
+    unsigned char bits = 0;
+    for (std::size_t at = 0; at < length; ++at)
+        bits |= static_cast<unsigned char>(text[at]);
+    return bits < 0x80 && length == static_cast<std::size_t>(iText.GetLengthInChar());
+}
 } // namespace
 
 // ---- construction and comparison ------------------------------------------------------------------------------------
@@ -72,18 +86,19 @@ VYRCfdObjectAccess::VYRCfdObjectAccess(ORXISpecAttrAccess_var iAttr, ORXISpecAtt
     VYRCFD_ENTER(50);
 }
 
-VYRCfdObjectAccess::VYRCfdObjectAccess(const ORXSpecAttrPlace& iPlace)
-    : _spAttr(ORXISpecAttrAccess_var::Adopt(iPlace.object)), _spKey(ORXISpecAttrKey_var::Adopt(iPlace.key))
+VYRCfdObjectAccess::VYRCfdObjectAccess(ORXSpecAttrPlace&& ioPlace)
+    : _spAttr(ORXISpecAttrAccess_var::Adopt(std::exchange(ioPlace.object, nullptr))),
+      _spKey(ORXISpecAttrKey_var::Adopt(std::exchange(ioPlace.key, nullptr)))
 {
 }
 
-void VYRCfdObjectAccess::TraceConstructor()
+void VYRCfdObjectAccess::TraceCopy()
 {
     const VYRFeaIndentedTraceManager scope("VYRCfdObjectAccess::VYRCfdObjectAccess", __FILE__, __LINE__,
                                            VYRCfd::ScopeChannel(50), 50);
 }
 
-void VYRCfdObjectAccess::TraceDestructor()
+void VYRCfdObjectAccess::TraceEnd()
 {
     const VYRFeaIndentedTraceManager scope("VYRCfdObjectAccess::~VYRCfdObjectAccess", __FILE__, __LINE__,
                                            VYRCfd::ScopeChannel(50), 50);
@@ -180,7 +195,8 @@ ORXISpecAttrAccess_var VYRCfdObjectAccess::Access() const
 
 inline ORXSpecAttrShortcuts* VYRCfdObjectAccess::Shortcuts() const
 {
-    return HasError() || !_spAttr ? nullptr : VYRCfdShortcuts::Get();
+    // While scopes are shown, each single operation has its own.
+    return HasError() || !_spAttr || IsTraced() ? nullptr : hostShortcuts;
 }
 
 VYRCfdObjectAccess VYRCfdObjectAccess::Get(ORXISpecAttrKey* iKey, int iIndex) const
@@ -188,7 +204,7 @@ VYRCfdObjectAccess VYRCfdObjectAccess::Get(ORXISpecAttrKey* iKey, int iIndex) co
     ORXSpecAttrPlace place;
     if (ORXSpecAttrShortcuts* const shortcuts = iIndex == 0 && iKey != nullptr ? Shortcuts() : nullptr)
         if (shortcuts->Step(_spAttr, iKey, place))
-            return VYRCfdObjectAccess(place);
+            return VYRCfdObjectAccess(std::move(place));
     VYRCFD_ENTER(30);
     if (HasError())
         return VYRCfdObjectAccess(_error);
@@ -248,7 +264,7 @@ VYRCfdObjectAccess VYRCfdObjectAccess::Get(const ORXUnicodeString& iName) const
     ORXSpecAttrPlace place;
     if (ORXSpecAttrShortcuts* const shortcuts = !_spKey ? Shortcuts() : nullptr)
         if (shortcuts->Step(_spAttr, name, std::strlen(name), place))
-            return VYRCfdObjectAccess(place);
+            return VYRCfdObjectAccess(std::move(place));
     VYRCFD_ENTER(30);
     if (HasError())
         return VYRCfdObjectAccess(_error);
@@ -438,10 +454,10 @@ public:
         return m_cursor;
     }
 
-    const VYRCfdObjectAccess& Move(const ORXSpecAttrPlace& iPlace)
+    const VYRCfdObjectAccess& Move(ORXSpecAttrPlace&& ioPlace)
     {
         Clear();
-        ::new (static_cast<void*>(&m_cursor)) VYRCfdObjectAccess(iPlace);
+        ::new (static_cast<void*>(&m_cursor)) VYRCfdObjectAccess(std::move(ioPlace));
         m_isFull = true;
         return m_cursor;
     }
@@ -464,12 +480,10 @@ private:
 bool VYRCfdObjectAccess::FollowPath(const ORXUnicodeString& iPath, int& oBegin, ORXSpecAttrPlace& oReached) const
 {
     ORXSpecAttrShortcuts* const shortcuts = Shortcuts();
-    const char* const path = iPath;
-    const std::size_t length = std::strlen(path);
-    // Where each character is one byte, positions are offsets, and the text may be cut at each.
-    if (shortcuts == nullptr || !!_spKey || length != static_cast<std::size_t>(iPath.GetLengthInChar()))
+    if (shortcuts == nullptr || !!_spKey || !IsPlain(iPath))
         return false;
-    const char* const end = path + length;
+    const char* const path = iPath;
+    const char* const end = path + iPath.GetLengthInChar();
     const char* name = path;
     ORXISpecAttrAccess* from = _spAttr.Pointer();
     while (name != end && oReached.key == nullptr)
@@ -494,18 +508,21 @@ bool VYRCfdObjectAccess::FollowPath(const ORXUnicodeString& iPath, int& oBegin, 
 VYRCfdObjectAccess VYRCfdObjectAccess::GetByPath(const ORXUnicodeString& iPath) const
 {
     // A loop and not a recursion: a path may be as long as its file. The cursor of a segment is made in place, while
-    // the one before it is still needed, so two places serve in turn and nothing is copied. Nor is what is left of the
-    // path, which would be copied anew at each segment.
+    // the one before it is still needed, so two places serve in turn and nothing is copied. What has been walked stays
+    // in front until it is long: a copy of the rest at each segment would cost more, and so does counting characters
+    // from the beginning of a long path.
+    constexpr int LongestWalked = 1024;
     Place places[2];
     const VYRCfdObjectAccess* current = this;
-    const int length = iPath.GetLengthInChar();
+    ORXUnicodeString rest;
+    const ORXUnicodeString* path = &iPath;
     int begin = 0;
     ORXSpecAttrPlace reached;
     if (FollowPath(iPath, begin, reached))
     {
-        if (begin == length)
-            return VYRCfdObjectAccess(reached);
-        current = &places[1].Move(reached);
+        if (begin == iPath.GetLengthInChar())
+            return VYRCfdObjectAccess(std::move(reached));
+        current = &places[1].Move(std::move(reached));
     }
     for (int place = 0;; place = 1 - place)
     {
@@ -516,14 +533,20 @@ VYRCfdObjectAccess VYRCfdObjectAccess::GetByPath(const ORXUnicodeString& iPath) 
             return VYRCfdObjectAccess("Null object");
         ORXUnicodeString head;
         int next = 0;
-        if (CutSegment(iPath, begin, head, next) < 0)
-            return VYRCfdObjectAccess("Invalid path: " + iPath.SubString(begin, length - begin));
+        if (CutSegment(*path, begin, head, next) < 0)
+            return VYRCfdObjectAccess("Invalid path: " + path->SubString(begin, path->GetLengthInChar() - begin));
         if (head.IsEmpty())
             return *current;
-        if (next >= length)
+        if (next >= path->GetLengthInChar())
             return current->Get(head);
         current = &places[place].Move(*current, head);
         begin = next;
+        if (begin > LongestWalked)
+        {
+            rest = path->SubString(begin, path->GetLengthInChar() - begin);
+            path = &rest;
+            begin = 0;
+        }
     }
 }
 
