@@ -43,6 +43,7 @@ public:
      */
     HRESULT Configure(const std::vector<ORXUnicodeString>& iChoices, const std::vector<ORXUnicodeString>& iStartups,
                       const ORXUnicodeString& iDefault, const ORXUnicodeString& iDisplay);
+    /// The same for a Choice without startups; startups that it had are cleared.
     HRESULT Configure(const std::vector<ORXUnicodeString>& iChoices, const ORXUnicodeString& iDefault,
                       const ORXUnicodeString& iDisplay);
 
@@ -53,8 +54,9 @@ public:
 
     /// Writes `value`, unchecked. @return S_OK whatever comes of the update that the write sets off
     HRESULT SetChoice(const ORXUnicodeString& iChoice);
-    /// On failure `oChoice` stays as it was; `GetDefaultDisplay` likewise.
+    /// The attribute `value`. On failure `oChoice` stays as it was; `GetDefaultDisplay` likewise.
     HRESULT GetChoice(ORXUnicodeString& oChoice);
+    /// The attribute `display`.
     HRESULT GetDefaultDisplay(ORXUnicodeString& oDisplay);
     /// Appends to `oListChoices`.
     HRESULT GetListOfChoices(std::vector<ORXUnicodeString>& oListChoices);
@@ -62,7 +64,7 @@ public:
     HRESULT GetListOfChoicesNLS(std::vector<ORXUnicodeString>& oListChoices);
 
     /**
-     * Brings the Choice up to date: checks the lists, publishes the allowed values, makes `Data` match the value,
+     * Brings the Choice up to date: checks the lists, makes `Data` match the value, publishes the allowed values,
      * settles the default, repairs a value that is no choice, applies the configurations recorded for the path "Data",
      * calls `CompleteUpdate` and sends a VYRCfdAttributeNotification if something changed.
      * @param iDefault a new default; empty keeps that of default management. By value, since what it came from may

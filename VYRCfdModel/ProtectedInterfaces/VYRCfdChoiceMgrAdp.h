@@ -35,6 +35,7 @@ public:
     HRESULT Reset(unsigned char iKeepValue) override;
 
     HRESULT GetAllChoices(std::vector<ORXUnicodeString>& oChoices, ORXUnicodeString& oDefaultChoice) override;
+    /// As `ProhibitChoices` with this one.
     HRESULT ProhibitChoice(const ORXUnicodeString& iChoice) override;
 
     /// @return S_OK also when the update at the end fails, as it does when nothing is left to choose

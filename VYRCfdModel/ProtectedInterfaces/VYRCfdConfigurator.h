@@ -20,14 +20,17 @@ namespace VYRCfd
 template <class T> struct hash;
 template <class T> struct equal_to;
 
+/// For the map of configurations: equal texts have one number.
 template <> struct hash<ORXUnicodeString>
 {
+    /// `ComputeHashKey` of the text.
     std::size_t operator()(const ORXUnicodeString& iText) const noexcept { return iText.ComputeHashKey(); }
 };
 
 /// Exact and case-sensitive.
 template <> struct equal_to<ORXUnicodeString>
 {
+    /// Whether both texts are the same.
     bool operator()(const ORXUnicodeString& iLeft, const ORXUnicodeString& iRight) const noexcept
     {
         return iLeft.Compare(iRight) == 2;

@@ -29,17 +29,23 @@ public:
     VYRCfdDefaultManagementAdp();
     ~VYRCfdDefaultManagementAdp() override;
 
+    /// Makes the flag where there is none yet, as one that is not set.
     HRESULT IsSet(const ORXUnicodeString& iAttrName, unsigned char& oIsSet) override;
+    /// Puts the attribute back on its default. @return S_FALSE for an empty name
     HRESULT Unset(const ORXUnicodeString& iAttrName) override;
+    /// The custom default, else the recorded one, else the declared one.
     HRESULT GetDefault(const ORXUnicodeString& iAttrName, ORXICkeInst_var& oValue) override;
     /// Does nothing, successfully, while a default is being written.
     HRESULT SetIsSet(const ORXUnicodeString& iAttrName, unsigned char iIsSet) override;
     /// A text that does not read as the attribute's type is kept as a default without value.
     HRESULT SetCustomDefault(const ORXUnicodeString& iAttrName, ORXUnicodeString& iValue) override;
+    /// The value is kept as it is, and held; the attribute is not touched.
     HRESULT SetCustomDefault(const ORXUnicodeString& iAttrName, ORXICkeInst_var& iValue) override;
     /// @return S_OK also when there was none
     HRESULT RemoveCustomDefault(const ORXUnicodeString& iAttrName) override;
+    /// Leaves records and declared defaults.
     HRESULT RemoveAllCustomDefaults() override;
+    /// Whether there is a custom default; records that have been read count among them.
     HRESULT HasCustomDefault(const ORXUnicodeString& iAttrName, unsigned char& oHas) override;
     /// Whether the attribute has an auto flag. Unlike `IsSet` it makes none.
     HRESULT HasAuto(const ORXUnicodeString& iAttrName, unsigned char& oHasAuto) override;

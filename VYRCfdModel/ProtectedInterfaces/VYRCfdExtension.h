@@ -19,10 +19,14 @@
 template <class Class, class Base> class VYRCfdExtension : public Base
 {
 public:
+    /// The framework of the class, kept for diagnostics.
     static constexpr const char* Framework = "VYRCfdModel";
 
+    /// That of `Class`; borrowed, valid until the process ends.
     ORXMetaClass* GetMetaObject() const override { return MetaObject(); }
+    /// `ClassName` of `Class`.
     const char* IsA() const override { return MetaObject()->ClassName(); }
+    /// Nonzero for the name of `Class` and those of its bases.
     int IsAKindOf(const char* iClassName) const override { return MetaObject()->IsAKindOf(iClassName); }
 
     /// Made once, under the lock of the object model; the first look is outside the lock.

@@ -54,6 +54,7 @@ public:
     VYRCfdObjectAccess(const ORXBaseUnknown_var& iObject);
     /// An error cursor with this text; an empty text gives the empty cursor.
     VYRCfdObjectAccess(const ORXUnicodeString& iError);
+    /// Stands where the other stands, with its error.
     VYRCfdBaseInline VYRCfdObjectAccess(const VYRCfdObjectAccess& iOther)
         : _spAttr(iOther._spAttr), _spKey(iOther._spKey), _error(iOther._error)
     {
@@ -66,27 +67,35 @@ public:
             TraceEnd();
     }
 
+    /// To where the other stands, with its error.
     VYRCfdObjectAccess& operator=(const VYRCfdObjectAccess& iOther);
     /// To an object cursor; "Null initialization a" for null. Unlike the constructor it takes a component that gives no
     /// attribute access without an error, and stands nowhere then.
     VYRCfdObjectAccess& operator=(const ORXBaseUnknown_var& iObject);
 
     /// True when the cursor stands nowhere, or at an attribute that its object does not carry.
+    /// @{
     bool operator!() const;
     bool IsNull() const;
+    /// @}
+    /// Whether this is an error cursor.
     bool HasError() const;
+    /// What has failed; empty where nothing has.
     ORXUnicodeString GetError() const;
 
     /// Whether both stand at the same place. Error texts play no part: all cursors without an object are equal.
     bool operator==(const VYRCfdObjectAccess& iOther) const;
+    /// The contrary of `operator==`.
     bool operator!=(const VYRCfdObjectAccess& iOther) const;
 
     /// The object, also of an attribute cursor; null on an error cursor.
     ORXBaseUnknown_var Self() const;
+    /// The same as `Self`.
     operator ORXBaseUnknown_var();
     /// The same, borrowed, valid as long as the cursor stands there. No test for `IsNull`: the attribute is not looked
     /// at.
     operator ORXBaseUnknown*();
+    /// The attributes of the object; null on an error cursor.
     ORXISpecAttrAccess_var Access() const;
 
     /**
@@ -111,8 +120,11 @@ public:
     /// Moves to an entry of the object list at which the cursor stands; "Index out of bounds".
     VYRCfdObjectAccess Get(int iIndex) const;
 
+    /// The same as `Get(name)`.
     VYRCfdObjectAccess operator[](const ORXUnicodeString& iName) const;
+    /// The same as `Get(index)`.
     VYRCfdObjectAccess operator[](int iIndex) const;
+    /// The same as `Get(key, 0)`.
     VYRCfdObjectAccess operator[](ORXISpecAttrKey* iKey) const;
     VYRCfdObjectAccess operator[](VYRCfdKeyFunction iKeyFunction) const;
 
@@ -142,14 +154,17 @@ public:
     ORXUnicodeString GetID() const;
     /// Feature type of the object; empty and false on an attribute cursor.
     ORXUnicodeString GetType() const;
+    /// Whether the object's feature type is this one or derives from it; false on an attribute cursor.
     bool IsSubTypeOf(const ORXUnicodeString& iType) const;
 
     /// The knowledge parameter of the attribute; null, with no report, where there is none.
     ORXICkeParm_var GetParm() const;
 
     /// A string attribute, straight from and to the attribute store.
+    /// @{
     HRESULT GetPlainString(ORXUnicodeString& oValue) const;
     HRESULT SetPlainString(const ORXUnicodeString& iValue) const;
+    /// @}
 
     /**
      * Scalars are read and written through the attribute's parameter, so that one read serves every type. `SetString`
@@ -157,6 +172,7 @@ public:
      * real. An index from 1 reads or writes an entry of a list of exactly that type, straight in the attribute store.
      * On an object cursor the reals are those of a data table column, in SI units, index 0 standing for its one value.
      */
+    /// @{
     HRESULT GetString(ORXUnicodeString& oValue) const;
     HRESULT GetString(ORXUnicodeString& oValue, int index) const;
     HRESULT SetString(const ORXUnicodeString& iValue) const;
@@ -173,20 +189,27 @@ public:
     HRESULT GetBoolean(bool& oValue, int index) const;
     HRESULT SetBoolean(bool iValue) const;
     HRESULT SetBoolean(bool iValue, int index) const;
+    /// @}
 
     /// By the knowledge type of the attribute. An enumeration is also an integer. `IsDouble` on an object cursor: a
     /// column with rows.
+    /// @{
     bool IsString() const;
     bool IsInteger() const;
     bool IsDouble() const;
     bool IsBoolean() const;
     bool IsEnum() const;
+    /// @}
 
-    /// Never reported. `IsObject`: an object cursor, or an attribute that holds one object.
+    /// Whether the attribute is a list, holds one object, or is a list of objects. Never reported.
+    /// `IsObject`: an object cursor, or an attribute that holds one object.
+    /// @{
     bool IsList() const;
     bool IsObject() const;
     bool IsObjectList() const;
+    /// @}
 
+    /// Number of entries of a list of any kind.
     HRESULT GetListSize(int& oSize) const;
 
     /// Cursors on the entries of a list of objects, replacing what `oObjects` held. An empty entry keeps its place as
@@ -196,11 +219,13 @@ public:
     HRESULT List(ORXListValORXBaseUnknown_var& oObjects) const;
 
     /// All entries of a list of values, or the one of a scalar. They are appended; only `GetDoubles` starts from empty.
+    /// @{
     HRESULT GetStrings(std::vector<ORXUnicodeString>& oValues) const;
     HRESULT GetStrings(ORXListValORXUnicodeString& oValues) const;
     HRESULT GetDoubles(std::vector<double>& oValues) const;
     HRESULT GetIntegers(std::vector<int>& oValues) const;
     HRESULT GetBooleans(std::vector<bool>& oValues) const;
+    /// @}
 
     /// Replaces a whole list of strings.
     HRESULT SetStrings(std::vector<ORXUnicodeString> iValues) const;

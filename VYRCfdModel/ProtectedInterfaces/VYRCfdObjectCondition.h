@@ -44,6 +44,7 @@ public:
     VYRCfdObjectCondition(const VYRCfdObjectCondition& iOther);
     virtual ~VYRCfdObjectCondition();
 
+    /// Copies everything, what was parsed too.
     VYRCfdObjectCondition& operator=(const VYRCfdObjectCondition& iOther);
 
     /// True if the cursors are equal or the texts are.
@@ -51,11 +52,15 @@ public:
     /// True if the cursors differ or the texts do: not the negation of `operator==`.
     bool operator!=(const VYRCfdObjectCondition& iOther) const;
 
+    /// Whether the cursor stands nowhere, see `VYRCfdObjectAccess::IsNull`.
     bool IsNull() const;
     /// Whether the condition itself is broken; the cursor's own error does not count.
     bool HasError() const;
+    /// What is broken in the condition; empty where nothing is.
     ORXUnicodeString GetError() const;
+    /// The object of the cursor.
     ORXBaseUnknown_var Self() const;
+    /// The attributes of that object.
     ORXISpecAttrAccess_var Access() const;
 
     /// Evaluates: one path walk and one read. Resets the error status. A failed read is reported, and false.

@@ -25,14 +25,17 @@
 template <class Tie, class Interface, class Extension, ENUMTypeOfClass Kind> class VYRCfdTie : public Interface
 {
 public:
+    /// The interface itself by its identifier, anything else from the object. New reference.
     HRESULT QueryInterface(const IID& iInterface, void** oInterface) override
     {
         return Tie_Query(m_record, iInterface, oInterface);
     }
     using Interface::QueryInterface;
 
+    /// Adds a reference to the tie.
     unsigned int AddRef() override { return Tie_AddRef(m_record); }
 
+    /// Gives a reference back; the last one deletes the tie. Returns those that are left.
     unsigned int Release() override
     {
         int mustDelete = 0;
@@ -62,6 +65,7 @@ public:
     }
 
 protected:
+    /// What the tie forwards to; borrowed, valid as long as the tie.
     Extension* Instance() const { return static_cast<Extension*>(m_record.instance); }
 
 private:

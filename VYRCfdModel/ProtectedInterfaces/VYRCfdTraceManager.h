@@ -20,9 +20,12 @@ class VYRCfdBaseExport VYRCfdTraceManager
 public:
     /// The silent channel: null for the life of the library.
     static ORXTrace* _NullTrace;
+    /// Channel of what goes wrong in silence: paths that lead nowhere, errors that a cursor carries on.
     static ORXTrace* _Debug;
     /// Channel of all function scopes of the module.
     static ORXTrace* _Features;
+    /// The other channels, each switched on by a variable of its name. Null where there was no memory.
+    /// @{
     static ORXTrace* _Validity;
     static ORXTrace* _Sim;
     static ORXTrace* _JS;
@@ -30,7 +33,10 @@ public:
     static ORXTrace* _Json;
     static ORXTrace* _UI;
     static ORXTrace* _Test;
+    /// @}
 
+    /// The control of the channel of the same name, which knows its level.
+    /// @{
     static ORXTraControle* _ControlDebug;
     static ORXTraControle* _ControlFeatures;
     static ORXTraControle* _ControlValidity;
@@ -40,6 +46,7 @@ public:
     static ORXTraControle* _ControlJson;
     static ORXTraControle* _ControlUI;
     static ORXTraControle* _ControlTest;
+    /// @}
 
     /// Sets up the nine channels; called when the library is loaded. @return 1
     static int Initialize();

@@ -32,6 +32,7 @@ public:
      */
     static HRESULT ConvertStringToList(ORXUnicodeString text, ORXListValORXUnicodeString& list,
                                        ORXUnicodeString delimiter);
+    /// The same into a vector.
     static HRESULT ConvertStringToVector(ORXUnicodeString text, std::vector<ORXUnicodeString>& list,
                                          ORXUnicodeString delimiter = ",");
 
@@ -42,6 +43,7 @@ public:
     /// Reads the number at the head of the text, as a stream of the classic locale does; what follows is not looked at.
     /// @return E_FAIL when there is none or it is out of range
     static HRESULT ConvertToDouble(const ORXUnicodeString& text, double& value);
+    /// The same for an integer: of "3.7" the 3.
     static HRESULT ConvertToInteger(const ORXUnicodeString& text, int& value);
 
     /// A random identifier: four groups of up to eight hexadecimal digits, without leading zeros, parted by "_".

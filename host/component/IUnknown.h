@@ -16,6 +16,7 @@
 #include "ORXGuid.h"
 #include "ORXStatus.h"
 
+/// What every component answers: casting and counting.
 class ORXHostExport IUnknown
 {
 public:

@@ -40,11 +40,13 @@ public:
     unsigned int Release() override;
 
     /// Automation is not offered by this host: the four operations answer E_NOTIMPL.
+    /// @{
     virtual HRESULT GetTypeInfoCount(unsigned int* oCount);
     virtual HRESULT GetTypeInfo(unsigned int iIndex, unsigned int iLocale, void** oInfo);
     virtual HRESULT GetIDsOfNames(const IID& iReserved, const char** iNames, unsigned int iCount, unsigned int iLocale,
                                   int* oIdentifiers);
     virtual HRESULT Invoke(int iIdentifier, const IID& iReserved, unsigned int iLocale, void* ioArguments);
+    /// @}
 
     /// As `QueryInterface` by identifier, the interface given by its class name.
     virtual HRESULT QueryInterface(const char* iInterfaceName, void** oInterface);
@@ -79,6 +81,7 @@ public:
      * As `AddRef` and `Release`, for handles: without a virtual call where the host counts the component in a place
      * that it has told, or not at all. The last reference always goes by `Release`.
      */
+    /// @{
     void CountIn() noexcept
     {
         if (!IsCountedElsewhere())
@@ -94,6 +97,7 @@ public:
         else if (count != nullptr || !IsCountedElsewhere())
             Release();
     }
+    /// @}
 
     static const IID& ClassId() noexcept { return IID_ORXBaseUnknown; }
 
@@ -101,7 +105,9 @@ public:
     static void* operator new(std::size_t iSize);
     /// Null where there is no memory.
     static void* operator new(std::size_t iSize, const std::nothrow_t& iNothrow) noexcept;
+    /// Memory of an instance whose constructor has thrown.
     static void operator delete(void* iMemory, const std::nothrow_t& iNothrow) noexcept;
+    /// Memory of an instance that is deleted.
     static void operator delete(void* iMemory, std::size_t iSize) noexcept;
 
     ORXBaseUnknown(const ORXBaseUnknown&) = delete;

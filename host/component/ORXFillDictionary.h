@@ -22,6 +22,7 @@ using ORXInterfaceCreator = ORXBaseUnknown* (*)(ORXBaseUnknown* iExtended, ORXBa
 /// Makes an instance of an extension class with `new`. New object, owned by the object that it is linked to.
 using ORXInstanceConstructor = ORXBaseUnknown* (*)();
 
+/// Where the entries of the dictionary are made.
 class ORXHostExport ORXFillDictionary
 {
 public:
@@ -42,8 +43,11 @@ using ORXOMModuleEntry = ORXOMModule* (*)();
 /// Bounds of a library's table of registration entries. The table must live until the library is unloaded.
 struct ORXOMModuleInfo
 {
+    /// The first entry, and one behind the last; borrowed.
+    /// @{
     const ORXOMModuleEntry* begin;
     const ORXOMModuleEntry* end;
+    /// @}
 };
 
 /**
@@ -54,6 +58,7 @@ struct ORXOMModuleInfo
 class ORXHostExport ORXOMModule
 {
 public:
+    /// Puts the entries of the table into the queue; runs none.
     explicit ORXOMModule(const ORXOMModuleInfo& iInfo);
     ~ORXOMModule();
     ORXOMModule(const ORXOMModule&) = delete;

@@ -17,6 +17,7 @@ class ORXBaseUnknown;
 struct ORXNullVar
 {
 };
+/// The one value of its type.
 inline constexpr ORXNullVar NULL_var{};
 
 /**
@@ -44,6 +45,7 @@ template <class Interface> class ORXHandle
 {
 public:
     constexpr ORXHandle() noexcept = default;
+    /// Null.
     constexpr ORXHandle(ORXNullVar) noexcept {}
 
     /// Copies and adds a reference.
@@ -119,6 +121,7 @@ public:
 
     /// Nonzero when null.
     int operator!() const noexcept { return m_pointer == nullptr ? 1 : 0; }
+    /// The contrary of the null test.
     explicit operator bool() const noexcept { return m_pointer != nullptr; }
 
     /// On a null handle calls `ThrowErrorNullVar`, which does not return.
@@ -130,12 +133,15 @@ public:
     }
 
     /// Borrowed, valid as long as this handle holds it; null is possible.
+    /// @{
     operator Interface*() const noexcept { return m_pointer; }
     Interface* Pointer() const noexcept { return m_pointer; }
+    /// @}
 
     /// Borrowed no more: the reference is the caller's.
     [[nodiscard]] Interface* GiveUp() noexcept { return std::exchange(m_pointer, nullptr); }
 
+    /// See `ORXThrowErrorNullVar`.
     [[noreturn]] static void ThrowErrorNullVar() { ORXThrowErrorNullVar(); }
 
     /// See `ORXSameComponent`.
@@ -169,17 +175,20 @@ bool operator==(const ORXHandle<Left>& iLeft, const ORXHandle<Right>& iRight) no
     return ORXSameComponent(iLeft.Pointer(), iRight.Pointer());
 }
 
+/// The contrary of `operator==`.
 template <class Left, class Right>
 bool operator!=(const ORXHandle<Left>& iLeft, const ORXHandle<Right>& iRight) noexcept
 {
     return !(iLeft == iRight);
 }
 
+/// The null test.
 template <class Interface> bool operator==(const ORXHandle<Interface>& iLeft, ORXNullVar) noexcept
 {
     return iLeft.Pointer() == nullptr;
 }
 
+/// The contrary of the null test.
 template <class Interface> bool operator!=(const ORXHandle<Interface>& iLeft, ORXNullVar) noexcept
 {
     return iLeft.Pointer() != nullptr;

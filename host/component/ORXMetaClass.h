@@ -29,13 +29,18 @@ enum ENUMTypeOfClass
 class ORXHostExport ORXMetaClass
 {
 public:
+    /// Made by the functions below. The texts are borrowed and must live until the process ends. @param iServed of a
+    /// tie, the extension class that it forwards to
     ORXMetaClass(const char* iClassName, ENUMTypeOfClass iKind, const IID& iInterface, ORXMetaClass* iBase,
                  const char* iLateType, ORXMetaClass* iServed = nullptr);
 
+    /// Borrowed, valid until the process ends.
     const char* ClassName() const noexcept { return m_className; }
+    /// What it describes.
     ENUMTypeOfClass Kind() const noexcept { return m_kind; }
     /// Identifier of the interface; of a class that is no interface, that of its base.
     const IID& InterfaceId() const noexcept { return m_interface; }
+    /// Meta class of the base; borrowed, null for none.
     ORXMetaClass* Base() const noexcept { return m_base; }
     /// Name of the feature type that an extension class extends; empty for everything else.
     const char* LateType() const noexcept { return m_lateType; }

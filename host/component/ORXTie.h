@@ -54,6 +54,7 @@ ORXHostExport void Tie_Construct(ORXTieRecord& ioTie, ORXBaseUnknown* iTie, ORXM
 
 /// `QueryInterface` of a tie: the interface's own identifier gives the tie, everything else asks the object.
 ORXHostExport HRESULT Tie_Query(ORXTieRecord& ioTie, const IID& iInterface, void** oInterface);
+/// `AddRef` of a tie. @return the references that there are now
 ORXHostExport unsigned int Tie_AddRef(ORXTieRecord& ioTie);
 
 /**

@@ -13,6 +13,7 @@
 class ORXHostExport ORXIAlias : public ORXBaseUnknown
 {
 public:
+    /// The name, never empty.
     virtual ORXUnicodeString GetAlias() = 0;
 
     static const IID& ClassId() noexcept { return IID_ORXIAlias; }

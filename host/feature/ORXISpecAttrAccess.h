@@ -31,10 +31,13 @@ public:
     /// True when this object carries the attribute of the key. A key can exist while this is false.
     virtual ORXBoolean HasAttribute(ORXISpecAttrKey* iKey) = 0;
 
+    /// Writes a real, in SI units where it measures something.
     virtual HRESULT SetDouble(ORXISpecAttrKey* iKey, double iValue, int iIndex = 0) = 0;
     /// Also writes an enumeration, by the number of its text, counted from 1.
     virtual HRESULT SetInteger(ORXISpecAttrKey* iKey, int iValue, int iIndex = 0) = 0;
+    /// Writes a boolean.
     virtual HRESULT SetBoolean(ORXISpecAttrKey* iKey, ORXBoolean iValue, int iIndex = 0) = 0;
+    /// Writes a string.
     virtual HRESULT SetString(ORXISpecAttrKey* iKey, const ORXUnicodeString& iValue, int iIndex = 0) = 0;
 
     /**
@@ -46,9 +49,13 @@ public:
     virtual HRESULT SetSpecObject(ORXISpecAttrKey* iKey, const ORXISpecObject_var& iObject, int iIndex = 0,
                                   int iMode = 0) = 0;
 
+    /// Reads a real, in SI units where it measures something.
     virtual double GetDouble(ORXISpecAttrKey* iKey, int iIndex = 0) = 0;
+    /// Reads an integer, and of an enumeration the number of its text.
     virtual int GetInteger(ORXISpecAttrKey* iKey, int iIndex = 0) = 0;
+    /// Reads a boolean.
     virtual ORXBoolean GetBoolean(ORXISpecAttrKey* iKey, int iIndex = 0) = 0;
+    /// Reads a string.
     virtual ORXUnicodeString GetString(ORXISpecAttrKey* iKey, int iIndex = 0) = 0;
 
     /// New reference; null when the attribute or the entry is empty.

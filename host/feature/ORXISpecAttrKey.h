@@ -22,6 +22,7 @@ public:
     virtual int GetListType() = 0;
     /// Type code of the attribute.
     virtual int GetType() = 0;
+    /// Name of the attribute.
     virtual ORXUnicodeString GetName() = 0;
 
     static const IID& ClassId() noexcept { return IID_ORXISpecAttrKey; }

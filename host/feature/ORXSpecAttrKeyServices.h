@@ -11,9 +11,12 @@
 /// A writable static of a generated key set. The texts are literals.
 struct ORXHostExport ORXSpecAttrKeyServices
 {
+    /// The attribute, its feature type, and the catalog that declares the type.
+    /// @{
     const char* catalog;
     const char* featureType;
     const char* attribute;
+    /// @}
     /// The key, once found; written by the service only.
     ORXISpecAttrKey* key;
 

@@ -17,6 +17,7 @@ class ORXISpecAttrKey;
 /// An object, or one attribute of it. Both pointers are new references.
 struct ORXSpecAttrPlace
 {
+    /// Attributes of the object.
     ORXISpecAttrAccess* object = nullptr;
     /// Null for the object itself.
     ORXISpecAttrKey* key = nullptr;

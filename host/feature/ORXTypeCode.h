@@ -6,6 +6,7 @@
  * Codes of attribute types, as `ORXISpecAttrKey` answers them and `ORXISpecObject::AddAttribute` takes them.
  */
 
+/// The numbers are part of the interface.
 enum ORXTypeCode : int
 {
     tk_double = 7,

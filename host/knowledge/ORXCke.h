@@ -12,8 +12,10 @@ namespace ORXCke
 class Boolean
 {
 public:
+    /// Nonzero for true.
     constexpr operator int() const noexcept { return m_value; }
 
+    /// The constant that is meant.
     static constexpr Boolean Of(bool iValue) noexcept { return Boolean(iValue ? 1 : 0); }
 
 private:
@@ -22,7 +24,9 @@ private:
     unsigned char m_value;
 };
 
+/// Reads as 1.
 inline constexpr Boolean True = Boolean::Of(true);
+/// Reads as 0.
 inline constexpr Boolean False = Boolean::Of(false);
 } // namespace ORXCke
 

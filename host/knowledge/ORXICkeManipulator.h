@@ -13,6 +13,7 @@
 class ORXHostExport ORXICkeManipulator : public ORXBaseUnknown
 {
 public:
+    /// Replaces what is offered. The texts are copied.
     virtual HRESULT SetAllowedValues(const ORXListValORXUnicodeString& iValues) = 0;
     /// Replaces what `oValues` holds.
     virtual HRESULT GetAllowedValues(ORXListValORXUnicodeString& oValues) = 0;

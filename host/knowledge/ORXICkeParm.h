@@ -29,11 +29,14 @@ public:
     /// A snapshot that later writes do not change. An unset parameter gives a value that is not valuated.
     virtual ORXIValue_var GetValue() = 0;
 
+    /// Writes a boolean.
     virtual void Valuate(const ORXCke::Boolean& iValue) = 0;
     /// Reads the text by kind: a string as it stands; a real as a whole number text; an integer by its leading digits;
     /// a boolean "true", "false", "1" or "0" in any case; an enumeration by its exact text.
     virtual void Valuate(const ORXUnicodeString& iText) = 0;
+    /// Writes a real, in SI units where it measures something.
     virtual void Valuate(double iValue) = 0;
+    /// Writes an integer, or an enumeration by the number of its text.
     virtual void Valuate(int iValue) = 0;
 
     /// Copies a value. Null does nothing; a value that is not valuated takes the parameter's value away.

@@ -12,8 +12,11 @@
 class ORXHostExport ORXIParmDictionary : public ORXBaseUnknown
 {
 public:
+    /// The type of reals, from which those of quantities derive.
     virtual ORXICkeType_var GetRealType() = 0;
+    /// The type of integers.
     virtual ORXICkeType_var GetIntegerType() = 0;
+    /// The type of booleans.
     virtual ORXICkeType_var GetBooleanType() = 0;
     /// Every enumeration's type derives from it.
     virtual ORXICkeType_var GetEnumType() = 0;

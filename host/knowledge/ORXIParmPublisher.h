@@ -10,6 +10,7 @@
 
 class ORXMetaClass;
 
+/// Stands for the interface in the meta classes of extensions.
 class ORXHostExport ORXIParmPublisher : public ORXBaseUnknown
 {
 public:

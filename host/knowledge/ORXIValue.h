@@ -25,6 +25,7 @@ public:
     virtual double AsReal() = 0;
     /// The value as text, for every kind; of a real the shortest decimal that reads back the same.
     virtual ORXUnicodeString AsString() = 0;
+    /// A boolean value; false for every other kind.
     virtual ORXCke::Boolean AsBoolean() = 0;
     /// Plain read of a boolean value; false for every other kind.
     virtual bool IsTrue() = 0;

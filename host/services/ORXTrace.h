@@ -10,6 +10,7 @@
 #include "ORXExport.h"
 #include "ORXFormat.h"
 
+/// Whether a channel prints.
 enum ORXTraMode
 {
     ORXTraSilent = 0,
@@ -21,6 +22,7 @@ class ORXHostExport ORXTrace
 {
 public:
     /**
+     * Name, description and file are borrowed for the constructor call only.
      * @param iFile name of the output; "STDOUT" is the standard output
      * @param iLevel maximum level of the channel, which `ORXTraControle` answers; it does not filter prints
      */
@@ -39,6 +41,7 @@ public:
         TraPrint(iFormat, iArguments...);
     }
 
+    /// The same without a level.
     template <class... Arguments> void TraPrint(const char* iFormat, const Arguments&... iArguments)
     {
         if (!IsActive())
@@ -49,8 +52,11 @@ public:
             PrintFormatted(iFormat, ORXFormat::Argument(iArguments)...);
     }
 
+    /// Borrowed, valid as long as the channel; as are the other two.
     const char* Name() const noexcept { return m_name; }
+    /// What the channel is for.
     const char* Description() const noexcept { return m_description; }
+    /// Name of the output.
     const char* File() const noexcept { return m_file; }
 
     ORXTrace(const ORXTrace&) = delete;
@@ -73,6 +79,7 @@ private:
 class ORXHostExport ORXTraControle
 {
 public:
+    /// Looks the channel up once.
     explicit ORXTraControle(const char* iName);
 
     /// The channel's maximum level; 0 when there is no channel of that name.

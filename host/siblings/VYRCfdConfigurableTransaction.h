@@ -15,6 +15,7 @@
 class ORXHostExport VYRCfdConfigurableTransaction
 {
 public:
+    /// Opens the bracket, and holds the feature.
     explicit VYRCfdConfigurableTransaction(const VYRICfdConfigurable_var& ispConfigurable);
 
     /// What the update at the close answers is lost. An exception from it passes through, unless another one is ending

@@ -13,6 +13,7 @@
 class ORXHostExport VYRFeaErrorManager
 {
 public:
+    /// Writes the status byte of this thread.
     static void SetErrorStatus(unsigned char iStatus);
 
     /// Records that a condition, given as its source text, did not hold.

@@ -8,6 +8,7 @@
 
 #include "ORXTrace.h"
 
+/// Owns the sibling's channels.
 class ORXHostExport VYRFeaTraceManager
 {
 public:

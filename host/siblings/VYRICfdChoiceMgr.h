@@ -28,6 +28,7 @@ public:
     virtual HRESULT Reset(unsigned char iKeepValue) = 0;
     /// Appends the declared choices, and gives the declared default.
     virtual HRESULT GetAllChoices(std::vector<ORXUnicodeString>& oChoices, ORXUnicodeString& oDefaultChoice) = 0;
+    /// As `ProhibitChoices` with this one.
     virtual HRESULT ProhibitChoice(const ORXUnicodeString& iChoice) = 0;
     /// Takes choices out. What is not offered is passed over.
     virtual HRESULT ProhibitChoices(const std::set<ORXUnicodeString>& iProhibited) = 0;

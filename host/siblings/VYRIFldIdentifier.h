@@ -13,6 +13,7 @@
 class ORXHostExport VYRIFldIdentifier : public ORXBaseUnknown
 {
 public:
+    /// Replaces what `oIdentifier` holds.
     virtual void GetIdentifier(ORXUnicodeString& oIdentifier) = 0;
 
     static const IID& ClassId() noexcept { return IID_VYRIFldIdentifier; }

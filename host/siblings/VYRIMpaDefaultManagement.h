@@ -18,6 +18,7 @@ public:
     virtual HRESULT IsSet(const ORXUnicodeString& iAttrName, unsigned char& oIsSet) = 0;
     /// Puts the attribute back on its default. @return S_FALSE for an empty name
     virtual HRESULT Unset(const ORXUnicodeString& iAttrName) = 0;
+    /// The value that the attribute has when it is unset: a custom default, a recorded one, or the declared one.
     virtual HRESULT GetDefault(const ORXUnicodeString& iAttrName, ORXICkeInst_var& oValue) = 0;
 
     static const IID& ClassId() noexcept { return IID_VYRIMpaDefaultManagement; }

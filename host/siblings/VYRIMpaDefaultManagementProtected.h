@@ -18,19 +18,29 @@ class ORXMetaClass;
 class ORXHostExport VYRIMpaDefaultManagementProtected : public ORXBaseUnknown
 {
 public:
+    /// See `VYRIMpaDefaultManagement`.
+    /// @{
     virtual HRESULT IsSet(const ORXUnicodeString& iAttrName, unsigned char& oIsSet) = 0;
     virtual HRESULT Unset(const ORXUnicodeString& iAttrName) = 0;
     virtual HRESULT GetDefault(const ORXUnicodeString& iAttrName, ORXICkeInst_var& oValue) = 0;
+    /// @}
+    /// Writes the set flag, and makes it where there is none; the value stays.
     virtual HRESULT SetIsSet(const ORXUnicodeString& iAttrName, unsigned char iIsSet) = 0;
     /// Gives this object a default of its own, as text; an attribute that is not set follows it at once.
     virtual HRESULT SetCustomDefault(const ORXUnicodeString& iAttrName, ORXUnicodeString& iValue) = 0;
     /// The same as a value; the attribute is not touched.
     virtual HRESULT SetCustomDefault(const ORXUnicodeString& iAttrName, ORXICkeInst_var& iValue) = 0;
+    /// Takes the object's own default away; the value stays.
     virtual HRESULT RemoveCustomDefault(const ORXUnicodeString& iAttrName) = 0;
+    /// The same for all attributes.
     virtual HRESULT RemoveAllCustomDefaults() = 0;
+    /// Whether the object has a default of its own.
     virtual HRESULT HasCustomDefault(const ORXUnicodeString& iAttrName, unsigned char& oHas) = 0;
+    /// Whether the attribute has an auto flag, whatever it says.
     virtual HRESULT HasAuto(const ORXUnicodeString& iAttrName, unsigned char& oHasAuto) = 0;
+    /// Whether the attribute follows its default by itself; 0 without a flag.
     virtual HRESULT GetIsAuto(const ORXUnicodeString& iAttrName, unsigned char& oIsAuto) = 0;
+    /// Writes the auto flag, and makes it where there is none.
     virtual HRESULT SetIsAuto(const ORXUnicodeString& iAttrName, unsigned char iIsAuto) = 0;
 
     static const IID& ClassId() noexcept { return IID_VYRIMpaDefaultManagementProtected; }

@@ -9,6 +9,7 @@
 #include "ORXIContainer.h"
 #include "ORXISpecObject.h"
 
+/// Where objects are made.
 class ORXHostExport ORXSimBCInitializeServices
 {
 public:

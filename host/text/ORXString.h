@@ -8,6 +8,7 @@
 
 #include <string>
 
+/// A copy of a zero-terminated text.
 class ORXString
 {
 public:
@@ -15,6 +16,7 @@ public:
     /// Null gives the empty string.
     ORXString(const char* iText) : m_text(iText != nullptr ? iText : "") {}
 
+    /// A new string with the other behind this one.
     ORXString operator+(const char* iTail) const { return ORXString((m_text + iTail).c_str()); }
 
     /// Borrowed, valid as long as the string is neither changed nor destroyed.

@@ -40,6 +40,7 @@ public:
 
     /// Up to the terminating zero; null gives the empty string.
     ORXUnicodeString(const char* iText) { Assign(iText, iText != nullptr ? std::strlen(iText) : 0); }
+    /// As many bytes, zeros among them.
     ORXUnicodeString(const char* iText, std::size_t iBytes) { Assign(iText, iBytes); }
 
     ~ORXUnicodeString()
@@ -64,6 +65,7 @@ public:
         return *this;
     }
 
+    /// Up to the terminating zero; null gives the empty string.
     ORXUnicodeString& operator=(const char* iText)
     {
         ORXUnicodeString copy(iText);
@@ -73,6 +75,7 @@ public:
 
     /// True for no characters. `IsNull` is the same question.
     bool IsEmpty() const noexcept { return m_bytes == 0; }
+    /// The same as `IsEmpty`.
     bool IsNull() const noexcept { return m_bytes == 0; }
 
     /// Exact comparison, character by character.
@@ -94,9 +97,11 @@ public:
     /// Appends in place and returns the string itself.
     ORXUnicodeString& Append(const ORXUnicodeString& iTail);
 
+    /// A new string with the other behind this one.
     ORXUnicodeString operator+(const ORXUnicodeString& iTail) const;
     ORXUnicodeString operator+(const char* iTail) const;
 
+    /// Number of characters, which are code points.
     int GetLengthInChar() const noexcept { return static_cast<int>(m_characters); }
 
     /// New string of up to `iLength` characters from the 0-based `iStart`; what lies outside the text is left out.
@@ -223,6 +228,7 @@ private:
     std::uint32_t m_characters;
 };
 
+/// A new string of both.
 ORXHostExport ORXUnicodeString operator+(const char* iHead, const ORXUnicodeString& iTail);
 
 #endif

@@ -40,11 +40,15 @@ VYRStandaloneExport std::vector<std::string> ManagedTypes();
 /// A configuration that a catalog lists as meant for objects of a type.
 struct MeantConfiguration
 {
+    /// Name of the feature type.
     std::string type;
+    /// Name of the configuration.
     std::string configuration;
     /// Where it stands: the catalog's file or label, and the path inside, as "/types/0/configurations/1".
+    /// @{
     std::string file;
     std::string path;
+    /// @}
 };
 
 /// What all catalogs list, in the order of their declaration. The host only keeps it; no configuration need be there.
@@ -53,10 +57,13 @@ VYRStandaloneExport std::vector<MeantConfiguration> MeantConfigurations();
 /// One attribute that an object carries.
 struct AttributeInfo
 {
+    /// Name of the attribute.
     std::string name;
     /// Codes of ORXTypeCode; `listType` is 0 for everything but a list.
+    /// @{
     int type = 0;
     int listType = 0;
+    /// @}
     /// Texts of an enumeration, also of a list of enumerations.
     std::vector<std::string> values;
     /// SI unit of reals that measure something, also of a list of reals.
@@ -65,6 +72,7 @@ struct AttributeInfo
     bool optional = false;
     /// Type that declares it; empty for an attribute that was added to the object alone.
     std::string declaredBy;
+    /// Added to the object alone; no type declares it.
     bool added = false;
 };
 

@@ -19,6 +19,7 @@ namespace VYRStandalone
 /// One record of the error service.
 struct Report
 {
+    /// By which operation of `VYRFeaErrorManager` it came.
     enum class Kind
     {
         Assertion,
@@ -26,13 +27,17 @@ struct Report
         FailedCall
     };
 
+    /// What was reported.
     Kind kind;
     /// Source text of the condition or of the call, or the formatted message.
     std::string text;
     /// Qualified name of the function that reported.
     std::string function;
+    /// Where in the source it was reported.
+    /// @{
     std::string file;
     int line;
+    /// @}
     /// Status of a failed call; E_FAIL for an assertion and an error.
     HRESULT status;
 };
@@ -45,6 +50,7 @@ VYRStandaloneExport const std::vector<Report>& Reports();
 
 /// The status byte of this thread. It is 0 at first.
 VYRStandaloneExport unsigned char ErrorStatus();
+/// Writes that byte, as `VYRFeaErrorManager::SetErrorStatus` does.
 VYRStandaloneExport void SetErrorStatus(unsigned char iStatus);
 
 /// A call through a null handle.
@@ -74,11 +80,15 @@ public:
     /// Wrong shape; an empty path leaves the path out.
     DocumentError(const std::string& iFile, const std::string& iPath, const std::string& iMessage);
 
+    /// Name of the file, or the label of a text.
     const std::string& File() const noexcept { return m_file; }
+    /// Place inside the document; empty for wrong syntax.
     const std::string& Path() const noexcept { return m_path; }
     /// 0 where the error has no place in the text.
+    /// @{
     int Line() const noexcept { return m_line; }
     int Column() const noexcept { return m_column; }
+    /// @}
 
 private:
     std::string m_file;

@@ -34,16 +34,20 @@ struct Fault
     std::string subject;
     /// Path of the object (`PathOf`); empty meets any.
     std::string object;
+    /// Number of the first call that fails, counted from 1.
     int call = 1;
     /// 0: all from then on.
     int times = 1;
+    /// What an operation that answers a status answers.
     HRESULT status = E_FAIL;
     /// Meets only reads that answer a value, "GetValue" of parameters: they answer one that is not valuated, as for an
     /// attribute without a value, and no null.
     bool isUnset = false;
 };
 
+/// Plants a fault beside those that are there, for this thread.
 VYRStandaloneExport void PlantFault(const Fault& iFault);
+/// Takes all faults of this thread away.
 VYRStandaloneExport void ClearFaults();
 /// How many calls have failed by planted faults since the last `ClearFaults`.
 VYRStandaloneExport int FaultsHit();

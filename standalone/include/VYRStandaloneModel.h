@@ -46,6 +46,7 @@ public:
     /// Replaces the file in one step: whatever stops it, the old file or the new one is whole. @throws DocumentError
     void Save(const std::string& iFile) const;
 
+    /// The container of the objects, which the model owns.
     ORXIContainer_var Container() const;
 
     /// Makes a top-level object. @throws std::invalid_argument for an unknown type
@@ -71,8 +72,10 @@ private:
 };
 
 /// Name of an object as the user sees it, and its identifier. The empty text takes it away again.
+/// @{
 VYRStandaloneExport void SetAlias(const ORXISpecObject_var& iObject, const ORXUnicodeString& iAlias);
 VYRStandaloneExport void SetIdentifier(const ORXISpecObject_var& iObject, const ORXUnicodeString& iIdentifier);
+/// @}
 
 /// Where an object stands: its name, or for a component its owner's path, "/" and the attribute that holds it. A
 /// prototype's path is its type in brackets.

@@ -25,6 +25,7 @@ namespace VYRStandalone
 class VYRStandaloneExport Subscription
 {
 public:
+    /// What is called for each notification, inside `DispatchCallbacks`.
     using Callback = std::function<void(ORXNotification& ioNotification)>;
 
     /// Null and a component that is no feature object receive nothing.
