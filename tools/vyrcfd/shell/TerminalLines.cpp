@@ -1,11 +1,13 @@
 #include "TerminalLines.h"
 
+#include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <new>
+#include <sys/select.h>
 #include <unistd.h>
 
 #include <readline/history.h>
@@ -68,18 +70,35 @@ char** Complete(const char* iText, int iStart, int)
     return current.candidates.empty() ? nullptr : rl_completion_matches(iText, &NextCandidate);
 }
 
+volatile std::sig_atomic_t isTyping = 0;
 volatile std::sig_atomic_t wasInterrupted = 0;
+volatile std::sig_atomic_t isCommandInterrupted = 0;
 
-void Interrupt(int)
+/// An interrupt while a line is typed clears the line. A command cannot be broken off without leaving the model half
+/// changed, so that the first interrupt lets it run to its end; the second one is for a command that has none.
+void Interrupt(int iSignal)
 {
-    wasInterrupted = 1;
+    constexpr std::string_view Told = "\ninterrupted: the command goes on to its end; press Ctrl-C again to leave and "
+                                      "lose unsaved changes\n";
+    if (isTyping != 0)
+        wasInterrupted = 1;
+    else if (isCommandInterrupted == 0)
+    {
+        isCommandInterrupted = 1;
+        const int error = errno;
+        [[maybe_unused]] const ssize_t written = write(STDERR_FILENO, Told.data(), Told.size());
+        errno = error;
+    }
+    else
+    {
+        // Takes effect when this function returns.
+        std::signal(iSignal, SIG_DFL);
+        std::raise(iSignal);
+    }
 }
 
-/// Called by the library when a signal has come while it waits for a key.
-int ClearInterruptedLine()
+void ClearInterruptedLine()
 {
-    if (wasInterrupted == 0)
-        return 0;
     wasInterrupted = 0;
     rl_crlf();
     rl_on_new_line();
@@ -87,31 +106,71 @@ int ClearInterruptedLine()
     // Whoever was looking for a line begins again behind the last one.
     using_history();
     rl_redisplay();
-    return 0;
 }
 
-/// Ctrl-C ends a session that runs a command, but not one that waits for a line.
-class InterruptGuard
+/// Waits for a key or a signal. @return whether there is a key
+bool WaitForKey(std::FILE* iStream)
+{
+    sigset_t held;
+    sigset_t before;
+    sigfillset(&held);
+    // A signal that came between the look at it and the wait would be heeded at the next key only.
+    pthread_sigmask(SIG_BLOCK, &held, &before);
+    fd_set keys;
+    FD_ZERO(&keys);
+    FD_SET(fileno(iStream), &keys);
+    const bool isPending = rl_pending_signal() != 0 || wasInterrupted != 0;
+    const bool hasKey =
+        !isPending && (pselect(fileno(iStream) + 1, &keys, nullptr, nullptr, nullptr, &before) > 0 || errno != EINTR);
+    pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    return hasKey;
+}
+
+/// Asked by the library for a key.
+int NextKey(std::FILE* iStream)
+{
+    constexpr int Abort = 'G' & 0x1f;
+    while (!WaitForKey(iStream))
+    {
+        rl_check_signals();
+        if (wasInterrupted == 0)
+            continue;
+        // What has begun to read keys of its own, as the search in the history, would not notice that the line is
+        // another one: it is told to end first.
+        if (RL_ISSTATE(RL_STATE_ISEARCH | RL_STATE_NSEARCH | RL_STATE_NUMERICARG | RL_STATE_MOREINPUT))
+            return Abort;
+        ClearInterruptedLine();
+    }
+    return rl_getc(iStream);
+}
+
+/// For as long as a line is typed.
+class Typing
 {
 public:
-    InterruptGuard() : m_former(std::signal(SIGINT, &Interrupt)) {}
-    ~InterruptGuard() { std::signal(SIGINT, m_former); }
-    InterruptGuard(const InterruptGuard&) = delete;
-    InterruptGuard& operator=(const InterruptGuard&) = delete;
-
-private:
-    void (*m_former)(int);
+    Typing()
+    {
+        wasInterrupted = 0;
+        isTyping = 1;
+    }
+    ~Typing()
+    {
+        isCommandInterrupted = 0;
+        isTyping = 0;
+    }
+    Typing(const Typing&) = delete;
+    Typing& operator=(const Typing&) = delete;
 };
 } // namespace
 
-TerminalLines::TerminalLines(Completer iCompleter)
+TerminalLines::TerminalLines(Completer iCompleter) : m_formerInterrupt(std::signal(SIGINT, &Interrupt))
 {
     completer = std::move(iCompleter);
     rl_readline_name = "vyrcfd";
     rl_attempted_completion_function = &Complete;
     rl_completer_word_break_characters = " \t";
     rl_completer_quote_characters = "\"";
-    rl_signal_event_hook = &ClearInterruptedLine;
+    rl_getc_function = &NextKey;
     // Standard output is the answers' alone where it does not go to the terminal.
     if (isatty(STDOUT_FILENO) == 0)
         rl_outstream = stderr;
@@ -120,7 +179,8 @@ TerminalLines::TerminalLines(Completer iCompleter)
 TerminalLines::~TerminalLines()
 {
     rl_attempted_completion_function = nullptr;
-    rl_signal_event_hook = nullptr;
+    rl_getc_function = &rl_getc;
+    std::signal(SIGINT, m_formerInterrupt);
     completer = nullptr;
     current = {};
     clear_history();
@@ -128,8 +188,7 @@ TerminalLines::~TerminalLines()
 
 std::optional<std::string> TerminalLines::Next()
 {
-    const InterruptGuard guard;
-    wasInterrupted = 0;
+    const Typing typing;
     const std::unique_ptr<char, decltype(&std::free)> line(readline("vyrcfd> "), &std::free);
     if (line == nullptr)
     {

@@ -43,12 +43,14 @@ public:
     TerminalLines(const TerminalLines&) = delete;
     TerminalLines& operator=(const TerminalLines&) = delete;
 
-    /// An interrupt (Ctrl-C) clears the line.
+    /// An interrupt (Ctrl-C) clears the line. One that comes between two calls is told of, and the next one
+    /// before the following call ends the process.
     std::optional<std::string> Next() override;
     bool IsTerminal() const override { return true; }
     std::string Place() const override { return {}; }
 
 private:
+    void (*m_formerInterrupt)(int);
     HistoryFile m_history;
 };
 } // namespace Tool
