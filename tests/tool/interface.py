@@ -27,6 +27,10 @@ MODEL = "samples/models/externalFlow.model.json"
 LINES = [
     ("vyrcfd ap", ["apply"]),
     ("vyrcfd interf", []),
+    ("vyrcfd interface ", ["man", "bash", "zsh", "fish"]),
+    ("vyrcfd interface b", ["bash"]),
+    ("vyrcfd interface bash ", []),
+    ("vyrcfd aply sh", []),
     ("vyrcfd ", COMMANDS),
     ("vyrcfd apply --out", ["--output"]),
     ("vyrcfd apply --installation samples --cat", ["--catalog"]),
@@ -171,6 +175,25 @@ class InterfaceTest(unittest.TestCase):
                                 ("vyrcfd apply --o\t", "--output ")]:
                 with self.subTest(shell=shell[0], keys=keys):
                     self.assertIn(until, self.typed(shell, keys, until))
+
+
+    def test_bash_completes_within_quotation_marks(self):
+        model = self.folder / "odd.model.json"
+        # A name with everything that bash takes for something else within one quotation mark or the other.
+        model.write_text('{"model": 1, "catalogs": ["ExternalFlow"], "objects": [' +
+                         '{"type": "ExternalFlowSolver", "name": "Fan B"}, ' +
+                         '{"type": "ExternalFlowSolver", "name": "Odd \\\\ $HOME `date` it\'s"}]}')
+        bash = self.folder / "quoting"
+        bash.write_text(f"source {self.folder}/vyrcfd.bash\nPS1='READY>'\ncd {self.folder}\n")
+        shell = ["bash", "--noprofile", "--rcfile", str(bash), "-i"]
+        for keys, until in [('vyrcfd explain odd.model.json "Fan B/iterat\t', ' "Fan B/iterations" '),
+                            ("vyrcfd explain odd.model.json 'Fan B/iterat\t", " 'Fan B/iterations' "),
+                            ("vyrcfd explain odd.model.json Fan\\ B/iterat\t", " Fan\\ B/iterations "),
+                            ('vyrcfd explain "odd.model.json" "Fan B/iterat\t', ' "Fan B/iterations" '),
+                            ('vyrcfd explain odd.model.json "Odd\t', ' "Odd \\\\ \\$HOME \\`date\\` it\'s'),
+                            ("vyrcfd explain odd.model.json 'Odd\t", " 'Odd \\ $HOME `date` it'\\''s")]:
+            with self.subTest(keys=keys):
+                self.assertIn(until, self.typed(shell, keys, until))
 
 
 unittest.main()

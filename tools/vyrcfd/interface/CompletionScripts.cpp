@@ -7,9 +7,11 @@ const char BashCompletion[] = R"script(# Completion of vyrcfd for bash. The prog
 _vyrcfd()
 {
     local words=("${COMP_WORDS[@]:1:COMP_CWORD}") answer source suffix line
+    local typed=${COMP_WORDS[COMP_CWORD]}
     # As the program would get them, but for rarities of quoting.
     words=("${words[@]//\\/}")
     words=("${words[@]#[\"\']}")
+    words=("${words[@]%[\"\']}")
     words=("${words[@]/#\~\//$HOME/}")
     local current=${words[${#words[@]} - 1]}
     [ "$current" != "=" ] || current=
@@ -27,7 +29,14 @@ _vyrcfd()
             ;;
         *)
             for line in "${answer[@]:1}"; do
-                COMPREPLY+=("$(printf '%q' "${line%%$'\t'*}")")
+                line=${line%%$'\t'*}
+                # What is to be escaped depends on the quotation mark inside of which the word is typed.
+                case $typed in
+                    \"*) line=$(sed 's/["\\$`]/\\&/g' <<<"$line") ;;
+                    \'*) line=$(sed "s/'/'\\\\''/g" <<<"$line") ;;
+                    *) line=$(printf '%q' "$line") ;;
+                esac
+                COMPREPLY+=("$line")
             done
             ;;
     esac

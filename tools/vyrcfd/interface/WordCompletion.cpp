@@ -145,8 +145,13 @@ Candidates Options(const CommandDescription& iCommand)
     return candidates;
 }
 
-Candidates Commands(const CommandDescription& iCommand)
+Candidates Commands(const CommandDescription& iCommand, const std::vector<std::string>& iBefore)
 {
+    // A command that is not offered stands where a command would.
+    if (iBefore == std::vector<std::string>{"interface"})
+        return {{"man", "manual page"}, {"bash", "completion"}, {"zsh", "completion"}, {"fish", "completion"}};
+    if (!iBefore.empty())
+        return {};
     Candidates candidates;
     for (const CommandDescription& one : iCommand.commands)
         candidates.push_back({one.name, one.description});
@@ -185,7 +190,7 @@ WordCompletion Everything(const CommandDescription& iProgram, const std::vector<
     if (before.MayBeOption() && iWord.starts_with('-'))
         return {WordCompletion::Source::Candidates, "", Options(before.Command())};
     if (!before.Command().commands.empty())
-        return {WordCompletion::Source::Candidates, "", Commands(before.Command())};
+        return {WordCompletion::Source::Candidates, "", Commands(before.Command(), before.Arguments())};
     return Argument(before, iWord);
 }
 } // namespace
