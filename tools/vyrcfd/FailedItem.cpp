@@ -99,6 +99,11 @@ private:
         return !!spChoice && spChoice->Configure(choices, startups, chosen, display) >= 0;
     }
 
+    static bool IsOfTooMany(const VYRStandalone::Report& iReport)
+    {
+        return iReport.text.find("Too many nested configurations") != std::string::npos;
+    }
+
     /// Asks the engine whether there is anything to look for.
     void Apply(const SourceItem& iItem, const VYRCfdObjectAccess& iTarget)
     {
@@ -108,11 +113,12 @@ private:
             return;
         VYRStandalone::TakeReports();
         VYRCfdConfigurator::GetConfigurator()->ApplyConfiguration(spTarget, UnicodeOf(name));
-        const bool hasFailed = !VYRStandalone::TakeReports().empty();
-        if (!hasFailed)
+        const std::vector<VYRStandalone::Report> reports = VYRStandalone::TakeReports();
+        if (reports.empty())
             return;
+        // Configurations that multiply are not gone through: that would take as long as the engine refuses to take.
         const std::size_t before = failed.size();
-        if (!!spTarget)
+        if (!!spTarget && std::none_of(reports.begin(), reports.end(), IsOfTooMany))
             Run(spTarget, name);
         if (failed.size() != before)
             return;
