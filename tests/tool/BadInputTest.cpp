@@ -4,6 +4,7 @@
  */
 
 #include <functional>
+#include <regex>
 
 #include "ToolTest.h"
 
@@ -167,26 +168,78 @@ const BadInput ConfigurationFiles[] = {
      Configuration + ":1:1: A byte order mark has no place in JSON.\n"},
     {"NoObject", Written(Configuration, "[]"), Apply, 1,
      Configuration + ":1:1: a configuration file must be an object, not an array\n"},
-    {"ConfigurationsNoArray", Written(Configuration, R"({"configurations": {}})"), List, 1,
-     Configuration + ":1:20: \"configurations\" must be an array, not an object\n"},
-    {"ConfigurationNoObject", Written(Configuration, R"({"configurations": ["a"]})"), List, 1,
-     Configuration + ":1:21: a configuration must be an object, not a text\n"},
-    {"NoName", Written(Configuration, R"({"configurations": [{"name": "a"}, {"config": []}]})"), List, 1,
-     Configuration + ":1:36: the configuration has no \"name\"\n"},
-    {"NameNoText", Written(Configuration, R"({"configurations": [{"name": 1}]})"), List, 1,
-     Configuration + ":1:30: \"name\" must be a text, not a number\n"},
-    {"ConfigNoArray", Written(Configuration, R"({"configurations": [{"name": "a", "config": "b"}]})"), List, 1,
-     Configuration + ":1:45: \"config\" must be an array, not a text\n"},
-    {"ItemNoObject", Written(Configuration, R"({"configurations": [{"name": "a", "config": [null]}]})"), List, 1,
-     Configuration + ":1:46: an item must be an object, not null\n"},
-    {"NumberInPlaceOfText",
-     Written(Configuration, R"({"configurations": [{"name": "a", "config": [{}, {"path": "p", "default": 0.7}]}]})"),
-     Apply, 1, Configuration + ":1:75: \"default\" must be a text, not a number\n"},
-    {"TextInPlaceOfBoolean",
-     Written(Configuration, R"({"configurations": [{"name": "a", "config": [{"list": "true"}]}]})"), Apply, 1,
-     Configuration + ":1:55: \"list\" must be true or false, not a text\n"},
 };
 INSTANTIATE_TEST_SUITE_P(ConfigurationFiles, BadInputs, testing::ValuesIn(ConfigurationFiles), NameOf);
+
+struct Oddity
+{
+    const char* name;
+    /// Of the last file.
+    const char* text;
+    /// Behind the file's name.
+    const char* note;
+    /// Name, items and line of the definitions in the file.
+    const char* listed;
+};
+
+void PrintTo(const Oddity& iOne, std::ostream* oStream)
+{
+    *oStream << iOne.name;
+}
+
+class Oddities : public ToolTest, public testing::WithParamInterface<Oddity>
+{
+};
+
+TEST_P(Oddities, OfConfigurationFiles_ArePassedOverWithANote)
+{
+    const std::string last = "samples/reffiles/VYRCfdApp/meshFYEConfig.json";
+    const Oddity& oddity = GetParam();
+    Write(last, "{}");
+    const ToolRun list = Run(List);
+    const ToolRun apply = Run(Apply);
+    ASSERT_EQ(Outcome(list), Outcome(0, ""));
+    ASSERT_EQ(apply.status, 0);
+
+    Write(last, oddity.text);
+    const std::string note = "note: " + last + oddity.note + "; see vyrcfd check\n";
+    const ToolRun oddList = Run(List);
+    const ToolRun oddApply = Run(Apply);
+    EXPECT_EQ(Outcome(oddList), Outcome(0, note));
+    const std::string listed = oddList.output.substr(oddList.output.find(last) + last.size() + 1);
+    EXPECT_EQ(std::regex_replace(listed, std::regex(" +"), " "), oddity.listed);
+    EXPECT_EQ(Outcome(oddApply), Outcome(0, note + apply.errors));
+    EXPECT_EQ(oddApply.output, apply.output);
+}
+
+const Oddity PassedOver[] = {
+    {"ConfigurationsNoArray", R"({"configurations": {}})",
+     ":1:20: \"configurations\" must be an array, not an object, and is passed over", ""},
+    {"ConfigurationNoObject", R"({"configurations": ["a", {"name": "b"}]})",
+     ":1:21: a configuration must be an object, not a text, and is passed over",
+     " \"\" 0 items, line 1\n b 0 items, line 1\n"},
+    {"NoName", R"({"configurations": [{"name": "a"}, {"nme": "b", "config": []}]})",
+     ":1:36: the configuration has no \"name\", and is passed over", " a 0 items, line 1\n \"\" 0 items, line 1\n"},
+    {"NameNoText", R"({"configurations": [{"name": 1}]})",
+     ":1:30: \"name\" must be a text, not a number, and is passed over", " \"\" 0 items, line 1\n"},
+    {"ConfigNoArray", R"({"configurations": [{"name": "a", "config": "b"}]})",
+     ":1:45: \"config\" must be an array, not a text, and is passed over", " a 0 items, line 1\n"},
+    {"ItemNoObject", R"({"configurations": [{"name": "a", "config": [null, {}]}]})",
+     ":1:46: an item must be an object, not null, and is passed over", " a 2 items, line 1\n"},
+    {"NumberInPlaceOfText", R"({"configurations": [{"name": "a", "config": [{}, {"path": "p", "default": 0.7}]}]})",
+     ":1:75: \"default\" must be a text, not a number, and is passed over", " a 2 items, line 1\n"},
+    {"TextInPlaceOfBoolean", R"({"configurations": [{"name": "a", "config": [{"list": "true"}]}]})",
+     ":1:55: \"list\" must be true or false, not a text, and is passed over", " a 1 item, line 1\n"},
+    {"Two", R"({"configurations": [{"name": 1, "config": null}]})",
+     ":1:43: \"config\" must be an array, not null, and is passed over, as is 1 other mistake",
+     " \"\" 0 items, line 1\n"},
+    {"Three", R"({"configurations": [{"name": 1, "config": null}, 7]})",
+     ":1:43: \"config\" must be an array, not null, and is passed over, as are 2 other mistakes",
+     " \"\" 0 items, line 1\n \"\" 0 items, line 1 without effect: defined in "
+     "samples/reffiles/VYRCfdApp/meshFYEConfig.json, line 1\n"},
+};
+INSTANTIATE_TEST_SUITE_P(ConfigurationFiles, Oddities, testing::ValuesIn(PassedOver),
+                         [](const testing::TestParamInfo<Oddity>& iInfo) { return iInfo.param.name; });
 
 const BadInput Names[] = {
     {"ObjectLikeAnother",

@@ -1,4 +1,5 @@
 #include <memory>
+#include <optional>
 
 #include "ApplyText.h"
 #include "Command.h"
@@ -30,7 +31,6 @@ struct ApplyArguments
 bool ConfigureOrTell(const ORXISpecObject_var& iObject, const Configuring& iConfiguring,
                      const ConfigurationSource& iSource)
 {
-    const Progress progress("Applying " + OneLine(iConfiguring.configuration));
     try
     {
         return Configure(iObject, iConfiguring);
@@ -50,11 +50,17 @@ bool ConfigureOrTell(const ORXISpecObject_var& iObject, const Configuring& iConf
 void Apply(const CommonOptions& iOptions, const ApplyArguments& iArguments)
 {
     const Installation installation(iOptions);
-    const std::vector<std::string> configurations = ConfigurationNames(ReadConfigurationFiles(installation));
+    const std::vector<ConfigurationFile> files = ReadConfigurationFiles(installation);
+    const std::vector<std::string> configurations = ConfigurationNames(files);
+    // Before all else, since it may be the reason for what follows.
+    if (const std::string note = OddityNote(files); !note.empty())
+        PrintError(note);
     const ConfigurationSource source(installation);
     const VYRStandalone::Model model = installation.LoadModel(iArguments.model);
     const ORXISpecObject_var spObject = FollowToObject(model, iArguments.model, iArguments.object);
 
+    std::optional<Progress> progress;
+    progress.emplace("Applying " + OneLine(iArguments.configuration));
     const Snapshot before = TakeSnapshot(model);
     const bool isDone = ConfigureOrTell(
         spObject, {iArguments.model, iArguments.object, iArguments.configuration, configurations}, source);
@@ -72,11 +78,13 @@ void Apply(const CommonOptions& iOptions, const ApplyArguments& iArguments)
     // Last of all, since it changes the model.
     if (!reports.empty())
         application.failed = FailedItems(spObject, iArguments.configuration, source);
+    const std::string text = iOptions.json ? ApplyJson(application, difference) : ApplyText(application, difference);
+    progress.reset();
     for (const std::string& report : reports)
         PrintError("note: " + report);
     for (const FailedItem& item : application.failed)
         PrintError("note: " + item.Shown());
-    Print(iOptions.json ? ApplyJson(application, difference) : ApplyText(application, difference));
+    Print(text);
 }
 } // namespace
 

@@ -2,6 +2,7 @@
 
 #include "ConfigurationShape.h"
 #include "ConfigurationSource.h"
+#include "Wording.h"
 
 namespace Tool
 {
@@ -12,9 +13,8 @@ std::vector<ConfigurationFile> ReadConfigurationFiles(const Installation& iInsta
     auto next = source.Configurations().begin();
     for (const SourceFile& file : source.Files())
     {
-        CheckConfigurationShape(file);
         std::vector<ConfigurationDefinition>& definitions =
-            files.emplace_back(ConfigurationFile{file.Path(), {}}).definitions;
+            files.emplace_back(ConfigurationFile{file.Path(), {}, OdditiesOf(file)}).definitions;
         for (; next != source.Configurations().end() && next->file == &file; ++next)
         {
             definitions.push_back({next->name, next->items.size(), next->position, std::nullopt});
@@ -33,5 +33,22 @@ std::vector<std::string> ConfigurationNames(const std::vector<ConfigurationFile>
             if (!definition.hiddenBy)
                 names.push_back(definition.name);
     return names;
+}
+
+std::string OddityNote(const std::vector<ConfigurationFile>& iFiles)
+{
+    std::string first;
+    std::size_t others = 0;
+    for (const ConfigurationFile& file : iFiles)
+        for (const std::string& oddity : file.oddities)
+        {
+            others += first.empty() ? 0 : 1;
+            first = first.empty() ? oddity : first;
+        }
+    if (first.empty())
+        return {};
+    const std::string more =
+        others == 0 ? "" : std::string(others == 1 ? ", as is " : ", as are ") + Counted(others, "other mistake");
+    return "note: " + first + ", and is passed over" + more + "; see vyrcfd check";
 }
 } // namespace Tool

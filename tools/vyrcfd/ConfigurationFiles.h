@@ -36,17 +36,22 @@ struct ConfigurationFile
 {
     std::string path;
     std::vector<ConfigurationDefinition> definitions;
+    /// What the engine passes over in it, each with its place, in one line.
+    std::vector<std::string> oddities;
 };
 
 /**
- * Reads the files in the order in which the engine does, and stricter: the engine passes over what has a wrong shape.
- * @throws Failure for a file that is missing
- * @throws VYRStandalone::DocumentError for one that cannot be read, is no JSON or has a wrong shape
+ * Reads the files in the order in which the engine does.
+ * @throws Failure with a line for each file that fails the engine's load: one that is missing, cannot be read, or is no
+ * JSON object
  */
 std::vector<ConfigurationFile> ReadConfigurationFiles(const Installation& iInstallation);
 
 /// The names that configurations can be asked for by, in the order of the files.
 std::vector<std::string> ConfigurationNames(const std::vector<ConfigurationFile>& iFiles);
+
+/// A line on what the engine passes over in the files, so that nobody looks for it in vain; empty where nothing is.
+std::string OddityNote(const std::vector<ConfigurationFile>& iFiles);
 } // namespace Tool
 
 #endif

@@ -1,7 +1,6 @@
 #include "ConfigurationShape.h"
 
 #include "ConfigurationKeys.h"
-#include "VYRStandaloneErrors.h"
 #include "Wording.h"
 
 namespace Tool
@@ -15,21 +14,21 @@ class Shape
 public:
     explicit Shape(const std::string& iFile) : m_file(iFile) {}
 
-    void CheckFile(const SourceValue& iRoot) const
+    std::vector<std::string> OdditiesIn(const SourceValue& iRoot)
     {
-        Expect(iRoot, Kind::Object, "a configuration file");
         // What names the schema is for editors.
         CheckKey(iRoot, "configurations", Kind::Array);
         for (const SourceValue* configuration : iRoot.ElementsOf("configurations"))
             CheckConfiguration(*configuration);
+        return std::move(m_oddities);
     }
 
 private:
-    void CheckConfiguration(const SourceValue& iConfiguration) const
+    void CheckConfiguration(const SourceValue& iConfiguration)
     {
         Expect(iConfiguration, Kind::Object, "a configuration");
-        if (!iConfiguration.Has("name"))
-            Fail(iConfiguration, "the configuration has no \"name\"");
+        if (iConfiguration.Is(Kind::Object) && !iConfiguration.Has("name"))
+            Add(iConfiguration, "the configuration has no \"name\"");
         CheckKeys(iConfiguration, ConfigurationKeys());
         for (const SourceValue* item : iConfiguration.ElementsOf("config"))
         {
@@ -38,35 +37,37 @@ private:
         }
     }
 
-    void CheckKeys(const SourceValue& iObject, const KindsByKey& iKeys) const
+    void CheckKeys(const SourceValue& iObject, const KindsByKey& iKeys)
     {
         for (const auto& [key, kind] : iKeys)
             CheckKey(iObject, key, kind);
     }
 
-    void CheckKey(const SourceValue& iObject, const std::string& iKey, Kind iKind) const
+    void CheckKey(const SourceValue& iObject, const std::string& iKey, Kind iKind)
     {
         if (const SourceMember* member = iObject.Find(iKey))
             Expect(*member->value, iKind, Quoted(iKey));
     }
 
-    void Expect(const SourceValue& iValue, Kind iKind, const std::string& iWhat) const
+    void Expect(const SourceValue& iValue, Kind iKind, const std::string& iWhat)
     {
         if (!iValue.Is(iKind))
-            Fail(iValue, WrongKindText(iWhat, iKind, iValue));
+            Add(iValue, WrongKindText(iWhat, iKind, iValue));
     }
 
-    [[noreturn]] void Fail(const SourceValue& iValue, const std::string& iMessage) const
+    void Add(const SourceValue& iValue, const std::string& iMessage)
     {
-        throw VYRStandalone::DocumentError(m_file, iValue.position.line, iValue.position.column, iMessage);
+        m_oddities.push_back(OneLine(m_file) + ":" + std::to_string(iValue.position.line) + ":" +
+                             std::to_string(iValue.position.column) + ": " + iMessage);
     }
 
     const std::string& m_file;
+    std::vector<std::string> m_oddities;
 };
 } // namespace
 
-void CheckConfigurationShape(const SourceFile& iFile)
+std::vector<std::string> OdditiesOf(const SourceFile& iFile)
 {
-    Shape(iFile.Path()).CheckFile(iFile.Root());
+    return Shape(iFile.Path()).OdditiesIn(iFile.Root());
 }
 } // namespace Tool

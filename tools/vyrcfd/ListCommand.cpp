@@ -85,6 +85,8 @@ void AddListCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
     command->callback([&ioOptions, &oJob] {
         oJob = [&ioOptions] {
             const std::vector<ConfigurationFile> files = ReadConfigurationFiles(Installation(ioOptions));
+            if (const std::string note = OddityNote(files); !note.empty())
+                PrintError(note);
             Print(ioOptions.json ? ListJson(files) : ListText(files));
         };
     });

@@ -1,12 +1,15 @@
 #include <memory>
+#include <optional>
 
 #include "ChoiceView.h"
 #include "Command.h"
 #include "JsonWriter.h"
 #include "ObjectPath.h"
 #include "Output.h"
+#include "Progress.h"
 #include "ShowText.h"
 #include "Snapshot.h"
+#include "Wording.h"
 
 namespace Tool
 {
@@ -66,6 +69,8 @@ struct ShowArguments
 void Show(const CommonOptions& iOptions, const ShowArguments& iArguments)
 {
     const VYRStandalone::Model model = Installation(iOptions).LoadModel(iArguments.model);
+    std::optional<Progress> progress;
+    progress.emplace("Showing " + OneLine(iArguments.path.empty() ? iArguments.model : iArguments.path));
     Snapshot snapshot;
     if (iArguments.path.empty())
         snapshot = TakeSnapshot(model);
@@ -75,7 +80,9 @@ void Show(const CommonOptions& iOptions, const ShowArguments& iArguments)
         snapshot = TakeSnapshot(model, target.object, iArguments.path, target.attribute);
     }
     DefaultsOnce defaults;
-    Print(iOptions.json ? ShowJson(snapshot) : ShowText(snapshot, defaults.Ask()));
+    const std::string text = iOptions.json ? ShowJson(snapshot) : ShowText(snapshot, defaults.Ask());
+    progress.reset();
+    Print(text);
 }
 } // namespace
 
