@@ -249,6 +249,29 @@ TEST_F(CheckTest, WithoutCatalogs_OnlyTheFilesAreChecked)
                                "\"main\", and no catalog says what is applied by itself [unused-config]\n");
 }
 
+TEST_F(CheckTest, WithoutCatalogs_AllThatNothingRefersTo_IsToldInOneNote)
+{
+    fs::remove_all(m_folder.Path("installation/catalogs"));
+    AddConfigurations(R"({"configurations": [{"name": "a"}, {"name": "b"},
+        {"name": "c"}]})");
+    const ToolRun run = Check();
+    EXPECT_EQ(Outcome(run), Outcome(0, ""));
+    EXPECT_EQ(FindingsIn(run), "SolverConfigurations.json:1:30: note: \"a\": no other configuration refers to \"a\", "
+                               "and no catalog says what is applied by itself; the same holds for 2 other "
+                               "configurations [unused-config]\n");
+}
+
+TEST_F(CheckTest, AFolderOfCatalogsThatCannotBeRead_IsOneError)
+{
+    fs::remove_all(m_folder.Path("installation/catalogs"));
+    m_folder.Write("installation/catalogs", "no folder");
+    AddConfigurations(R"({"configurations": [{"name": "a"}, {"name": "b"}]})");
+    const ToolRun run = Check();
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(FindingsIn(run), "catalogs:1:1: error: cannot be read: Not a directory; as long as the catalogs in this "
+                               "folder are not read, nothing is checked against types [unreadable-file]\n");
+}
+
 constexpr char MainOnly[] =
     R"({"configurations": [{"name": "main", "config": [{"path": "relaxation", "default": "1"}]}]})";
 

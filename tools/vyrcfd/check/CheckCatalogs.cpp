@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <map>
 #include <set>
+#include <system_error>
 
 #include "ChoiceManager.h"
 #include "DocumentMessage.h"
@@ -14,23 +15,36 @@ namespace Tool
 {
 namespace
 {
-/// The catalogs in the installation's folders, by their names: of two of one name the first is found.
-std::map<std::string, std::string> InstalledCatalogs(const Installation& iInstallation)
+/// The catalogs in the installation's folders.
+struct InstalledCatalogs
+{
+    /// Files by the names of the catalogs: of two of one name the first is found.
+    std::map<std::string, std::string> files;
+    /// Folders that cannot be read, and why. One that is not there is none of them: not every folder has catalogs.
+    std::map<std::string, std::error_code> unreadable;
+};
+
+void AddFrom(const std::string& iFolder, InstalledCatalogs& ioCatalogs)
 {
     constexpr std::string_view suffix = ".catalog.json";
-    std::map<std::string, std::string> catalogs;
-    for (const std::string& folder : iInstallation.CatalogFolders())
+    std::error_code error;
+    std::filesystem::directory_iterator entry(iFolder, error);
+    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error))
     {
+        const std::string name = entry->path().filename().string();
         std::error_code ignored;
-        for (const auto& entry : std::filesystem::directory_iterator(folder, ignored))
-        {
-            const std::string name = entry.path().filename().string();
-            const bool isCatalog =
-                name.size() > suffix.size() && name.compare(name.size() - suffix.size(), suffix.size(), suffix) == 0;
-            if (isCatalog && entry.is_regular_file(ignored))
-                catalogs.try_emplace(name.substr(0, name.size() - suffix.size()), entry.path().string());
-        }
+        if (name.size() > suffix.size() && name.ends_with(suffix) && entry->is_regular_file(ignored))
+            ioCatalogs.files.try_emplace(name.substr(0, name.size() - suffix.size()), entry->path().string());
     }
+    if (error && error != std::errc::no_such_file_or_directory)
+        ioCatalogs.unreadable.emplace(iFolder, error);
+}
+
+InstalledCatalogs CatalogsOf(const Installation& iInstallation)
+{
+    InstalledCatalogs catalogs;
+    for (const std::string& folder : iInstallation.CatalogFolders())
+        AddFrom(folder, catalogs);
     return catalogs;
 }
 
@@ -82,7 +96,16 @@ CheckCatalogs::CheckCatalogs(const Installation& iInstallation, const std::vecto
             VYRStandalone::LoadCatalog(file, folders);
             names.emplace(SourceFile(file).Root().TextOf("catalog"));
         });
-    for (const auto& [name, file] : InstalledCatalogs(iInstallation))
+    const InstalledCatalogs installed = CatalogsOf(iInstallation);
+    for (const auto& [folder, error] : installed.unreadable)
+    {
+        m_haveFailed = true;
+        ioRun.Add(FindingIn(folder, {}, FindingKind::UnreadableFile, Severity::Error,
+                            "cannot be read: " + std::generic_category().message(error.value()) +
+                                "; as long as the catalogs in this folder are not read, nothing is checked against "
+                                "types"));
+    }
+    for (const auto& [name, file] : installed.files)
         if (names.count(name) == 0)
             Declared(file, ioRun, [&, &called = name] { DeclareInstalled(called, iInstallation); });
     // Now that all types are declared, and before anything is asked of an object.

@@ -42,6 +42,7 @@ void CheckTexts(CheckRun& ioRun)
     CheckConditionTexts(ioRun);
     CheckLists(ioRun);
     CheckPaths(ioRun);
+    AddUnusedWithoutCatalogs(ioRun);
 }
 
 void Check(const CommonOptions& iOptions, const CheckArguments& iArguments)
@@ -53,7 +54,8 @@ void Check(const CommonOptions& iOptions, const CheckArguments& iArguments)
     CheckRun run{source};
     CheckFiles(installation, run);
     const CheckCatalogs catalogs(installation, iArguments.catalogs, run);
-    run.isWhole = source.Unreadable().empty() && !catalogs.HaveFailed();
+    run.isWhole = source.Unreadable().empty() && !catalogs.HaveFailed() && !HasLostConfigurations(source);
+    run.hasCatalogs = !catalogs.Files().empty();
     CheckTexts(run);
     if (!catalogs.HaveFailed() && !catalogs.Files().empty())
         TypedCheck(run).Check(CatalogSource(installation, catalogs.Files()));

@@ -35,6 +35,12 @@ struct CheckRun
     std::set<std::string, std::less<>> wanted{};
     /// Whether any catalog says what is applied by itself.
     bool knowsWanted = false;
+    /// Whether there is any catalog at all. Where there is none, what nothing refers to is told of once, of all of them
+    /// together: which of them are applied by themselves is not known.
+    bool hasCatalogs = true;
+    std::vector<Finding> unused{};
+    /// Whether an item has lost the name of the configuration that it would apply, which may be any.
+    bool hasLostReference = false;
 
     void Add(Finding iFinding) { findings.Add(std::move(iFinding)); }
     /// The same, with what was probably meant. @return that; empty where nothing is like it
@@ -76,6 +82,12 @@ void CheckPaths(CheckRun& ioRun);
 
 /// Adds that nothing applies a configuration.
 void AddUnused(const SourceConfiguration& iConfiguration, const std::string& iWhy, CheckRun& ioRun);
+
+/// Adds the one finding for all that nothing applies where there are no catalogs.
+void AddUnusedWithoutCatalogs(CheckRun& ioRun);
+
+/// Whether a file holds configurations that are not read, since their key is misspelt or they are no array.
+bool HasLostConfigurations(const ConfigurationSource& iSource);
 
 /// How much of a path the cursor follows: it stops, without an error, at the first name that is empty.
 std::size_t EndOfNames(std::string_view iPath);

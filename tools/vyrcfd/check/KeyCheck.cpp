@@ -112,6 +112,17 @@ void CheckKeys(CheckRun& ioRun)
         check.CheckConfiguration(configuration);
 }
 
+bool HasLostConfigurations(const ConfigurationSource& iSource)
+{
+    const auto isLost = [](const SourceMember& iMember) {
+        return iMember.key == "configurations" ? !iMember.value->Is(Kind::Array)
+                                               : FileKeys().count(iMember.key) == 0 && iMember.value->Is(Kind::Array);
+    };
+    return std::any_of(iSource.Files().begin(), iSource.Files().end(), [&](const SourceFile& iFile) {
+        return std::any_of(iFile.Root().members.begin(), iFile.Root().members.end(), isLost);
+    });
+}
+
 bool HasWrongKey(const SourceValue& iItem)
 {
     const auto isWrong = [&](const SourceMember& iMember) {

@@ -18,6 +18,31 @@ std::vector<std::string> KnownNames(const ConfigurationSource& iSource)
     return names;
 }
 
+/// Whether an item has lost the name of the configuration that it is to apply.
+bool HasLostReference(const SourceItem& iItem)
+{
+    const SourceValue& value = iItem.value;
+    if (iItem.role != ItemRole::Nothing || !value.Is(SourceValue::Kind::Object))
+        return iItem.role == ItemRole::Nothing;
+    if (value.Has("config"))
+        return true;
+    const bool isForElse =
+        value.Has("default") || value.Has("value") || value.Has("Startups") || value.Has("defaultAutoKey");
+    return !isForElse && !HasWrongKey(value) && (!iItem.Text("path").empty() || !iItem.Text("condition").empty());
+}
+
+/// The name of a configuration that stands behind a misspelt key; null where there is none.
+const SourceValue* MisspeltName(const SourceConfiguration& iConfiguration)
+{
+    if (iConfiguration.value->Has("name"))
+        return nullptr;
+    for (const SourceMember& member : iConfiguration.value->members)
+        if (ConfigurationKeys().count(member.key) == 0 && member.value->Is(SourceValue::Kind::Text) &&
+            Nearest(member.key, {"name", "config"}) == "name")
+            return member.value;
+    return nullptr;
+}
+
 class NameCheck
 {
 public:
@@ -25,6 +50,9 @@ public:
         : m_run(ioRun), m_known(KnownNames(ioRun.source)), m_meant(VYRStandalone::MeantConfigurations())
     {
         m_run.knowsWanted = !m_meant.empty();
+        for (const SourceConfiguration& configuration : m_run.source.Configurations())
+            if (const SourceValue* name = MisspeltName(configuration))
+                m_misspelt.insert(name->text);
     }
 
     void Check()
@@ -56,6 +84,7 @@ private:
         for (const SourceItem& item : ItemsOf(iConfiguration))
         {
             CheckStrangeKeys(item);
+            m_run.hasLostReference = m_run.hasLostReference || HasLostReference(item);
             if (!Refers(item.role))
                 continue;
             const std::string_view name = item.Text("config");
@@ -82,7 +111,7 @@ private:
     /// The one that was probably meant is used, for what is not known.
     void AddUnknown(Finding iFinding, std::string_view iName)
     {
-        if (!m_run.isWhole)
+        if (!m_run.isWhole || m_misspelt.count(std::string(iName)) != 0)
             return;
         const std::string meant = m_run.Add(std::move(iFinding), iName, m_known);
         if (meant.empty())
@@ -93,10 +122,11 @@ private:
 
     void CheckName(const SourceConfiguration& iConfiguration)
     {
-        // What is no object, or has a name of the wrong kind, is told already.
+        // What is no object, or has a name of the wrong kind or behind a misspelt key, is told already.
         const SourceMember* name = iConfiguration.value->Find("name");
         const bool isTold = !iConfiguration.value->Is(SourceValue::Kind::Object) ||
-                            (name != nullptr && !name->value->Is(SourceValue::Kind::Text));
+                            (name != nullptr && !name->value->Is(SourceValue::Kind::Text)) ||
+                            MisspeltName(iConfiguration) != nullptr;
         if (isTold)
             return;
         if (iConfiguration.name.empty())
@@ -126,16 +156,36 @@ private:
     std::vector<std::string> m_known;
     std::vector<VYRStandalone::MeantConfiguration> m_meant;
     std::unordered_set<std::string> m_used;
+    /// Names that stand behind misspelt keys.
+    std::unordered_set<std::string> m_misspelt;
 };
 } // namespace
 
 /// As long as no catalog tells what is applied from outside, nothing can be held against it.
 void AddUnused(const SourceConfiguration& iConfiguration, const std::string& iWhy, CheckRun& ioRun)
 {
+    if (ioRun.hasLostReference)
+        return;
     const Severity severity = ioRun.knowsWanted ? Severity::Warning : Severity::Note;
     const char* const catalogs = ioRun.knowsWanted ? ", and no type of the catalogs lists it under \"configurations\""
                                                    : ", and no catalog says what is applied by itself";
-    ioRun.Add(FindingAt(iConfiguration, "name", FindingKind::UnusedConfig, severity, iWhy + catalogs));
+    Finding finding = FindingAt(iConfiguration, "name", FindingKind::UnusedConfig, severity, iWhy + catalogs);
+    if (ioRun.hasCatalogs)
+        ioRun.Add(std::move(finding));
+    else
+        ioRun.unused.push_back(std::move(finding));
+}
+
+void AddUnusedWithoutCatalogs(CheckRun& ioRun)
+{
+    if (ioRun.unused.empty())
+        return;
+    Finding finding = ioRun.unused.front();
+    for (auto other = ioRun.unused.begin() + 1; other != ioRun.unused.end(); ++other)
+        finding.related.push_back({other->file, other->position.line});
+    if (!finding.related.empty())
+        finding.message += "; the same holds for " + Counted(finding.related.size(), "other configuration");
+    ioRun.Add(std::move(finding));
 }
 
 void CheckNames(CheckRun& ioRun)

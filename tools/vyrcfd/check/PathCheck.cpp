@@ -17,7 +17,9 @@ void CheckName(const SourceItem& iItem, CheckRun& ioRun)
 {
     const std::string what = iItem.role == ItemRole::Values ? "a \"value\"" : "a \"default\"";
     const std::string_view path = iItem.Text("path");
-    if (path.empty() && !HasWrongKey(iItem.value))
+    // What seems to be an item for a Choice is told already.
+    const bool isTold = HasWrongKey(iItem.value) || !iItem.Text("Startups").empty();
+    if (path.empty() && !isTold)
         ioRun.Add(FindingAt(iItem, "path", FindingKind::PathNowhere, Severity::Error,
                             what + " is for an attribute, but the item has no \"path\": the configuration fails here"));
     else if (path.find('/') != std::string_view::npos)

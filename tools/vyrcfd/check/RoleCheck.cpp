@@ -78,6 +78,12 @@ void CheckUnread(const SourceItem& iItem, CheckRun& ioRun)
     {
         if (!Says(iItem, key) && !iItem.value.IsTrueAt(key))
             continue;
+        if (key == "Startups" && SetsDefault(iItem.role))
+        {
+            ioRun.Add(FindingAt(iItem, key, FindingKind::IgnoredKey, Severity::Error,
+                                "\"Startups\" belong to \"choices\", which are missing"));
+            continue;
+        }
         // Nothing reads the word for the type but people, and what it says may be right.
         const Severity severity = key == "type" ? Severity::Note : Severity::Warning;
         ioRun.Add(FindingAt(iItem, key, FindingKind::IgnoredKey, severity,
@@ -89,6 +95,22 @@ void CheckUnread(const SourceItem& iItem, CheckRun& ioRun)
                             "the configuration is applied to, and a record of its default under that path is lost; "
                             "reach one that lies deeper by an item with \"config\""));
 }
+
+/// An empty text counts as none, which its writer may not have meant.
+void CheckEmpty(const SourceItem& iItem, CheckRun& ioRun)
+{
+    const auto isEmpty = [&](const char* iKey) {
+        const SourceMember* member = iItem.value.Find(iKey);
+        return member != nullptr && member->value->Is(SourceValue::Kind::Text) && member->value->text.empty();
+    };
+    if (iItem.role == ItemRole::Nested && isEmpty("condition"))
+        ioRun.Add(FindingAt(iItem, "condition", FindingKind::BadCondition, Severity::Warning,
+                            "an empty \"condition\" counts as none: " + Quoted(iItem.Text("config")) +
+                                " is applied in any case"));
+    if (iItem.role == ItemRole::CustomDefault && isEmpty("defaultAutoKey"))
+        ioRun.Add(FindingAt(iItem, "defaultAutoKey", FindingKind::IgnoredKey, Severity::Warning,
+                            "an empty \"defaultAutoKey\" counts as none: the attribute is not made automatic"));
+}
 } // namespace
 
 void CheckRoles(CheckRun& ioRun)
@@ -96,6 +118,7 @@ void CheckRoles(CheckRun& ioRun)
     for (const SourceConfiguration& configuration : ioRun.source.Configurations())
         for (const SourceItem& item : ItemsOf(configuration))
         {
+            CheckEmpty(item, ioRun);
             const bool isIdle = item.role == ItemRole::ValueWithoutList || item.role == ItemRole::Nothing;
             if (!isIdle)
                 CheckUnread(item, ioRun);
