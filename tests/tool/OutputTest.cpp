@@ -82,6 +82,16 @@ TEST_F(ToolTest, Colour_IsForTerminalsOnly_AndNotWithNoColor)
     EXPECT_NE(plain.output, "");
 }
 
+TEST_F(ToolTest, Colour_IsNotForDumbTerminals)
+{
+    ToolSettings terminal{m_folder.Path()};
+    terminal.terminal = true;
+    terminal.environment["TERM"] = "dumb";
+    const ToolRun plain = Run({"apply", External, "Solver.1", "externalFlow"}, terminal);
+    EXPECT_FALSE(IsColoured(plain.output));
+    EXPECT_NE(plain.output, "");
+}
+
 TEST_F(ToolTest, Traces_GoToStandardError)
 {
     ToolSettings traced{m_folder.Path()};

@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <string_view>
 #include <system_error>
 #include <unistd.h>
 
@@ -31,7 +32,9 @@ void PrintError(const std::string& iLine)
 Colours::Colours()
 {
     const char* refused = std::getenv("NO_COLOR");
-    m_on = (refused == nullptr || *refused == '\0') && isatty(STDOUT_FILENO) == 1;
+    const char* terminal = std::getenv("TERM");
+    const bool isDumb = terminal != nullptr && std::string_view(terminal) == "dumb";
+    m_on = (refused == nullptr || *refused == '\0') && !isDumb && isatty(STDOUT_FILENO) == 1;
 }
 
 std::string Colours::Wrapped(const char* iCode, const std::string& iText) const

@@ -18,8 +18,8 @@ void Print(const std::string& iText);
 /// Writes a line to standard error.
 void PrintError(const std::string& iLine);
 
-/// Marks words of a text that goes to a terminal; everywhere else, and where the variable NO_COLOR is set to something,
-/// the words stay as they are.
+/// Marks words of a text that goes to a terminal; everywhere else, where the variable NO_COLOR is set to something, and
+/// where TERM is "dumb", the words stay as they are.
 class Colours
 {
 public:
