@@ -143,6 +143,53 @@ const ScriptRun AttributeScripts[] = {
      "0.1 (custom default)\n"
      "Case.1  Case\n    relaxation: 0.5 -> 0.1, no longer set\n",
      ""},
+    {"CustomDefaultExplained", Small, "default Case.1/tolerance 1e-5\nexplain Case.1/tolerance\n",
+     "Case.1  Case\n    tolerance: 1e-08 -> 1e-05\n"
+     "Case.1/tolerance  real\n"
+     "    value           1e-05\n"
+     "    set             no\n"
+     "    auto            no flag\n"
+     "    comes from      its default, by the custom default\n"
+     "\n"
+     "  > custom default  1e-05\n"
+     "    record          1e-08, passed over  (1. tolerance: default \"1e-8\")\n"
+     "                        cavity, item 6  samples/reffiles/VYRCfdApp/conditionsConfig_Flow.json:11:9\n"
+     "    start-up        1e-06  ([Case])\n"
+     "                        declared by Case in the catalog Small  Small.catalog.json:27:9\n"
+     "                        value given by Case in the catalog Small  Small.catalog.json:27:59\n"
+     "\n"
+     "    after unset     1e-05, by the custom default\n",
+     ""},
+    {"SetValueAboveACustomDefaultExplained", Small, "default Case.1/relaxation 0.1\nexplain Case.1/relaxation\n",
+     "Case.1/relaxation  real\n"
+     "    value           0.5\n"
+     "    set             yes\n"
+     "    auto            no flag\n"
+     "    comes from      set on purpose\n"
+     "\n"
+     "  > custom default  0.1\n"
+     "    record          none\n"
+     "    start-up        0.7  ([Case])\n"
+     "                        declared by Case in the catalog Small  Small.catalog.json:26:9\n"
+     "                        value given by Case in the catalog Small  Small.catalog.json:26:60\n"
+     "\n"
+     "    after unset     0.1, by the custom default\n",
+     ""},
+    {"NoCustomDefaultExplained", Small, "explain Case.1/scheme\n",
+     "Case.1/scheme  enumeration\n"
+     "    value           central\n"
+     "    set             no\n"
+     "    auto            no flag\n"
+     "    comes from      none of its defaults, and it is not set\n"
+     "\n"
+     "    custom default  none\n"
+     "    record          none\n"
+     "  > start-up        upwind  ([Case])\n"
+     "                        declared by Case in the catalog Small  Small.catalog.json:29:9\n"
+     "                        value given by Case in the catalog Small  Small.catalog.json:29:96\n"
+     "\n"
+     "    after unset     upwind, by the start-up\n",
+     ""},
     {"DefaultOfAChoiceGiven", Flow, "default \"Flow 2/turbulence/value\" kOmega\ndefault \"Flow 2/turbulence/value\"\n",
      "Flow 2/turbulence  TurbulenceChoice\n"
      "    value: \"laminar\" -> \"kOmega\"\n"
@@ -291,6 +338,13 @@ const FailingScript FailingCases[] = {
     {"UnknownCommandLikeNone", Small, "reticulate", "no command \"reticulate\""},
     {"TooFewArguments", Small, "set Case.1/title", "usage: set PATH VALUE"},
     {"TooManyArguments", Small, "ls Case.1 Mesh", "usage: ls [PATH]"},
+    {"ValueOfSeveralWords", Small, "set Case.1/relaxation 3000 rpm",
+     "usage: set PATH VALUE; what has blanks in it stands in double quotes, as \"3000 rpm\""},
+    {"ConditionOfSeveralWords", Small, "test Case.1 iterations > 100",
+     "usage: test [PATH] CONDITION; what has blanks in it stands in double quotes, as \"iterations > 100\""},
+    {"ExplainedObject", Small, "explain Case.1", "\"Case.1\" is an object, no attribute"},
+    {"ExplainedDefaultManagement", Small, "explain Case.1/defaultManagement",
+     "\"Case.1/defaultManagement\" holds the flags and the records of attributes, and has no default of its own"},
     {"RepeatedArgumentMissing", Flow, "prohibit Flow.1/solver", "usage: prohibit PATH CHOICE..."},
     {"ListOfNothing", Small, "ls Case.2", "no top-level object \"Case.2\"; did you mean \"Case.1\"?"},
     {"RecordsOfAttribute", Small, "records Case.1/title", "\"Case.1/title\" is an attribute, no object"},
@@ -371,6 +425,7 @@ TEST_F(ShellTest, Help_ListsEveryCommand)
                                 "prohibit PATH CHOICE...",
                                 "allow PATH CHOICE...",
                                 "reset PATH [keep]",
+                                "explain PATH",
                                 "isset PATH",
                                 "new TYPE [NAME]",
                                 "insert PATH ENTRY [POSITION]",
@@ -429,7 +484,7 @@ TEST_F(ShellTest, Questions_LeaveNothingInTheModel)
             Flow,
             "ls Flow.1\nls Flow.1/turbulence\nget Flow.1/speed\ndefault Flow.1/speed\n"
             "auto Flow.1/speed\nisset Flow.1/speed\ntest Flow.1 speed>1\nrecords Flow.1\nchoices Flow.1/turbulence\n"
-            "errors\nhelp\nsave asked.model.json\n")),
+            "explain Flow.1/speed\nexplain Flow.1/turbulence/value\nerrors\nhelp\nsave asked.model.json\n")),
         Outcome(0, ""));
     EXPECT_EQ(Read("asked.model.json"), Read("plain.model.json"));
 }

@@ -108,6 +108,24 @@ TEST_F(ShellJsonTest, Reports_StandWithTheirCommand)
     EXPECT_EQ(run.output.substr(first.size()), Line("errors", "[" + assertion + "]"));
 }
 
+TEST_F(ShellJsonTest, Explanations_AreThoseOfTheCommand_WithTheCustomDefault)
+{
+    const ToolRun run = Json(Small, "default Case.1/relaxation 0.1\nexplain Case.1/relaxation\n");
+    EXPECT_EQ(Outcome(run), Outcome(0, ""));
+    const std::string place = "{\"catalog\": \"Small\", \"type\": \"Case\", \"file\": \"Small.catalog.json\", "
+                              "\"line\": 26, \"column\": ";
+    EXPECT_EQ(run.output,
+              Line("default Case.1/relaxation 0.1", "[]") +
+                  Line("explain Case.1/relaxation",
+                       "{\"path\": \"Case.1/relaxation\", \"object\": \"Case.1\", \"attribute\": \"relaxation\", "
+                       "\"kind\": \"real\", \"optional\": false, \"value\": 0.5, \"set\": true, \"auto\": null, "
+                       "\"source\": \"set\", \"ladder\": {\"customDefault\": 0.1, \"records\": [], \"prototype\": "
+                       "{\"path\": \"[Case]\", \"value\": 0.7, \"declaredBy\": \"Case\", \"declarations\": [" +
+                           place + "9}], \"values\": [" + place +
+                           "60}]}}, \"winner\": \"custom default\", \"afterUnset\": {\"value\": 0.1, \"set\": "
+                           "false, \"auto\": null}}"));
+}
+
 TEST_F(ShellJsonTest, Failures_AreAnsweredToo_AndNamedOnStandardErrorWithTheirPlace)
 {
     const std::string script = "apply Mesh cavity\nget \"open\nget Case.1/relaxation\n";

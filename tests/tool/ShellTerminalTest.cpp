@@ -173,6 +173,9 @@ const CompletedLine Completed[] = {
     {"ValueOfAChoice", "set Flow.1/turbulence/value spal\t", "    value: \"kOmega\" -> \"spalart\"\n"},
     {"ValueOfAnObjectAttribute", "set Flow.1/energy/Data Flow.1/turbulence/Da\t",
      "Data: (empty) -> Flow.1/energy/Data"},
+    {"PathOfAChoiceEndsTheWord", "choose Flow.1/turb\tspalart", "    + SpalartModel\n"},
+    {"PathOfAnObjectAlone", "apply Flow.1/so\t directl\t", "    + record value: default \"direct\"\n"},
+    {"PathThatIsExplained", "explain Flow.1/sp\t", "Flow.1/speed  real\n"},
     {"File", "save fl\t", "Saved flow.model.json."},
 };
 INSTANTIATE_TEST_SUITE_P(Terminal, CompletedLines, testing::ValuesIn(Completed),
@@ -194,5 +197,16 @@ TEST_F(ShellTest, Completion_ListsWhatIsPossible_AndChangesNothing)
     EXPECT_EQ(Outcome(run), Outcome(0, "\a"));
     EXPECT_TRUE(Contains(run.output, "Flow.1/solver")) << run.output;
     EXPECT_TRUE(Contains(run.output, "Flow.1/speed")) << run.output;
+}
+
+TEST_F(ShellTest, Completion_OffersObjectsAlone_WhereOneIsConfigured)
+{
+    for (const char* command : {"apply", "records", "choose"})
+    {
+        const ToolRun run = Session(Flow, {std::string(command) + " Flow.1/\t\t\x15quit\r"});
+        EXPECT_TRUE(Contains(run.output, "Flow.1/solver")) << run.output;
+        EXPECT_TRUE(Contains(run.output, "Flow.1/turbulence")) << run.output;
+        EXPECT_FALSE(Contains(run.output, "Flow.1/speed")) << run.output;
+    }
 }
 } // namespace

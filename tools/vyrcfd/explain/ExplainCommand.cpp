@@ -1,12 +1,11 @@
-#include <algorithm>
 #include <memory>
+#include <optional>
 
 #include "Command.h"
 #include "Explanation.h"
-#include "Failure.h"
-#include "ModelSurvey.h"
 #include "ObjectPath.h"
 #include "Output.h"
+#include "Progress.h"
 #include "Wording.h"
 
 namespace Tool
@@ -19,37 +18,20 @@ struct ExplainArguments
     std::string path;
 };
 
-Explanation ExplanationOf(const VYRStandalone::Model& iModel, const ExplainArguments& iArguments)
-{
-    const Target target = FollowToAttribute(iModel, iArguments.model, iArguments.path);
-    ObjectSnapshot object = TakeSnapshot(iModel, target.object, {}).front();
-    if (object.path.empty())
-        object.path = iArguments.path.substr(0, iArguments.path.rfind('/'));
-    const auto attribute =
-        std::find_if(object.attributes.begin(), object.attributes.end(),
-                     [&](const AttributeSnapshot& iOne) { return iOne.info.name == target.attribute; });
-    // Default management of the object is not among what it manages.
-    if (attribute == object.attributes.end())
-        throw Failure(OneLine(iArguments.model) + ": " + Quoted(iArguments.path) +
-                      " holds the flags and the records of attributes, and has no default of its own");
-    Explanation explanation{iArguments.path, object.path, *attribute, std::nullopt, std::nullopt};
-    if (IsManaged(target.object))
-    {
-        explanation.ladder = LadderOf(iModel, iArguments.path);
-        explanation.unsetting = TryUnset(iModel, iArguments.path);
-    }
-    return explanation;
-}
-
 void Explain(const CommonOptions& iOptions, const ExplainArguments& iArguments)
 {
     const Installation installation(iOptions);
     const VYRStandalone::Model model = installation.LoadModel(iArguments.model);
-    const Explanation explanation = ExplanationOf(model, iArguments);
+    std::optional<Progress> progress;
+    progress.emplace("Explaining " + OneLine(iArguments.path));
+    const Explanation explanation = ExplainAttribute(model, iArguments.model, iArguments.path, ModelOrigin::File);
     const ConfigurationSource configurations(installation);
     const CatalogSource catalogs(installation, iArguments.model);
     const ExplanationSources sources{configurations, catalogs};
-    Print(iOptions.json ? ExplanationJson(explanation, sources) : ExplanationText(explanation, sources));
+    const std::string text =
+        iOptions.json ? ExplanationJson(explanation, sources) : ExplanationText(explanation, sources);
+    progress.reset();
+    Print(text);
 }
 } // namespace
 

@@ -62,7 +62,16 @@ std::string ComesFrom(const AttributeSnapshot& iAttribute, const Ladder& iLadder
     return "its default, by the " + source;
 }
 
-/// All rungs but the start-up, which alone cannot be passed over for want of a value.
+std::string CustomDefaultText(const Explanation& iExplanation, const Colours& iColours)
+{
+    if (const std::optional<Value>& custom = iExplanation.ladder->customDefault; custom)
+        return Line("custom default", iColours.Added(custom->Shown()), true);
+    return Line("custom default", iExplanation.origin == ModelOrigin::Session
+                                      ? "none"
+                                      : "none: it lives in memory only, and the model comes from a file");
+}
+
+/// The records, which alone cannot be passed over for want of a value.
 std::string RecordsText(const Ladder& iLadder, const ConfigurationSource& iSource, const Colours& iColours)
 {
     if (iLadder.records.empty())
@@ -70,7 +79,7 @@ std::string RecordsText(const Ladder& iLadder, const ConfigurationSource& iSourc
     std::string text;
     for (const RecordRung& rung : iLadder.records)
     {
-        const bool counts = &rung == &iLadder.records.front();
+        const bool counts = !iLadder.customDefault && &rung == &iLadder.records.front();
         const std::string about = std::to_string(rung.position) + ". " + rung.record.Shown();
         text += Line("record",
                      (counts ? iColours.Added(rung.value.Shown()) : rung.value.Shown() + ", passed over") + "  (" +
@@ -121,7 +130,7 @@ std::string PrototypeText(const Explanation& iExplanation, const CatalogSource& 
     const Ladder& ladder = *iExplanation.ladder;
     if (!ladder.prototype)
         return WithoutPrototypeText(iExplanation, iCatalogs);
-    const bool counts = ladder.isFound && ladder.byDefault.origin != DefaultOrigin::Record;
+    const bool counts = ladder.isFound && !ladder.customDefault && ladder.byDefault.origin != DefaultOrigin::Record;
     const std::string value = ladder.prototype->value.Shown();
     std::string text = Line(
         "start-up", (counts ? iColours.Added(value) : value) + "  (" + OneLine(ladder.prototype->path) + ")", counts);
@@ -149,6 +158,8 @@ std::string UnsettingText(const Explanation& iExplanation, const Colours& iColou
     std::string text = after.value.Shown();
     if (!ladder.isFound)
         text += ", as before: it has no default";
+    else if (ladder.customDefault)
+        text += ", by the custom default";
     else if (ladder.byDefault.origin == DefaultOrigin::Record)
         text += ", by the record";
     else
@@ -173,7 +184,7 @@ std::string ExplanationText(const Explanation& iExplanation, const ExplanationSo
     text += Line("set", attribute.set.value_or(false) ? "yes" : "no");
     text += Line("auto", !attribute.automatic ? "no flag" : *attribute.automatic ? "on" : "off");
     text += Line("comes from", ComesFrom(attribute, *iExplanation.ladder)) + "\n";
-    text += Line("custom default", "none: it lives in memory only, and the model comes from a file");
+    text += CustomDefaultText(iExplanation, colours);
     text += RecordsText(*iExplanation.ladder, iSources.configurations, colours);
     text += PrototypeText(iExplanation, iSources.catalogs, colours) + "\n";
     return text + UnsettingText(iExplanation, colours);

@@ -15,6 +15,14 @@
 
 namespace Tool
 {
+enum class ModelOrigin
+{
+    /// As it was read, without custom defaults.
+    File,
+    /// One that has been worked with.
+    Session
+};
+
 struct Explanation
 {
     /// As the user has named it.
@@ -25,7 +33,16 @@ struct Explanation
     /// Nothing for an attribute of an object without default management: it has no defaults, and nothing unsets it.
     std::optional<Ladder> ladder;
     std::optional<Unsetting> unsetting;
+    ModelOrigin origin = ModelOrigin::File;
 };
+
+/**
+ * Changes nothing in the model, and takes the reports of the questions away.
+ * @param iPlace in front of messages, as the model's file; empty for none
+ * @throws Failure for a path that leads to no attribute, and where default management ends fatally
+ */
+Explanation ExplainAttribute(const VYRStandalone::Model& iModel, const std::string& iPlace, const std::string& iPath,
+                             ModelOrigin iOrigin);
 
 /// Where the places that an explanation names are written.
 struct ExplanationSources

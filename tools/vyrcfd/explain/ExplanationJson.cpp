@@ -95,7 +95,7 @@ void WriteLadder(JsonWriter& oWriter, const Explanation& iExplanation, const Exp
     }
     oWriter.StartObject();
     WriteKey(oWriter, "customDefault");
-    oWriter.Null();
+    iExplanation.ladder->customDefault.value_or(Value()).Write(oWriter);
     WriteKey(oWriter, "records");
     oWriter.StartArray();
     for (const RecordRung& rung : iExplanation.ladder->records)
@@ -110,6 +110,8 @@ const char* WinnerText(const std::optional<Ladder>& iLadder)
 {
     if (!iLadder || !iLadder->isFound)
         return OriginText(DefaultOrigin::None);
+    if (iLadder->customDefault)
+        return OriginText(DefaultOrigin::CustomDefault);
     return OriginText(iLadder->byDefault.origin == DefaultOrigin::Record ? DefaultOrigin::Record
                                                                          : DefaultOrigin::Startup);
 }

@@ -125,7 +125,8 @@ bool IsManaged(const ORXISpecObject_var& iObject)
     return !!VYRIMpaDefaultManagementProtected_var(iObject) && !!ModelSurvey::DefaultManagementOf(iObject);
 }
 
-Ladder LadderOf(const VYRStandalone::Model& iModel, const std::string& iPath)
+Ladder LadderOf(const VYRStandalone::Model& iModel, const std::string& iPath,
+                const std::optional<Value>& iCustomDefault)
 {
     Ladder ladder;
     const Copy asked(iModel, iPath);
@@ -138,15 +139,29 @@ Ladder LadderOf(const VYRStandalone::Model& iModel, const std::string& iPath)
         ladder.records = RungsOf(tried);
         ladder.prototype = PrototypeOf(asked);
     });
+    if (iCustomDefault)
+    {
+        ladder.customDefault = iCustomDefault;
+        ladder.byDefault = {*iCustomDefault, DefaultOrigin::CustomDefault};
+        ladder.isFound = true;
+    }
     return ladder;
 }
 
-Unsetting TryUnset(const VYRStandalone::Model& iModel, const std::string& iPath)
+Unsetting TryUnset(const VYRStandalone::Model& iModel, const std::string& iPath,
+                   const std::optional<Value>& iCustomDefault)
 {
     Unsetting unsetting;
     const Copy copy(iModel, iPath);
     copy.Run([&] {
         unsetting.before = TakeSnapshot(copy.Model());
+        if (iCustomDefault)
+        {
+            const bool isText = iCustomDefault->GetKind() == Value::Kind::String;
+            const std::string value = isText ? iCustomDefault->Text() : iCustomDefault->Shown();
+            ORXUnicodeString text(value.data(), value.size());
+            copy.Management()->SetCustomDefault(copy.Name(), text);
+        }
         copy.Management()->Unset(copy.Name());
         unsetting.after = TakeSnapshot(copy.Model());
     });

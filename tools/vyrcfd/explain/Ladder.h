@@ -54,7 +54,9 @@ struct Unsetting
 
 struct Ladder
 {
-    /// Those that give a default, in their order: the first one counts.
+    /// The top rung, which counts wherever there is one.
+    std::optional<Value> customDefault;
+    /// Those that give a default, in their order: without a custom default the first one counts.
     std::vector<RecordRung> records;
     std::optional<PrototypeRung> prototype;
     /// What default management takes, and from where.
@@ -68,14 +70,17 @@ bool IsManaged(const ORXISpecObject_var& iObject);
 
 /**
  * Asks default management, on copies of the model, so that nothing is left behind in it. Custom defaults live in memory
- * only, so that a model which was loaded has none.
+ * only, so that copies have none but the one that is given.
  * @param iPath leads to an attribute of an object with default management
+ * @param iCustomDefault what the attribute has in the model
  * @throws Failure where default management ends fatally, as on an empty entry among the records
  */
-Ladder LadderOf(const VYRStandalone::Model& iModel, const std::string& iPath);
+Ladder LadderOf(const VYRStandalone::Model& iModel, const std::string& iPath,
+                const std::optional<Value>& iCustomDefault);
 
 /// Likewise.
-Unsetting TryUnset(const VYRStandalone::Model& iModel, const std::string& iPath);
+Unsetting TryUnset(const VYRStandalone::Model& iModel, const std::string& iPath,
+                   const std::optional<Value>& iCustomDefault);
 } // namespace Tool
 
 #endif

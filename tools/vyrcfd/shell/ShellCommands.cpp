@@ -15,6 +15,19 @@ std::vector<std::string> UsageWords(const ShellCommand& iCommand)
 {
     return SplitWords(iCommand.usage);
 }
+
+/// For a value or a condition that was typed as several words.
+std::string QuotationHint(const ShellCommand& iCommand, const ShellArguments& iArguments)
+{
+    const std::vector<std::string> names = iCommand.ArgumentNames();
+    if (iArguments.size() <= names.size() || (names.back() != "VALUE" && names.back() != "CONDITION"))
+        return {};
+    const std::size_t first = names.size() - 1;
+    std::string words;
+    for (std::size_t i = first; i < iArguments.size(); ++i)
+        words += (i == first ? "" : " ") + iArguments[i];
+    return "; what has blanks in it stands in double quotes, as " + AsWord(words);
+}
 } // namespace
 
 const std::vector<ShellCommand>& ShellCommands()
@@ -30,6 +43,12 @@ const std::vector<ShellCommand>& ShellCommands()
         {"default PATH [VALUE]", "the default of an attribute; with a value, gives it a default of its own",
          "default Solver.1/iterations 500", "A default of its own, a custom default, is not saved with the model.",
          &ShellDefault},
+        {"explain PATH", "where the value of an attribute comes from, and what would replace it",
+         "explain Solver.1/iterations",
+         "The whole ladder of its defaults, with \">\" at the rung that counts: a custom default, the records\n"
+         "about the attribute, the start-up; and what unset would do. With --json it answers as\n"
+         "vyrcfd explain --json does, with \"custom default\" as another \"winner\".",
+         &ShellExplain},
         {"isset PATH", "whether an attribute was given its value on purpose", "isset Solver.1/iterations", "",
          &ShellIsSet},
         {"auto PATH [on|off]", "the auto flag of an attribute; with on or off, writes it",
@@ -121,7 +140,7 @@ void RunShellCommand(ShellSession& ioSession, const std::vector<std::string>& iW
         throw Failure("no command " + Quoted(iWords.front()) + DidYouMean(iWords.front(), ShellCommandNames()));
     const ShellArguments arguments(iWords.begin() + 1, iWords.end());
     if (!command->Takes(arguments.size()))
-        throw Failure(std::string("usage: ") + command->usage);
+        throw Failure(std::string("usage: ") + command->usage + QuotationHint(*command, arguments));
     command->run(ioSession, arguments);
 }
 } // namespace Tool

@@ -53,6 +53,7 @@ void ShellApply(ShellSession& ioSession, const ShellArguments& iArguments);
 
 void ShellGet(ShellSession& ioSession, const ShellArguments& iArguments);
 void ShellSet(ShellSession& ioSession, const ShellArguments& iArguments);
+void ShellExplain(ShellSession& ioSession, const ShellArguments& iArguments);
 void ShellUnset(ShellSession& ioSession, const ShellArguments& iArguments);
 void ShellDefault(ShellSession& ioSession, const ShellArguments& iArguments);
 void ShellIsSet(ShellSession& ioSession, const ShellArguments& iArguments);

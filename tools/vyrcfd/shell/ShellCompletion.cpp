@@ -25,6 +25,20 @@ std::vector<Completion> Plain(const std::vector<std::string>& iTexts)
     return completions;
 }
 
+bool TakesChoice(const std::string& iCommand)
+{
+    for (const char* name : {"choices", "choose", "prohibit", "allow", "reset"})
+        if (iCommand == name)
+            return true;
+    return false;
+}
+
+/// Whether the path that the command begins with is that of an object.
+bool TakesObject(const std::string& iCommand)
+{
+    return iCommand == "apply" || iCommand == "records" || TakesChoice(iCommand);
+}
+
 /// Words that stand in the usage line as they are to be typed.
 std::vector<std::string> Alternatives(const std::string& iArgument)
 {
@@ -54,6 +68,8 @@ Completions ShellCompletion::Of(std::string_view iLine, std::size_t iStart, cons
         }
     }
     std::erase_if(completions.candidates, [&](const Completion& iOne) { return !iOne.text.starts_with(iWord); });
+    if (!before.empty())
+        SettlePath(before.front(), completions.candidates);
     VYRStandalone::TakeReports();
     return completions;
 }
@@ -62,7 +78,12 @@ std::vector<Completion> ShellCompletion::Meanings(const std::string& iArgument, 
                                                   const std::string& iWord)
 {
     if (iArgument == "PATH")
-        return Paths(iWord);
+    {
+        std::vector<Completion> paths = Paths(iWord);
+        if (TakesObject(iBefore[0]))
+            std::erase_if(paths, [](const Completion& iOne) { return !iOne.leadsOn; });
+        return paths;
+    }
     if (iArgument == "CHOICE")
         return Choices(iBefore[0], m_session.Object(iBefore[1]));
     if (iArgument == "CONFIG")
@@ -76,6 +97,24 @@ std::vector<Completion> ShellCompletion::Meanings(const std::string& iArgument, 
     const bool isFree =
         iArgument == "CONDITION" || iArgument == "FILE" || iArgument == "NAME" || iArgument == "POSITION";
     return isFree ? std::vector<Completion>() : Plain(Alternatives(iArgument));
+}
+
+void ShellCompletion::SettlePath(const std::string& iCommand, std::vector<Completion>& ioCandidates) const
+{
+    // Behind a Choice comes what is to be done with it; what it owns is no Choice as a rule.
+    const bool isPath = ioCandidates.size() == 1 && ioCandidates.front().leadsOn && TakesChoice(iCommand);
+    if (!isPath)
+        return;
+    Completion& path = ioCandidates.front();
+    try
+    {
+        path.leadsOn = !VYRICfdChoice_var(m_session.Object(path.text));
+    }
+    catch (const Failure&)
+    {
+        // A list, or an attribute that holds no object now.
+        return;
+    }
 }
 
 std::vector<Completion> ShellCompletion::Values(const std::string& iPath, const std::string& iWord) const

@@ -26,6 +26,8 @@ private:
     /// Values of an attribute of which there are but a few; objects for one that holds objects.
     std::vector<Completion> Values(const std::string& iPath, const std::string& iWord) const;
     std::vector<Completion> Paths(const std::string& iWord) const;
+    /// Ends the one path that is left where no "/" is to be expected behind it.
+    void SettlePath(const std::string& iCommand, std::vector<Completion>& ioCandidates) const;
     std::vector<Completion> Choices(const std::string& iCommand, const ORXISpecObject_var& iObject) const;
 
     ShellSession& m_session;

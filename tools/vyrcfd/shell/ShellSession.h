@@ -34,6 +34,9 @@ public:
     ShellSession(Installation iInstallation, std::string iFile);
 
     const VYRStandalone::Model& Model() const noexcept { return m_model; }
+    const Installation& UsedInstallation() const noexcept { return m_installation; }
+    /// The model's own, which it was read from.
+    const std::string& File() const noexcept { return m_file; }
     ShellReports& Reports() noexcept { return m_reports; }
 
     /// Begins a command. @param iCommand its words, as undo names it
