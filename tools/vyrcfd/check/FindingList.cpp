@@ -35,6 +35,19 @@ void FindingList::Add(Finding iFinding)
         m_findings.push_back(std::move(iFinding));
 }
 
+void FindingList::Raise(const Finding& iFinding)
+{
+    // Of one kind only, since each call looks through all findings.
+    if (iFinding.kind != FindingKind::BlankInList)
+        return;
+    for (Finding& known : m_findings)
+        if (IdentityOf(known) == IdentityOf(iFinding) && iFinding.severity < known.severity)
+        {
+            known.severity = iFinding.severity;
+            known.message = Shortened(iFinding.message);
+        }
+}
+
 bool FindingList::Has(const Finding& iFinding) const
 {
     return m_known.count(IdentityOf(iFinding)) != 0;

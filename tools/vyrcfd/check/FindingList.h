@@ -23,6 +23,8 @@ public:
     const std::vector<Finding>& All() const noexcept { return m_findings; }
     std::size_t Count(Severity iSeverity) const;
 
+    /// Of a list with an empty entry that is known: takes over what is worse, as it turned out on an object.
+    void Raise(const Finding& iFinding);
     /// Whether there is a finding of the kind at the same place, under the same key.
     bool Has(const Finding& iFinding) const;
 

@@ -33,7 +33,11 @@ void TryManager(const SourceItem& iItem, const Trial& iTrial, const VYRICfdChoic
     for (const ORXUnicodeString& choice : all)
         declared.emplace_back(choice.View());
     for (const std::string& choice : SplitTexts(iItem.Text("choices")))
-        if (!Holds(declared, choice))
+        if (choice.empty() && !Holds(declared, choice))
+            return AddFailed(iItem, iTrial, "choices", FindingKind::BlankInList,
+                             "an entry of \"choices\" is empty, and is none of the choices that are declared",
+                             oFindings);
+        else if (!Holds(declared, choice))
         {
             AddFailed(iItem, iTrial, "choices", FindingKind::DefaultNotInChoices,
                       "the choice " + Quoted(choice) + " is none of those that are declared", oFindings);

@@ -24,7 +24,8 @@ void Suggestions::Complete(Finding& ioFinding, std::string_view iUnknown, const 
         return;
     m_comparisonsLeft -= iKnown.size();
     ioFinding.suggestion = Nearest(iUnknown, iKnown);
-    if (ioFinding.suggestion.empty())
+    // Choices are few, and the one that is alike need not be the one that is meant.
+    if (ioFinding.suggestion.empty() || ioFinding.kind == FindingKind::DefaultNotInChoices)
         ioFinding.message += "; there " + std::string(iKnown.size() == 1 ? "is " : "are ") + Listed(iKnown);
 }
 } // namespace Tool

@@ -315,7 +315,9 @@ void TypedCheck::CheckTypeNames()
 void TypedCheck::Report(TrialFindings iFindings)
 {
     for (TrialFinding& one : iFindings)
-        if (!m_run.findings.Has(one.finding))
+        if (m_run.findings.Has(one.finding))
+            m_run.findings.Raise(one.finding);
+        else
             m_run.Add(std::move(one.finding), one.unknown,
                       one.unknown.empty() ? std::vector<std::string>() : one.known);
 }
