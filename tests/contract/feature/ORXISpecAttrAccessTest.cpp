@@ -5,19 +5,11 @@
  */
 
 #include "ContractTest.h"
+#include "ForeignKey.h"
 #include "ORXICkeParm.h"
 
 namespace
 {
-/// A key that is not the host's, though it says that it stands for "ratio".
-class ForeignKey : public ORXISpecAttrKey
-{
-public:
-    int GetListType() override { return 0; }
-    int GetType() override { return tk_double; }
-    ORXUnicodeString GetName() override { return "ratio"; }
-};
-
 class AttrAccess : public ContractTest
 {
 protected:

@@ -11,18 +11,10 @@
 #include <limits>
 
 #include "ContractTest.h"
+#include "ForeignKey.h"
 
 namespace
 {
-/// A key that is not the host's, though it says that it stands for "ratio".
-class ForeignKey : public ORXISpecAttrKey
-{
-public:
-    int GetListType() override { return 0; }
-    int GetType() override { return tk_double; }
-    ORXUnicodeString GetName() override { return "ratio"; }
-};
-
 /// Where a step has led, with its references.
 struct Place
 {
