@@ -118,6 +118,23 @@ class RobustnessTest(unittest.TestCase):
         self.assertEqual((lines[0], lines[-1]), ("", ""))
         self.assertEqual(lines[1:-1], [f"Loading {self.folder}/slow.model.json ...{beat}" for beat in ["", " 1 s"]])
 
+    def test_a_command_of_the_shell_that_takes_long_is_told_of(self):
+        file = large_model(self.folder, 12000)
+        reader, writer = pty.openpty()
+        process = subprocess.Popen([TOOL, "shell", file], stdin=subprocess.PIPE, stdout=subprocess.DEVNULL, stderr=writer)
+        os.close(writer)
+        process.stdin.write(b"apply Solver.1 externalFlow\nundo\n")
+        process.stdin.close()
+        shown = b""
+        while True:
+            try:
+                shown += os.read(reader, 4096)
+            except OSError:
+                break
+        os.close(reader)
+        self.assertEqual(process.wait(30), 0)
+        self.assertIn(b"\r\x1b[Kapply Solver.1 externalFlow ...", shown)
+
     def test_short_work_is_not_told_of(self):
         self.assertEqual(self.shown_while_waiting(0.1), ("", 0))
 

@@ -1,6 +1,7 @@
 #include "Progress.h"
 
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <system_error>
 #include <unistd.h>
@@ -24,6 +25,11 @@ Progress::Progress(std::string iWork) : m_work(std::move(iWork))
 {
     if (isatty(STDERR_FILENO) == 0)
         return;
+    // The thread takes no signals: who holds an interrupt back while it saves does so for its own thread alone.
+    sigset_t all;
+    sigset_t before;
+    sigfillset(&all);
+    pthread_sigmask(SIG_SETMASK, &all, &before);
     try
     {
         m_thread = std::thread([this] { Show(); });
@@ -32,6 +38,7 @@ Progress::Progress(std::string iWork) : m_work(std::move(iWork))
     {
         // Without a thread to spare the work is done in silence.
     }
+    pthread_sigmask(SIG_SETMASK, &before, nullptr);
 }
 
 Progress::~Progress()

@@ -3,6 +3,7 @@
 #include "Failure.h"
 #include "Outcome.h"
 #include "Output.h"
+#include "Progress.h"
 #include "ShellCommands.h"
 #include "ShellWords.h"
 #include "VYRStandaloneErrors.h"
@@ -48,6 +49,7 @@ std::optional<Outcome> RunLine(ShellSession& ioSession, const std::string& iLine
             return std::nullopt;
         outcome.command = JoinWords(words);
         ioSession.Begin(outcome.command);
+        const Progress progress(OneLine(outcome.command));
         outcome.failure = RunWords(ioSession, words);
     }
     catch (const Failure& noWords)
