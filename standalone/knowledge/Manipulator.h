@@ -7,8 +7,7 @@ namespace VYRStandalone
 {
 class AttributeParm;
 
-/// Texts that a panel offers for a parameter. Counts itself; the object of its attribute
-/// holds it.
+/// Texts that a panel offers for a parameter. Counts itself; the object of its attribute holds it.
 class Manipulator final : public ORXICkeManipulator
 {
 public:

@@ -125,13 +125,6 @@ TEST_F(ShellTest, History_ThatCannotBeKept_IsNoReasonToComplain)
     EXPECT_EQ(Files(), before);
 }
 
-TEST_F(ShellTest, Terminal_ClearsAnInterruptedLine_AndGoesOn)
-{
-    const ToolRun run = Session(Small, {"set Case.1/relaxation 0.1\x03get Case.1/relaxation\r"});
-    EXPECT_EQ(Outcome(run), Outcome(0, ""));
-    EXPECT_TRUE(Contains(run.output, "\n0.5\n")) << run.output;
-}
-
 struct CompletedLine
 {
     const char* name;

@@ -134,6 +134,8 @@ class RobustnessTest(unittest.TestCase):
         os.close(reader)
         self.assertEqual(process.wait(30), 0)
         self.assertIn(b"\r\x1b[Kapply Solver.1 externalFlow ...", shown)
+        for line in shown.split(b"\n"):
+            self.assertNotRegex(line, rb"\.\.\.(?! *\d* *s?\r)", "a note stands behind the line of progress")
 
     def test_short_work_is_not_told_of(self):
         self.assertEqual(self.shown_while_waiting(0.1), ("", 0))

@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include "Failure.h"
+#include "Progress.h"
 
 namespace Tool
 {
@@ -25,6 +26,7 @@ void Print(const std::string& iText)
 
 void PrintError(const std::string& iLine)
 {
+    Progress::Erase();
     // Nobody is left to tell when this fails.
     std::fputs((iLine + "\n").c_str(), stderr);
 }

@@ -1,5 +1,6 @@
 #include "Progress.h"
 
+#include <atomic>
 #include <chrono>
 #include <csignal>
 #include <cstdio>
@@ -14,10 +15,14 @@ constexpr std::chrono::milliseconds Patience{500};
 constexpr std::chrono::seconds Beat{1};
 constexpr char EraseLine[] = "\r\x1B[K";
 
+/// Whether there is a line on the terminal.
+std::atomic<bool> isShown{false};
+
 void Tell(const std::string& iText)
 {
     std::fputs((EraseLine + iText).c_str(), stderr);
     std::fflush(stderr);
+    isShown = !iText.empty();
 }
 } // namespace
 
@@ -51,6 +56,12 @@ Progress::~Progress()
     }
     m_ended.notify_one();
     m_thread.join();
+}
+
+void Progress::Erase()
+{
+    if (isShown)
+        Tell("");
 }
 
 void Progress::Show()

@@ -23,6 +23,9 @@ public:
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
 
+    /// Takes the line away, so that something else can be printed there. It comes again with the next second.
+    static void Erase();
+
 private:
     void Show();
 

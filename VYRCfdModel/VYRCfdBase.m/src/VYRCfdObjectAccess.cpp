@@ -32,14 +32,13 @@ bool IsObjectType(int iType)
         VYRCfdTraceManager::_Debug->TraPrint(140, "ERROR: %s\n", iError.CastToCharPtr());
 }
 
-/// Cuts off the segment of a path that begins at a character. @param oNext where the next one begins: at the path's end
-/// when nothing follows. @return S_OK, there is no other answer
-HRESULT CutSegment(const ORXUnicodeString& iPath, int iBegin, ORXUnicodeString& oSegment, int& oNext)
+/// Cuts off the segment of a path that begins at a character. @param iSeparator where it ends; negative for at the
+/// path's end. @param oNext where the next one begins: at the path's end when nothing follows
+/// @return S_OK, there is no other answer
+HRESULT CutSegment(const ORXUnicodeString& iPath, int iBegin, int iSeparator, ORXUnicodeString& oSegment, int& oNext)
 {
-    static const ORXUnicodeString separator("/");
     const int length = iPath.GetLengthInChar();
-    const int position = iPath.FindPosition(separator, iBegin);
-    const int end = position < 0 ? length : position;
+    const int end = iSeparator < 0 ? length : iSeparator;
     oSegment = iPath.SubString(iBegin, end - iBegin);
     oNext = std::min(end + 1, length);
     return S_OK;
@@ -430,7 +429,7 @@ HRESULT VYRCfdObjectAccess::SplitPath(const ORXUnicodeString& iPath, ORXUnicodeS
     // The head is written last, so that a caller may pass its path as one of the two.
     ORXUnicodeString head;
     int next = 0;
-    const HRESULT status = CutSegment(iPath, 0, head, next);
+    const HRESULT status = CutSegment(iPath, 0, iPath.SearchSubString("/", 0, 1), head, next);
     if (next < iPath.GetLengthInChar())
         oTail = iPath.SubString(next, iPath.GetLengthInChar() - next);
     oHead = std::move(head);
@@ -533,7 +532,7 @@ VYRCfdObjectAccess VYRCfdObjectAccess::GetByPath(const ORXUnicodeString& iPath) 
             return VYRCfdObjectAccess("Null object");
         ORXUnicodeString head;
         int next = 0;
-        if (CutSegment(*path, begin, head, next) < 0)
+        if (CutSegment(*path, begin, path->FindPosition("/", begin), head, next) < 0)
             return VYRCfdObjectAccess("Invalid path: " + path->SubString(begin, path->GetLengthInChar() - begin));
         if (head.IsEmpty())
             return *current;

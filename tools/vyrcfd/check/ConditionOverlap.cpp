@@ -73,7 +73,8 @@ std::optional<std::string> IntegerForBoth(const ConditionText& iOne, const Condi
     const std::optional<int> one = IntegerOf(iOne.value);
     const std::optional<int> other = IntegerOf(iOther.value);
     constexpr int Largest = 1'000'000'000;
-    if (!one || !other || std::max(std::abs(*one), std::abs(*other)) > Largest)
+    const auto isLarge = [](int iNumber) { return iNumber < -Largest || iNumber > Largest; };
+    if (!one || !other || isLarge(*one) || isLarge(*other))
         return std::nullopt;
     for (const int value : {*one, *other, *one - 1, *one + 1, *other - 1, *other + 1})
     {
