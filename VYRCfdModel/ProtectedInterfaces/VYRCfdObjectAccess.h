@@ -258,6 +258,8 @@ public:
 
 private:
     class VYRCfdBaseLocal Place;
+    /// Looks at many cursors, without counting their objects for each.
+    friend class VYRCfdListArrangement;
 
     /// @name The function scopes of what is inline here, since each link of a chain makes and ends a cursor.
     /// @{

@@ -423,8 +423,14 @@ ORXListValORXBaseUnknown_var* AttributeAccess::ListObjects(ORXISpecAttrKey* iKey
         return list.release();
     const Objects& objects = std::get<Objects>(m_object.Entries(*key));
     list->Reserve(static_cast<int>(objects.size()));
-    for (FeatureObject* const object : objects)
-        list->Append(ORXBaseUnknown_var::Share(object));
+    for (std::size_t i = 0; i < objects.size(); ++i)
+    {
+        // What a long list costs is waiting for the objects that are counted.
+        constexpr std::size_t Ahead = 16;
+        if (i + Ahead < objects.size())
+            __builtin_prefetch(objects[i + Ahead], 1);
+        list->Append(ORXBaseUnknown_var::Share(objects[i]));
+    }
     return list.release();
 }
 

@@ -25,6 +25,8 @@ public:
         return isOwn ? &static_cast<AttributeAccess*>(iAccess)->m_object : nullptr;
     }
 
+    FeatureObject& Object() const noexcept { return m_object; }
+
     using ORXBaseUnknown::QueryInterface;
     HRESULT QueryInterface(const IID& iInterface, void** oInterface) override;
     unsigned int AddRef() override;

@@ -86,8 +86,17 @@ FeatureObject* FeatureObject::MakePrototype(FeatureType& iType, const FeatureObj
 
 FeatureObject* FeatureObject::Of(const ORXBaseUnknown* iComponent)
 {
-    ORXBaseUnknown* const root = iComponent != nullptr ? iComponent->GetImpl(0) : nullptr;
-    if (root == nullptr || typeid(*root) != typeid(FeatureObject))
+    if (iComponent == nullptr)
+        return nullptr;
+    // The two that nearly all pointers are. The classes are seen in this library alone, so that there is one
+    // description of each.
+    const std::type_info& type = typeid(*iComponent);
+    if (&type == &typeid(FeatureObject))
+        return const_cast<FeatureObject*>(static_cast<const FeatureObject*>(iComponent));
+    if (&type == &typeid(AttributeAccess))
+        return &static_cast<const AttributeAccess*>(iComponent)->Object();
+    ORXBaseUnknown* const root = iComponent->GetImpl(0);
+    if (root == nullptr || &typeid(*root) != &typeid(FeatureObject))
         return nullptr;
     return static_cast<FeatureObject*>(root);
 }

@@ -8,6 +8,8 @@ namespace
 {
 /// So many comparisons cost no more than asking for identities.
 constexpr std::size_t FewComparisons = 16;
+/// So many entries ahead an object is fetched: the processor does not look through so many calls itself.
+constexpr std::size_t Ahead = 16;
 } // namespace
 
 VYRCfdListArrangement::VYRCfdListArrangement(const char* iFunction, const ORXISpecAttrAccess_var& iAttr,
@@ -34,44 +36,64 @@ HRESULT VYRCfdListArrangement::Go()
 bool VYRCfdListArrangement::Identify()
 {
     const std::size_t size = static_cast<std::size_t>(m_size);
-    if (size * iObjects.size() <= FewComparisons)
+    const std::size_t wanted = iObjects.size();
+    if (size * wanted <= FewComparisons)
         return false;
     const ORXIComponentIdentity_var spIdentity = _spAttr;
     if (!spIdentity)
         return false;
 
     m_tail = std::make_unique<VYRCfdListTail>(size);
-    m_wanted.reserve(iObjects.size());
+    const ORXListValORXBaseUnknown_var& stored = *pVals;
     // Side by side: an object that stands in its place already is then visited once, which is what long lists cost.
-    for (std::size_t at = 0; at < std::max(size, iObjects.size()); ++at)
+    for (std::size_t at = 0; at < std::max(size, wanted); ++at)
     {
+        const void* present = nullptr;
         if (at < size)
         {
-            const void* const identity = spIdentity->IdentityOf((*pVals)[static_cast<int>(at) + 1]);
-            if (identity == nullptr)
+            if (at + Ahead < size)
+                __builtin_prefetch(stored[static_cast<int>(at + Ahead) + 1].Pointer());
+            present = spIdentity->IdentityOf(stored[static_cast<int>(at) + 1]);
+            if (present == nullptr)
                 return false;
-            m_tail->Append(identity);
+            m_tail->Append(present);
         }
+        if (at >= wanted || at > CountWanted())
+            continue;
         // Behind a cursor without an object nothing is looked at any more.
-        if (at < iObjects.size() && at == m_wanted.size())
+        const ORXISpecAttrAccess_var& object = iObjects[at]._spAttr;
+        if (!object)
+            continue;
+        const void* const identity = spIdentity->IdentityOf(object);
+        if (identity == nullptr)
+            return false;
+        if (identity == present && at == m_inPlace)
         {
-            const ORXBaseUnknown_var wanted = iObjects[at].Self();
-            if (!wanted)
-                continue;
-            const void* const identity = spIdentity->IdentityOf(wanted);
-            if (identity == nullptr)
-                return false;
-            m_wanted.push_back(identity);
+            ++m_inPlace;
+            continue;
         }
+        if (m_wanted.empty())
+            m_wanted.reserve(wanted - at);
+        m_wanted.push_back(identity);
     }
+    m_tail->Index();
     return true;
 }
 
 HRESULT VYRCfdListArrangement::PlaceByIdentity()
 {
     int i = 0;
-    for (const void* const identity : m_wanted)
+    // An object that stands in its place, and nowhere behind it, is left alone.
+    if (!m_tail->HasRepeated())
     {
+        i = static_cast<int>(m_inPlace);
+        m_tail->PlaceFront(m_inPlace);
+    }
+    const int wanted = static_cast<int>(CountWanted());
+    while (i < wanted)
+    {
+        const std::size_t at = static_cast<std::size_t>(i);
+        const void* const identity = at < m_inPlace ? m_tail->IdentityOf(at) : m_wanted[at - m_inPlace];
         const int object = m_tail->Find(identity);
         ++i;
         if (object == VYRCfdListTail::None || !m_tail->Holds(object))
@@ -82,7 +104,7 @@ HRESULT VYRCfdListArrangement::PlaceByIdentity()
         for (int moves = m_tail->Place(object); moves > 0; --moves)
             VYRCFD_PASS(Move(VYRCfdListTail::Position(object), i));
     }
-    return CheckWanted(m_wanted.size() == iObjects.size());
+    return CheckWanted(CountWanted() == iObjects.size());
 }
 
 HRESULT VYRCfdListArrangement::PlaceByScan()

@@ -32,6 +32,7 @@ public:
 private:
     /// Writes nothing. @return false if the objects have to be compared one by one
     bool Identify();
+    std::size_t CountWanted() const noexcept { return m_inPlace + m_wanted.size(); }
     HRESULT PlaceByIdentity();
     HRESULT PlaceByScan();
     HRESULT Scan(const ORXBaseUnknown_var& iWanted, int iPlace);
@@ -53,7 +54,9 @@ private:
     bool m_isChanged = false;
 
     std::unique_ptr<VYRCfdListTail> m_tail;
-    /// Identities of the wanted objects, up to the first cursor without an object.
+    /// So many wanted objects at the front are stored in the same order.
+    std::size_t m_inPlace = 0;
+    /// Identities of the wanted objects behind them, up to the first cursor without an object.
     std::vector<const void*> m_wanted;
 };
 
