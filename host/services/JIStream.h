@@ -6,8 +6,8 @@
  * Reader of JSON objects. A value class over a shared document; the reading is a link-time seam.
  */
 
-#include <cstddef>
-#include <memory>
+#include <cstdint>
+#include <utility>
 #include <vector>
 
 #include "ORXExport.h"
@@ -26,12 +26,25 @@ class Document;
 class ORXHostExport JIStream
 {
 public:
-    JIStream() = default;
+    JIStream() noexcept = default;
+    JIStream(const JIStream& iOther) noexcept;
+    JIStream(JIStream&& ioOther) noexcept : m_object(std::exchange(ioOther.m_object, nullptr)) {}
+    JIStream& operator=(JIStream iOther) noexcept
+    {
+        std::swap(m_object, iOther.m_object);
+        return *this;
+    }
+    ~JIStream()
+    {
+        if (m_object != nullptr)
+            Leave();
+    }
 
     /**
      * Reads a file that holds one JSON object, as strict JSON in UTF-8.
      * @param iReplace true drops what the stream held before also when the file cannot be read
-     * @return false if the file cannot be read, is not valid JSON or holds something else than an object
+     * @return false if the file cannot be read, is not valid JSON or holds something else than an object. A provider
+     *         may refuse files that are larger than any that is meant.
      */
     bool ParseFile(const char* iPath, bool iReplace);
 
@@ -52,15 +65,12 @@ public:
 private:
     friend class Document;
 
-    /// Which object of the document; what the two say is known to the document alone.
-    struct Place
-    {
-        const void* base = nullptr;
-        std::size_t index = 0;
-    };
+    /// Lets go of the document, which lives as long as a stream stands in it.
+    void Leave() noexcept;
 
-    std::shared_ptr<const Document> m_document;
-    Place m_object;
+    /// The object in its document, whose form the provider knows; null reads as an empty object. One word, since an
+    /// installation has many items.
+    const std::uint32_t* m_object = nullptr;
 };
 } // namespace JSON
 

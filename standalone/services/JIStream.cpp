@@ -1,15 +1,18 @@
 #include "JIStream.h"
 
-#include "FastDocument.h"
+#include "FastJson.h"
 #include "FileName.h"
 #include "Instruments.h"
 #include "PerThread.h"
-#include "StrictDocument.h"
+#include "StrictReader.h"
 #include "WholeFile.h"
 
 namespace
 {
 using VYRStandalone::Instruments;
+
+/// No document takes more words than its file has bytes, so that there is room for the places in it.
+constexpr std::size_t MostBytes = JSON::Document::MostWords / 2;
 
 std::string_view KeyView(const char* iKey)
 {
@@ -22,7 +25,8 @@ struct Desk
     static constexpr std::size_t MostKept = std::size_t{1024} * 1024;
 
     std::string text;
-    simdjson::dom::parser parser;
+    FastJson fast;
+    JsonDraft draft;
 };
 
 /// The reading of one file, at the end of which what a large one took is given back.
@@ -34,8 +38,9 @@ public:
     {
         if (m_desk.text.capacity() > Desk::MostKept)
             m_desk.text = std::string();
-        if (m_desk.parser.capacity() > Desk::MostKept)
-            m_desk.parser = simdjson::dom::parser();
+        if (m_desk.fast.Capacity() > Desk::MostKept)
+            m_desk.fast = FastJson();
+        m_desk.draft.Trim(Desk::MostKept);
     }
     AtDesk(const AtDesk&) = delete;
     AtDesk& operator=(const AtDesk&) = delete;
@@ -44,20 +49,19 @@ private:
     Desk& m_desk;
 };
 
-/// Null if the text is not valid or no object.
-std::shared_ptr<const JSON::Document> DocumentOf(Desk& ioDesk, JSON::Document::Place& oRoot)
+/// Drafts the document at the desk. @return false if the text is not valid or no object
+bool DraftDocument(Desk& ioDesk)
 {
-    auto fast = std::make_shared<FastDocument>();
-    switch (fast->Parse(ioDesk.parser, ioDesk.text, oRoot))
+    switch (ioDesk.fast.Read(ioDesk.text, ioDesk.draft))
     {
-    case FastDocument::Verdict::Object:
-        return fast;
-    case FastDocument::Verdict::NoObject:
-        return nullptr;
-    case FastDocument::Verdict::Undecided:
+    case FastJson::Verdict::Object:
+        return true;
+    case FastJson::Verdict::NoObject:
+        return false;
+    case FastJson::Verdict::Undecided:
         break;
     }
-    return StrictDocument::Parse(ioDesk.text, oRoot);
+    return StrictReader(ioDesk.draft).Read(ioDesk.text);
 }
 } // namespace
 
@@ -71,47 +75,55 @@ bool JIStream::ParseFile(const char* iPath, bool iReplace)
         return false;
     Desk& desk = PerThread<Desk>::Get();
     const AtDesk reading(desk);
-    if (iPath == nullptr || !ReadWholeFile(iPath, desk.text, FastDocument::Padding).empty())
+    if (iPath == nullptr || !ReadWholeFile(iPath, desk.text, FastJson::Padding).empty())
         return false;
-    Place root;
-    std::shared_ptr<const Document> document = DocumentOf(desk, root);
-    if (document == nullptr)
+    if (desk.text.size() > MostBytes || !DraftDocument(desk))
         return false;
-    m_document = std::move(document);
-    m_object = root;
+    *this = desk.draft.Finish();
     return true;
+}
+
+JIStream::JIStream(const JIStream& iOther) noexcept : m_object(iOther.m_object)
+{
+    if (m_object != nullptr)
+        Document::CountIn(m_object, 1);
+}
+
+void JIStream::Leave() noexcept
+{
+    Document::CountOut(m_object);
 }
 
 std::vector<JIStream> JIStream::ReadObjects(const char* iKey) const
 {
-    if (m_document == nullptr)
+    if (m_object == nullptr)
         return {};
-    return m_document->Objects(m_object, KeyView(iKey), m_document);
+    return Document::Objects(m_object, KeyView(iKey));
 }
 
 ORXUnicodeString JIStream::ReadString(const char* iKey) const
 {
-    if (m_document == nullptr)
+    if (m_object == nullptr)
         return {};
-    const std::string_view text = m_document->Text(m_object, KeyView(iKey));
+    const std::string_view text = Document::TextOf(m_object, KeyView(iKey));
     return ORXUnicodeString(text.data(), text.size());
 }
 
 ORXUnicodeString JIStream::ReadString(const ORXUnicodeString& iKey) const
 {
-    if (m_document == nullptr)
+    if (m_object == nullptr)
         return {};
-    const std::string_view text = m_document->Text(m_object, iKey.View());
+    const std::string_view text = Document::TextOf(m_object, iKey.View());
     return ORXUnicodeString(text.data(), text.size());
 }
 
 bool JIStream::ReadBoolean(const ORXUnicodeString& iKey) const
 {
-    return m_document != nullptr && m_document->IsTrue(m_object, iKey.View());
+    return m_object != nullptr && Document::IsTrue(m_object, iKey.View());
 }
 
 bool JIStream::Exist(const ORXUnicodeString& iKey) const
 {
-    return m_document != nullptr && m_document->Has(m_object, iKey.View());
+    return m_object != nullptr && Document::Has(m_object, iKey.View());
 }
 } // namespace JSON

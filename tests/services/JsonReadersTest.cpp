@@ -354,6 +354,36 @@ TEST_F(JsonReaders, OnValuesAtTheEdges_DoNotDiffer)
     EXPECT_GT(valid, 300);
 }
 
+/// Texts and keys that a document keeps once must be the same to the last byte.
+TEST_F(JsonReaders, OnTextsThatAreNearlyTheSame_DoNotDiffer)
+{
+    std::vector<std::string> texts{"", "\\u0000"};
+    for (const std::size_t size : {1U, 3U, 4U, 7U, 8U, 9U, 15U, 16U, 17U, 23U, 24U, 25U, 31U, 32U, 33U, 40U, 100U})
+        for (const char* const end : {"", "a", "b", "\\u0000", "\\u0000\\u0000"})
+            texts.push_back(std::string(size, 'x') + end);
+    std::mt19937 random(1);
+    const auto any = [&] { return '"' + texts[random() % texts.size()] + '"'; };
+    std::string elements;
+    for (int i = 0; i < 3000; ++i)
+        elements += (i > 0 ? ",{" : "{") + any() + ':' + any() + ',' + any() + ':' + any() + '}';
+    EXPECT_TRUE(ReadBoth(R"({"all": [)" + elements + "]}"));
+    // And so by the other reader, to which this number goes.
+    EXPECT_TRUE(ReadBoth(R"({"all": [)" + elements + "], \"large\": 18446744073709551616}"));
+}
+
+/// A document has room for as many different ones as there are.
+TEST_F(JsonReaders, OnManyDifferentTexts_DoNotDiffer)
+{
+    std::string elements;
+    for (int i = 0; i < 5000; ++i)
+    {
+        const std::string number = std::to_string(i);
+        elements += (i > 0 ? ",{\"" : "{\"") + number + "\":\"text" + number + "\",\"list\":[1,{\"" + number +
+                    R"(":true},[{"deep":"er"}],{}]})";
+    }
+    EXPECT_TRUE(ReadBoth(R"({"all": [)" + elements + "]}"));
+}
+
 /// What the memory of an earlier file leaves behind a shorter one must not count.
 TEST_F(JsonReaders, OnBeginningsOfAFile_ReadAfterTheWhole_DoNotDiffer)
 {

@@ -1,12 +1,13 @@
-#ifndef FastDocument_H
-#define FastDocument_H
+#ifndef FastJson_H
+#define FastJson_H
 
 #include <simdjson.h>
 
-#include "JsonDocument.h"
+#include "JsonDraft.h"
 
 /**
- * A document as simdjson builds it, in one pass over the file and without an allocation for each value.
+ * Reads JSON by simdjson, in one pass over the file and without an allocation for each value. Made once for the files
+ * that are read one after another.
  *
  * It has no say in what is refused: what simdjson refuses goes to StrictJson, which takes some of it - integers that 64
  * bits do not hold, the last step of the allowed nesting - and otherwise knows the error. What simdjson takes must
@@ -17,10 +18,9 @@
  * - refuses a number that a double cannot hold for its size; of one that is too small for a double it makes 0, as
  *   StrictJson does. It takes 0e400, and 310 digits with e-100 behind them, which StrictJson does not, so that files
  *   with such a zero, or with so many digits, are left to that,
- * - counts arrays and objects inside each other no less deep than StrictJson does,
- * - finds of a doubled key the first, and compares keys by all their bytes.
+ * - counts arrays and objects inside each other no less deep than StrictJson does.
  */
-class FastDocument : public JSON::Document
+class FastJson
 {
 public:
     /// How many bytes behind a text simdjson may read.
@@ -36,15 +36,15 @@ public:
     };
 
     /// @param iText Padding more bytes behind it can be read
-    Verdict Parse(simdjson::dom::parser& ioParser, std::string_view iText, Place& oRoot);
+    Verdict Read(std::string_view iText, JsonDraft& oDraft);
 
-    bool Has(const Place& iObject, std::string_view iKey) const override;
-    std::string_view Text(const Place& iObject, std::string_view iKey) const override;
-    bool IsTrue(const Place& iObject, std::string_view iKey) const override;
-    std::vector<JSON::JIStream> Objects(const Place& iObject, std::string_view iKey,
-                                        const std::shared_ptr<const Document>& iOwner) const override;
+    /// The length of the texts for which there is room.
+    std::size_t Capacity() const noexcept { return m_parser.capacity(); }
 
 private:
+    bool MakeRoom(std::size_t iBytes);
+
+    simdjson::dom::parser m_parser;
     simdjson::dom::document m_json;
 };
 

@@ -1,0 +1,83 @@
+#include "JsonDraft.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+using JSON::Document;
+
+void JsonDraft::Clear()
+{
+    m_size = 0;
+    m_open.clear();
+    const Word none = Take(Document::ShapeWords);
+    std::fill_n(&m_words[none], Document::ShapeWords, Word{0});
+    std::fill(m_texts.begin(), m_texts.end(), MetText());
+    std::fill(m_shapes.begin(), m_shapes.end(), MetKey());
+}
+
+JsonDraft::Word JsonDraft::Take(std::size_t iWords)
+{
+    const std::size_t place = m_size;
+    if (iWords > Document::MostWords - place)
+        throw std::length_error("JsonDraft");
+    m_size += iWords;
+    if (m_size > m_words.size())
+        m_words.resize(2 * m_size);
+    return static_cast<Word>(place);
+}
+
+bool JsonDraft::HasSameEnd(Word iText, const char* iOther, std::size_t iBytes) const noexcept
+{
+    return std::memcmp(&m_words[iText + 1], iOther, iBytes) == 0;
+}
+
+JsonDraft::Word JsonDraft::NewText(const char* iText, std::size_t iBytes)
+{
+    const Word place = Take(1 + (iBytes + sizeof(Word) - 1) / sizeof(Word));
+    m_words[place] = static_cast<Word>(iBytes);
+    std::memcpy(&m_words[place + 1], iText, iBytes);
+    return place;
+}
+
+JsonDraft::Word JsonDraft::NewShape(Word iShape, Word iKey)
+{
+    const Word place = Take(Document::ShapeWords);
+    m_words[place] = iKey;
+    m_words[place + 1] = iShape;
+    m_words[place + 2] = m_words[iShape + 2] + 1;
+    return place;
+}
+
+void JsonDraft::WriteObject(Word* ioObject, std::size_t iWords)
+{
+    const Word place = Take(iWords);
+    *ioObject = place;
+    std::copy_n(ioObject, iWords, &m_words[place]);
+}
+
+JsonDraft::Word JsonDraft::CloseArray(std::size_t iPlace, std::size_t iElements)
+{
+    const Word place = Take(1);
+    m_words[place] = static_cast<Word>(iElements);
+    for (std::size_t at = iPlace; at < m_open.size();)
+    {
+        const std::size_t words = Document::HeadWords + m_words[m_open[at + 1] + 2];
+        WriteObject(&m_open[at], words);
+        at += words;
+    }
+    m_open.resize(iPlace);
+    return (place << Document::TagBits) | Document::Array;
+}
+
+JSON::JIStream JsonDraft::Finish()
+{
+    WriteObject(m_open.data(), m_open.size());
+    return Document::Make(m_words.data(), m_size, m_open.front());
+}
+
+void JsonDraft::Trim(std::size_t iBytes)
+{
+    for (std::vector<Word>* const words : {&m_words, &m_open})
+        if (words->capacity() * sizeof(Word) > iBytes)
+            *words = std::vector<Word>();
+}
