@@ -80,6 +80,9 @@ int VYRCfdListTail::PlaceOutOfOrder(int iObject)
     const int moves = object.more + (isInFront ? 0 : 1);
     --object.more;
     object.run = InNoRun;
+    // What follows it mostly stands in place again.
+    if (Offset(iObject) == m_front)
+        ++m_front;
     if (object.more >= 0)
     {
         object.run = static_cast<int>(m_runs.size());
