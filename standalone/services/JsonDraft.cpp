@@ -48,31 +48,29 @@ JsonDraft::Word JsonDraft::NewShape(Word iShape, Word iKey)
     return place;
 }
 
-void JsonDraft::WriteObject(Word* ioObject, std::size_t iWords)
+JsonDraft::Word JsonDraft::WriteObjects(std::size_t iPlace)
 {
-    const Word place = Take(iWords);
-    *ioObject = place;
-    std::copy_n(ioObject, iWords, &m_words[place]);
+    const std::size_t words = m_open.size() - iPlace;
+    const Word place = Take(words);
+    std::copy_n(m_open.data() + iPlace, words, m_words.data() + place);
+    for (std::size_t at = place; at < m_size; at += Document::HeadWords + m_words[m_words[at + 1] + 2])
+        m_words[at] = static_cast<Word>(at);
+    m_open.resize(iPlace);
+    return place;
 }
 
 JsonDraft::Word JsonDraft::CloseArray(std::size_t iPlace, std::size_t iElements)
 {
     const Word place = Take(1);
     m_words[place] = static_cast<Word>(iElements);
-    for (std::size_t at = iPlace; at < m_open.size();)
-    {
-        const std::size_t words = Document::HeadWords + m_words[m_open[at + 1] + 2];
-        WriteObject(&m_open[at], words);
-        at += words;
-    }
-    m_open.resize(iPlace);
+    WriteObjects(iPlace);
     return (place << Document::TagBits) | Document::Array;
 }
 
 JSON::JIStream JsonDraft::Finish()
 {
-    WriteObject(m_open.data(), m_open.size());
-    return Document::Make(m_words.data(), m_size, m_open.front());
+    const Word root = WriteObjects(0);
+    return Document::Make(m_words.data(), m_size, root);
 }
 
 void JsonDraft::Trim(std::size_t iBytes)

@@ -161,7 +161,8 @@ private:
     Word NewShape(Word iShape, Word iKey);
     /// Words at the end of the document.
     Word Take(std::size_t iWords);
-    void WriteObject(Word* ioObject, std::size_t iWords);
+    /// Those that stand open from a place on. @return where
+    Word WriteObjects(std::size_t iPlace);
 
     /// The document so far, and room behind it.
     std::vector<Word> m_words;
