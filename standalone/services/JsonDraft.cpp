@@ -21,7 +21,8 @@ JsonDraft::Word JsonDraft::Take(std::size_t iWords)
     if (iWords > Document::MostWords - place)
         throw std::length_error("JsonDraft");
     m_size += iWords;
-    if (m_size > m_words.size())
+    // And a word behind it, at which an empty text may end.
+    if (m_size >= m_words.size())
         m_words.resize(2 * m_size);
     return static_cast<Word>(place);
 }
