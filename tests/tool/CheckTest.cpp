@@ -146,6 +146,8 @@ TEST(WrongFolders, HaveOneAtLeastForEveryKindOfFinding)
                                       "cycle",
                                       "bad-condition",
                                       "odd-condition",
+                                      "swapped-lists",
+                                      "wrong-separator",
                                       "unequal-lists",
                                       "blank-in-list",
                                       "path-nowhere",

@@ -76,8 +76,8 @@ bool TryChoice(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFin
 /// The texts of the enumeration that an attribute is; empty for any other.
 std::vector<std::string> TextsOf(const VYRCfdObjectAccess& iAttribute);
 
-/// What a comparison with an attribute comes to.
-void CheckComparison(const SourceItem& iItem, const Trial& iTrial, const ConditionText& iParts,
+/// What a comparison with an attribute comes to. @return false where it is not the one that is meant
+bool CheckComparison(const SourceItem& iItem, const Trial& iTrial, const ConditionText& iParts,
                      const VYRCfdObjectAccess& iAttribute, TrialFindings& oFindings);
 
 /// Adds that a path of an item leads nowhere.
