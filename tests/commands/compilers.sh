@@ -1,0 +1,46 @@
+# ./test compilers [--timed]
+# Libraries, tool and all tests, compiled with warnings as errors by g++ 12, clang 14 and clang 19. With --timed each
+# anew and without the compiler's cache, the two libraries first, and the seconds of both are told.
+#
+# Read in by ./test, whose functions it uses.
+
+set_up "${TEST_PACKAGES[@]}" clang clang-19
+is_timed=0
+[ "${1-}" != --timed ] || is_timed=1
+
+# compile_all PRESET: its last line has the figures.
+compile_all() {
+    local preset=$1 files unchecked libraries
+    local commands=$root/build/$preset/compile_commands.json
+    (cd "$root" && cmake --preset "$preset" -DVYRCFD_BUILD_TESTS=ON) >&2 || return 1
+    files=$(grep -c '"command":' "$commands")
+    unchecked=$(grep '"command":' "$commands" | grep -vc -e ' -Werror ') || true
+    # A file for which warnings are none would pass in silence.
+    [ "$unchecked" -eq 0 ] || { echo "$unchecked files without -Werror" && return 1; }
+    if [ "$is_timed" -eq 0 ]; then
+        build "$preset" -- -k 0 || return 1
+        echo "$files files"
+        return
+    fi
+    export CCACHE_DISABLE=1
+    build "$preset" --target clean || return 1
+    SECONDS=0
+    build "$preset" --target VYRCfdBase VYRStandaloneHost || return 1
+    libraries=$SECONDS
+    build "$preset" -- -k 0 || return 1
+    echo "$files files, libraries in $libraries s, everything in $SECONDS s on $(nproc) cores"
+}
+
+figures=""
+failures=0
+for preset in dev clang clang-19; do
+    if ! line=$(compile_all "$preset"); then
+        line="failed${line:+, $line}"
+        failures=$((failures + 1))
+    fi
+    say "$preset: $line"
+    figures+="${figures:+; }$preset: $line"
+done
+[ "$failures" -eq 0 ] && word=PASSED || word=FAILED
+echo "$word - compilers, warnings are errors: $figures"
+exit "$((failures != 0))"
