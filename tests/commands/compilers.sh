@@ -8,6 +8,9 @@ set_up "${TEST_PACKAGES[@]}" clang clang-19
 is_timed=0
 [ "${1-}" != --timed ] || is_timed=1
 
+# ninja_of PRESET ARGUMENT...: builds what was configured.
+ninja_of() { (cd "$root" && cmake --build --preset "$1" --parallel "$(nproc)" "${@:2}") >&2; }
+
 # compile_all PRESET: its last line has the figures.
 compile_all() {
     local preset=$1 files unchecked libraries
@@ -18,16 +21,16 @@ compile_all() {
     # A file for which warnings are none would pass in silence.
     [ "$unchecked" -eq 0 ] || { echo "$unchecked files without -Werror" && return 1; }
     if [ "$is_timed" -eq 0 ]; then
-        build "$preset" -- -k 0 || return 1
+        ninja_of "$preset" -- -k 0 || return 1
         echo "$files files"
         return
     fi
     export CCACHE_DISABLE=1
-    build "$preset" --target clean || return 1
+    ninja_of "$preset" --target clean || return 1
     SECONDS=0
-    build "$preset" --target VYRCfdBase VYRStandaloneHost || return 1
+    ninja_of "$preset" --target VYRCfdBase VYRStandaloneHost || return 1
     libraries=$SECONDS
-    build "$preset" -- -k 0 || return 1
+    ninja_of "$preset" -- -k 0 || return 1
     echo "$files files, libraries in $libraries s, everything in $SECONDS s on $(nproc) cores"
 }
 
