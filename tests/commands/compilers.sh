@@ -1,6 +1,7 @@
 # ./test compilers [--timed]
 # Libraries, tool and all tests, compiled with warnings as errors by g++ 12, clang 14 and clang 19. With --timed each
-# anew and without the compiler's cache, the two libraries first, and the seconds of both are told.
+# anew and without the compiler's cache, the two libraries first. What both take is told in seconds and, since the machine
+# may have more to do, in seconds of a processor.
 #
 # Read in by ./test, whose functions it uses.
 
@@ -10,6 +11,12 @@ is_timed=0
 
 # ninja_of PRESET ARGUMENT...: builds what was configured.
 ninja_of() { (cd "$root" && cmake --build --preset "$1" --parallel "$(nproc)" "${@:2}") >&2; }
+
+# tell_time: $used becomes what was run from this shell so far, in whole seconds of a processor.
+tell_time() {
+    times >"$root/build/compiler-times"
+    used=$(awk -F '[ms ]' 'NR == 2 { printf "%d", 60 * $1 + $2 + 60 * $4 + $5 }' "$root/build/compiler-times")
+}
 
 # compile_all PRESET: its last line has the figures.
 compile_all() {
@@ -27,11 +34,18 @@ compile_all() {
     fi
     export CCACHE_DISABLE=1
     ninja_of "$preset" --target clean || return 1
+    local used before of_libraries
+    tell_time
+    before=$used
     SECONDS=0
     ninja_of "$preset" --target VYRCfdBase VYRStandaloneHost || return 1
     libraries=$SECONDS
+    tell_time
+    of_libraries=$((used - before))
     ninja_of "$preset" -- -k 0 || return 1
-    echo "$files files, libraries in $libraries s, everything in $SECONDS s on $(nproc) cores"
+    tell_time
+    echo "$files files, libraries in $libraries s ($of_libraries s of a processor)," \
+        "everything in $SECONDS s ($((used - before)) s)"
 }
 
 figures=""
