@@ -107,18 +107,26 @@ const BadInput Models[] = {
      Model + ":3:22: Invalid encoding in string.\n"},
     {"ArrayInPlaceOfObject", Written(Model, "[]"), ShowModel, 1, Model + ": must be an object, not an array\n"},
     {"ObjectsOfWrongShape", Written(Model, R"({"model": 1, "catalogs": [], "objects": {}})"), ShowModel, 1,
-     Model + ": /objects: must be an array, not an object\n"},
+     Model + ":1:41: /objects: must be an array, not an object\n"},
     {"UnknownType", Replaced(Model, "ExternalFlowSolver", "ExternalFlowSolvers"), ShowModel, 1,
-     Model + ": /objects/0/type: unknown type \"ExternalFlowSolvers\"; did you mean \"ExternalFlowSolver\"?\n"},
+     Model + ":6:15: /objects/0/type: unknown type \"ExternalFlowSolvers\"; did you mean \"ExternalFlowSolver\"?\n"},
     {"UnknownAttribute", Replaced(Model, "\"iterations\"", "\"iteration\""), ShowModel, 1,
-     Model + ": /objects/0/values/iteration: type \"ExternalFlowSolver\" has no attribute \"iteration\"; did you mean "
-             "\"iterations\"?\n"},
+     Model +
+         ":12:9: /objects/0/values/iteration: type \"ExternalFlowSolver\" has no attribute \"iteration\"; did you mean "
+         "\"iterations\"?\n"},
     {"ValueOfWrongKind", Replaced(Model, "4000", "4000.5"), ShowModel, 1,
-     Model + ": /objects/0/values/iterations: an integer is wanted\n"},
+     Model + ":12:23: /objects/0/values/iterations: an integer is wanted\n"},
     {"ReferenceToNothing", Replaced(Model, "{ \"ref\": 2 }", "{ \"ref\": 77 }"), ShowModel, 1,
-     Model + ": /objects/0/values/mesh/ref: no object has the id 77\n"},
+     Model + ":14:26: /objects/0/values/mesh/ref: no object has the id 77\n"},
+    {"CatalogMisspelt", Replaced(Model, "\"ExternalFlow\"", "\"ExternalFlwo\""), ShowModel, 1,
+     Model + ":3:16: /catalogs/0: unknown catalog \"ExternalFlwo\": no file \"ExternalFlwo.catalog.json\" in "
+             "\"samples/models\", \"samples/catalogs\", and none of that name is declared; did you mean "
+             "\"ExternalFlow\"?\n"},
+    {"UnitMisspelt", Replaced(Model, "3.06 degree", "3.06 degre"), ShowModel, 1,
+     Model + ":21:30: /objects/0/values/freestream/values/angleOfAttack: no number, or no unit like \"rad\": "
+             "\"3.06 degre\"; did you mean \"3.06 degree\"?\n"},
     {"CatalogNotFound", Replaced(Model, "\"ExternalFlow\"", "\"Nowhere\""), ShowModel, 1,
-     Model + ": /catalogs/0: unknown catalog \"Nowhere\": no file \"Nowhere.catalog.json\" in \"samples/models\", "
+     Model + ":3:16: /catalogs/0: unknown catalog \"Nowhere\": no file \"Nowhere.catalog.json\" in \"samples/models\", "
              "\"samples/catalogs\", and none of that name is declared\n"},
 };
 INSTANTIATE_TEST_SUITE_P(Models, BadInputs, testing::ValuesIn(Models), NameOf);
@@ -136,9 +144,9 @@ const BadInput Catalogs[] = {
      Written(Catalog, "{\n    \"catalog\": \"FlowCommon\",\n    \"types\": [ { \"name\": \"Sutherland\xC3\x28\" } ] }"),
      ShowModel, 1, Catalog + ":3:37: Invalid encoding in string.\n"},
     {"WrongShape", Replaced(Catalog, "\"kind\": \"real\"", "\"kind\": 7"), ShowModel, 1,
-     Catalog + ": /types/0/attributes/0/kind: must be a text, not an integer\n"},
+     Catalog + ":9:52: /types/0/attributes/0/kind: must be a text, not an integer\n"},
     {"UnknownKind", Replaced(Catalog, "\"kind\": \"real\"", "\"kind\": \"rael\""), ShowModel, 1,
-     Catalog + ": /types/0/attributes/0/kind: unknown kind \"rael\"; did you mean \"real\"?\n"},
+     Catalog + ":9:52: /types/0/attributes/0/kind: unknown kind \"rael\"; did you mean \"real\"?\n"},
 };
 INSTANTIATE_TEST_SUITE_P(Catalogs, BadInputs, testing::ValuesIn(Catalogs), NameOf);
 

@@ -87,7 +87,7 @@ std::string FindingsIn(const ToolRun& iRun)
     return text;
 }
 
-std::string NameOf(const testing::TestParamInfo<std::string>& iInfo)
+std::string FolderName(const testing::TestParamInfo<std::string>& iInfo)
 {
     std::string name = iInfo.param;
     std::replace(name.begin(), name.end(), '-', '_');
@@ -116,7 +116,7 @@ TEST_P(WrongInstallations, AreFoundToBeSo)
     EXPECT_EQ(run.status, found.find(": error: ") != std::string::npos ? 1 : 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Check, WrongInstallations, testing::ValuesIn(FoldersIn(Wrong)), NameOf);
+INSTANTIATE_TEST_SUITE_P(Check, WrongInstallations, testing::ValuesIn(FoldersIn(Wrong)), FolderName);
 
 class OddInstallations : public CheckTest, public testing::WithParamInterface<std::string>
 {
@@ -130,7 +130,7 @@ TEST_P(OddInstallations, AreFoundToBeRight)
     EXPECT_EQ(Outcome(run), Outcome(0, ""));
 }
 
-INSTANTIATE_TEST_SUITE_P(Check, OddInstallations, testing::ValuesIn(FoldersIn(Odd)), NameOf);
+INSTANTIATE_TEST_SUITE_P(Check, OddInstallations, testing::ValuesIn(FoldersIn(Odd)), FolderName);
 
 TEST(WrongFolders, HaveOneAtLeastForEveryKindOfFinding)
 {

@@ -18,8 +18,6 @@ TEST_P(GoodScripts, PrintWhatTheCommandsTell_AndWriteNoFile)
     ExpectRun(GetParam());
 }
 
-constexpr const char* Small = SmallModel;
-constexpr const char* Flow = FlowModel;
 
 const char UnequalLists[] =
     "note: assertion: choices.size() == startups.size() in VYRCfdChoiceInstanceAdp::Update, status 0x80004005\n";

@@ -38,12 +38,10 @@ bool ConfigureOrTell(const ORXISpecObject_var& iObject, const Configuring& iConf
     catch (const Failure& failure)
     {
         std::string text = failure.what();
-        const std::vector<std::string> reports = TakeReportLines();
+        std::vector<ReportRecord> reports = TakeReportRecords();
         for (const FailedItem& item : FailedItems(iObject, iConfiguring.configuration, iSource))
             text += "\n" + item.Shown();
-        for (const std::string& report : reports)
-            text += "\n" + report;
-        throw Failure(text);
+        throw ReportedFailure(text, std::move(reports));
     }
 }
 

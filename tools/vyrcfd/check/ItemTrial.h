@@ -58,6 +58,8 @@ private:
         bool isCertain = true;
         std::string message{};
         std::vector<std::string> known{};
+        /// What was probably meant, where that is none of a few.
+        std::string meant{};
     };
 
     static Verdict Try(const Trial& iTrial, const std::string& iName, const std::string& iText);

@@ -71,14 +71,12 @@ public:
         MeantLists lists;
         lists.hasStartups = m_hasStartups;
         Reading reading = Parted(lists.findings);
-        if (AreSwapped(reading))
+        if (m_hasStartups && AreSwapped(SplitTexts(reading.choices), SplitTexts(reading.startups), m_default))
         {
             std::swap(reading.choices, reading.startups);
             std::swap(lists.choicesKey, lists.startupsKey);
             lists.findings.push_back(
-                FindingAt(m_item, "choices", FindingKind::SwappedLists, Severity::Error,
-                          "\"choices\" and \"Startups\" seem to be swapped: the first are what to choose from, the "
-                          "second the types of the data objects"));
+                FindingAt(m_item, "choices", FindingKind::SwappedLists, Severity::Error, SwappedText));
         }
         lists.choices = std::move(reading.choices);
         lists.startups = std::move(reading.startups);
@@ -118,24 +116,6 @@ private:
 
     Reading Told(const Reading& iReading, char iSign, bool iFails, std::vector<Finding>& oFindings) const;
 
-    bool AreSwapped(const Reading& iReading) const
-    {
-        if (!m_hasStartups)
-            return false;
-        const std::vector<std::string> choices = SplitTexts(iReading.choices);
-        const std::vector<std::string> startups = SplitTexts(iReading.startups);
-        if (std::any_of(startups.begin(), startups.end(), IsKnownType))
-            return false;
-        const bool areTypes = std::any_of(choices.begin(), choices.end(), IsKnownType) &&
-                              std::all_of(choices.begin(), choices.end(), [](const std::string& iChoice) {
-                                  return iChoice.empty() || IsKnownType(iChoice);
-                              });
-        const bool hasNames = std::any_of(startups.begin(), startups.end(),
-                                          [](const std::string& iStartup) { return !iStartup.empty(); });
-        const bool isDefaultThere = !m_default.empty() && Holds(startups, m_default) && !Holds(choices, m_default);
-        return isDefaultThere || (areTypes && hasNames && (m_default.empty() || !Holds(choices, m_default)));
-    }
-
     const SourceItem& m_item;
     Reading m_written;
     bool m_hasStartups;
@@ -169,6 +149,24 @@ Reading Reader::Told(const Reading& iReading, char iSign, bool iFails, std::vect
     return iReading;
 }
 } // namespace
+
+const char SwappedText[] = "\"choices\" and \"Startups\" seem to be swapped: the first are what to choose from, the "
+                           "second the types of the data objects";
+
+bool AreSwapped(const std::vector<std::string>& iChoices, const std::vector<std::string>& iStartups,
+                std::string_view iDefault)
+{
+    const auto isEmpty = [](const std::string& iOne) { return iOne.empty(); };
+    const bool isDefaultChoice = !iDefault.empty() && Holds(iChoices, iDefault);
+    if (isDefaultChoice || std::any_of(iStartups.begin(), iStartups.end(), IsKnownType))
+        return false;
+    if (!iDefault.empty() && Holds(iStartups, iDefault))
+        return true;
+    const bool areTypes = std::all_of(iChoices.begin(), iChoices.end(),
+                                      [&](const std::string& iOne) { return iOne.empty() || IsKnownType(iOne); });
+    return areTypes && !std::all_of(iChoices.begin(), iChoices.end(), isEmpty) &&
+           !std::all_of(iStartups.begin(), iStartups.end(), isEmpty);
+}
 
 MeantLists MeantListsOf(const SourceItem& iItem)
 {

@@ -35,7 +35,15 @@ struct MeantLists
 
 MeantLists MeantListsOf(const SourceItem& iItem);
 
-/// The same for the entries of "value".
+/// Whether entries of the one list seem to stand in the other.
+/// @param iDefault what is chosen at first; empty for nothing
+bool AreSwapped(const std::vector<std::string>& iChoices, const std::vector<std::string>& iStartups,
+                std::string_view iDefault);
+
+/// What is said of lists that are swapped.
+extern const char SwappedText[];
+
+/// The entries of "value", in the same way.
 struct MeantEntries
 {
     std::string text;

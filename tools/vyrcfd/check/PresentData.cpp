@@ -7,21 +7,6 @@
 
 namespace Tool
 {
-namespace
-{
-/// What a Choice has as it comes; empty for no Choice.
-std::string FirstChoiceOf(const VYRCfdObjectAccess& iObject)
-{
-    const ORXISpecObject_var spObject = iObject.Self();
-    if (!IsChoice(iObject) || !spObject)
-        return {};
-    const VYRCfdObjectAccess startup{ORXBaseUnknown_var(ORXISpecObject_var::Adopt(spObject->GetStartup()))};
-    ORXUnicodeString value;
-    startup["value"].GetString(value);
-    return std::string(value.View());
-}
-} // namespace
-
 void PresentData::Begin(const Trial& iTrial)
 {
     m_firstChoice = FirstChoiceOf(iTrial.object);

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "CheckRun.h"
 #include "Wording.h"
 
@@ -96,6 +98,17 @@ void CheckUnread(const SourceItem& iItem, CheckRun& ioRun)
                             "reach one that lies deeper by an item with \"config\""));
 }
 
+/// The engine keeps the word with the record and reads it never, so that a wrong one stays for good.
+void CheckTypeWord(const SourceItem& iItem, CheckRun& ioRun)
+{
+    static const std::vector<std::string> words{"real", "integer", "boolean", "enumeration", "string"};
+    const std::string_view word = iItem.Text("type");
+    if (SetsDefault(iItem.role) && !word.empty() && std::find(words.begin(), words.end(), word) == words.end())
+        ioRun.Add(FindingAt(iItem, "type", FindingKind::UnknownType, Severity::Warning,
+                            Quoted(word) + " is no type of an attribute with a default"),
+                  word, words);
+}
+
 /// An empty text counts as none, which its writer may not have meant.
 void CheckEmpty(const SourceItem& iItem, CheckRun& ioRun)
 {
@@ -119,6 +132,7 @@ void CheckRoles(CheckRun& ioRun)
         for (const SourceItem& item : ItemsOf(configuration))
         {
             CheckEmpty(item, ioRun);
+            CheckTypeWord(item, ioRun);
             const bool isIdle = item.role == ItemRole::ValueWithoutList || item.role == ItemRole::Nothing;
             if (!isIdle)
                 CheckUnread(item, ioRun);
