@@ -14,7 +14,10 @@ namespace
 /// Below a folder of the installation.
 std::string RelativePath(const std::string& iName)
 {
-    return std::string("reffiles") + ORXFolderSeparator + "VYRCfdApp" + ORXFolderSeparator + iName;
+    // Of a sum g++ 12 believes, optimised, that it is written beyond its end.
+    std::string path("reffiles");
+    path.append(ORXFolderSeparator).append("VYRCfdApp").append(ORXFolderSeparator);
+    return path + iName;
 }
 
 UnreadableFile Missing(const std::string& iName, const Installation& iInstallation)
