@@ -172,6 +172,23 @@ const BadInput ConfigurationFiles[] = {
      Configuration + ":2:44: Missing a closing quotation mark in string.\n"},
     {"NoUtf8", Written(Configuration, "{\n    \"configurations\": [ { \"name\": \"freestream\xE4ir\" } ] }"),
      ApplyAndSave, 1, Configuration + ":2:46: Invalid encoding in string.\n"},
+    {"Folder",
+     [](const TemporaryFolder& iFolder) {
+         Removed(Configuration)(iFolder);
+         std::filesystem::create_directory(iFolder.Path(Configuration));
+     },
+     List, 1, Configuration + ": is a folder, not a file\n"},
+    {"LinkToNothing",
+     [](const TemporaryFolder& iFolder) {
+         Removed(Configuration)(iFolder);
+         std::filesystem::create_symlink("nothing.json", iFolder.Path(Configuration));
+     },
+     List, 1, Configuration + ": is a link that leads to no file\n"},
+    {"EscapeThatIsNone", Written(Configuration, R"({"configurations": [{"name": "C:\data"}]})"), List, 1,
+     Configuration +
+         R"(:1:33: Invalid escape character in string; behind a backslash stands one of " \ / b f n r t, or )"
+         R"(u and four digits, and a backslash itself is written \\)"
+         "\n"},
     {"ByteOrderMark", Written(Configuration, "\xEF\xBB\xBF{}"), Apply, 1,
      Configuration + ":1:1: A byte order mark has no place in JSON.\n"},
     {"NoObject", Written(Configuration, "[]"), Apply, 1,
@@ -338,6 +355,24 @@ const BadInput Outputs[] = {
      {"apply", Model, "Solver.1", "externalFlow", "-o", "/proc/out.model.json"},
      1,
      "/proc/out.model.json: cannot be written: No such file or directory\n"},
+    {"StandardOutput",
+     Nothing(),
+     {"apply", Model, "Solver.1", "externalFlow", "-o", "-"},
+     2,
+     "vyrcfd: --output: - is no file: standard output has the answer of the command; a file of that name is ./-; see "
+     "vyrcfd apply --help\n"},
+    {"StandardOutputOfPurge",
+     Nothing(),
+     {"purge", Model, "--yes", "-o", "-"},
+     2,
+     "vyrcfd: --output: - is no file: standard output has the answer of the command; a file of that name is ./-; see "
+     "vyrcfd purge --help\n"},
+    {"StandardOutputOfGraph",
+     Nothing(),
+     {"graph", "-o", "-"},
+     2,
+     "vyrcfd: --output: - is no file: standard output has the answer of the command; a file of that name is ./-; see "
+     "vyrcfd graph --help\n"},
     {"FullDevice",
      Nothing(),
      {"apply", Model, "Solver.1", "externalFlow", "-o", "/dev/full"},

@@ -10,6 +10,7 @@
 #include <regex>
 #include <set>
 #include <sstream>
+#include <sys/stat.h>
 
 #include "ToolTest.h"
 
@@ -355,6 +356,16 @@ TEST_F(CheckTest, FilesOfAllFoldersOfAnInstallation_AreLookedAt)
               "[unreadable-file]\n"
               "over/reffiles/VYRCfdApp/more.json:1:1: warning: the engine reads a fixed list of files, "
               "and none of this name [ignored-file]\n");
+}
+
+TEST_F(CheckTest, APipeInPlaceOfAFile_IsTold_AndNobodyWaitsForIt)
+{
+    AddConfigurations(R"({"configurations": [{"name": "main"}]})");
+    const std::string pipe = m_folder.Path(Reffiles + "meshFYEConfig.json");
+    fs::remove(pipe);
+    ASSERT_EQ(mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR), 0);
+    EXPECT_EQ(FindingsIn(Check()), "meshFYEConfig.json:1:1: error: is a pipe or a device, not a file; without this "
+                                   "file the engine reads no configuration at all [unreadable-file]\n");
 }
 
 TEST_F(CheckTest, ACatalogThatIsNotThere_IsAFinding)

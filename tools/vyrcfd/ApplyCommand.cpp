@@ -98,7 +98,7 @@ void AddApplyCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
         ->add_option("-o,--output", arguments->output,
                      "File to save the changed model in, which may be MODEL itself; without it nothing is written")
         ->type_name("FILE")
-        ->check([](const std::string& iFile) { return iFile.empty() ? "names no file" : std::string(); }, "");
+        ->check(&ObjectionToOutput, "");
     AddCommonOptions(*command, ioOptions);
     command->footer(
         std::string(ObjectPathHelp) +

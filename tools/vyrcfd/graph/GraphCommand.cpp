@@ -33,8 +33,8 @@ std::string ExtensionOf(const std::string& iFile)
 /// What is wrong with the name of the file; empty for nothing.
 std::string Objection(const std::string& iFile)
 {
-    if (iFile.empty())
-        return "names no file";
+    if (std::string objection = ObjectionToOutput(iFile); !objection.empty())
+        return objection;
     const std::string extension = ExtensionOf(iFile);
     const bool isKnown = extension == ".svg" || extension == ".dot" || extension == ".gv";
     return isKnown ? std::string() : Quoted(iFile) + " must end in .svg, .dot or .gv";

@@ -144,7 +144,7 @@ DocumentFault FaultOf(const VYRStandalone::DocumentError& iError, const std::vec
 std::string LineOf(const VYRStandalone::DocumentError& iError, const std::vector<std::string>& iCatalogFolders)
 {
     const DocumentFault fault = FaultOf(iError, iCatalogFolders);
-    std::string line = OneLine(iError.what());
+    std::string line = LineOf(iError);
     const std::string file = OneLine(iError.File());
     if (iError.Line() == 0 && fault.hasPlace && BeginsWith(line, file + ":"))
         line.insert(file.size(),
