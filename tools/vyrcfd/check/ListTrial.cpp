@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "ItemTrial.h"
 #include "MeantLists.h"
 #include "ScratchObjects.h"
@@ -11,11 +9,6 @@ namespace Tool
 {
 namespace
 {
-bool Holds(const std::vector<std::string>& iTexts, std::string_view iText)
-{
-    return std::find(iTexts.begin(), iTexts.end(), iText) != iTexts.end();
-}
-
 void AddFailed(const SourceItem& iItem, const Trial& iTrial, const char* iKey, FindingKind iKind,
                const std::string& iMessage, TrialFindings& oFindings)
 {

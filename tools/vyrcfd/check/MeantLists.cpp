@@ -9,11 +9,6 @@ namespace Tool
 {
 namespace
 {
-bool Holds(const std::vector<std::string>& iEntries, std::string_view iEntry)
-{
-    return std::find(iEntries.begin(), iEntries.end(), iEntry) != iEntries.end();
-}
-
 /// The text with commas in place of a sign; of blanks, only of those inside an entry.
 std::string WithCommas(const std::string& iText, char iSign)
 {
@@ -183,6 +178,11 @@ MeantEntries MeantEntriesOf(const SourceItem& iItem)
     entries.findings.push_back(WrongSeparator(iItem, "value", entries.text, meant, sign, Severity::Warning));
     entries.text = std::move(meant);
     return entries;
+}
+
+bool Holds(const std::vector<std::string>& iEntries, std::string_view iEntry)
+{
+    return std::find(iEntries.begin(), iEntries.end(), iEntry) != iEntries.end();
 }
 
 std::vector<std::string> WrittenEntries(std::string_view iText)

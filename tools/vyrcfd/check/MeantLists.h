@@ -54,6 +54,8 @@ MeantEntries MeantEntriesOf(const SourceItem& iItem);
 
 /// The text between commas as a reader takes it: blanks at its ends do not count.
 std::vector<std::string> WrittenEntries(std::string_view iText);
+
+bool Holds(const std::vector<std::string>& iEntries, std::string_view iEntry);
 } // namespace Tool
 
 #endif

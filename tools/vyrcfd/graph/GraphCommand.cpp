@@ -78,7 +78,8 @@ void AddGraphCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
     AddCommonOptions(*command, ioOptions);
     command->footer(
         "Configurations of one file stand in one box. A dashed line is a reference on the condition that it bears; "
-        "pointing at a line or a box in the SVG tells the items and the places. In red: references in a circle, and "
+        "pointing at a line or a box in the SVG tells the items and the places. A configuration from which more than "
+        "eight lines lead into other files stands in these once more, dashed. In red: references in a circle, and "
         "names that no configuration has."
         "\n\nWith --json: {\"configurations\": [{\"name\", \"file\", \"line\"}], \"references\": [{\"from\", "
         "\"to\", \"item\", \"line\", \"path\", \"condition\", \"inCircle\"}]}; \"file\" and \"line\" are null for "
