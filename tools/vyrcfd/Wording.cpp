@@ -181,6 +181,12 @@ std::string Nearest(std::string_view iUnknown, const std::vector<std::string>& i
     return isOnly ? *longer : std::string();
 }
 
+bool IsSlip(std::string_view iUnknown, std::string_view iKnown)
+{
+    return EqualsIgnoringCase(iUnknown, iKnown) ||
+           EditDistance(iUnknown, iKnown) <= std::max<std::size_t>(1, iUnknown.size() / 6);
+}
+
 std::string DidYouMean(std::string_view iUnknown, const std::vector<std::string>& iKnown)
 {
     const std::string nearest = Nearest(iUnknown, iKnown);

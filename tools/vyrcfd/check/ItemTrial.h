@@ -7,6 +7,7 @@
  */
 
 #include <map>
+#include <optional>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -39,6 +40,8 @@ struct TrialFinding
     Finding finding;
     std::string unknown{};
     std::vector<std::string> known{};
+    /// A finding of the texts that is the same mistake, seen from elsewhere.
+    std::optional<Finding> replaced{};
 };
 
 using TrialFindings = std::vector<TrialFinding>;

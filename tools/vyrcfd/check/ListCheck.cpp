@@ -55,13 +55,24 @@ private:
     {
         MeantLists lists = MeantListsOf(iItem);
         Add(std::move(lists.findings));
-        CheckEntries(iItem, lists.choicesKey, lists.choices,
-                     "an entry of \"choices\" is empty, and is a choice without a name");
+        constexpr char isEmpty[] = "an entry of \"choices\" is empty, and is a choice without a name";
+        // Nothing else can be right where there are none.
+        if (lists.choices.find_first_not_of(' ') == std::string::npos)
+        {
+            const bool fails = SplitTexts(lists.startups).size() > 1 || !iItem.Text("default").empty();
+            m_run.Add(FindingAt(iItem, lists.choicesKey, FindingKind::BlankInList,
+                                fails ? Severity::Error : Severity::Warning, isEmpty));
+            return;
+        }
+        CheckEntries(iItem, lists.choicesKey, lists.choices, isEmpty);
         const std::vector<std::string> choices = SplitTexts(lists.choices);
         CheckDoubled(iItem, lists.choicesKey, choices);
+        const std::size_t startups = lists.hasStartups ? SplitTexts(lists.startups).size() : choices.size();
         if (IsText(iItem, "Startups"))
-            CheckStartups(iItem, lists, choices.size());
-        CheckDefault(iItem, choices);
+            CheckStartups(iItem, lists, choices, startups);
+        // A choice that is missing in the list may be the default.
+        if (startups <= choices.size() || !IsText(iItem, "Startups"))
+            CheckDefault(iItem, choices);
     }
 
     void Add(std::vector<Finding> iFindings)
@@ -97,21 +108,30 @@ private:
             }
     }
 
-    void CheckStartups(const SourceItem& iItem, const MeantLists& iLists, std::size_t iChoices)
+    void CheckStartups(const SourceItem& iItem, const MeantLists& iLists, const std::vector<std::string>& iChoices,
+                       std::size_t iStartups)
     {
         CheckBlanks(iItem, iLists.startupsKey, iLists.startups);
-        const std::size_t startups = SplitTexts(iLists.startups).size();
-        if (startups != iChoices)
-            m_run.Add(FindingAt(iItem, iLists.startupsKey, FindingKind::UnequalLists, Severity::Error,
-                                "there is one startup for each choice, an empty one for a choice without data: " +
-                                    Counted(iChoices, "choice") + " and " + Counted(startups, "startup") +
-                                    " make the item fail"));
+        if (iStartups == iChoices.size())
+            return;
+        std::string message = "there is one startup for each choice, an empty one for a choice without data: " +
+                              Counted(iChoices.size(), "choice") + " and " + Counted(iStartups, "startup") +
+                              " make the item fail";
+        if (iStartups > iChoices.size() && IsOutside(iItem, iChoices))
+            message += "; the default " + Quoted(iItem.Text("default")) + " is none of the choices";
+        m_run.Add(FindingAt(iItem, iLists.startupsKey, FindingKind::UnequalLists, Severity::Error, std::move(message)));
+    }
+
+    static bool IsOutside(const SourceItem& iItem, const std::vector<std::string>& iChoices)
+    {
+        const std::string_view chosen = iItem.Text("default");
+        return !chosen.empty() && std::find(iChoices.begin(), iChoices.end(), chosen) == iChoices.end();
     }
 
     void CheckDefault(const SourceItem& iItem, const std::vector<std::string>& iChoices)
     {
         const std::string_view chosen = iItem.Text("default");
-        if (!chosen.empty() && std::find(iChoices.begin(), iChoices.end(), chosen) == iChoices.end())
+        if (IsOutside(iItem, iChoices))
             m_run.Add(FindingAt(iItem, "default", FindingKind::DefaultNotInChoices, Severity::Error,
                                 "the default " + Quoted(chosen) + " is none of the choices"),
                       chosen, iChoices);

@@ -37,9 +37,16 @@ void TryManager(const SourceItem& iItem, const Trial& iTrial, const VYRICfdChoic
                       "the choice " + Quoted(choice) + " is none of those that are declared", oFindings);
             oFindings.back().unknown = choice;
             oFindings.back().known = declared;
+            // Then the default is no mistake of its own.
+            const std::string_view chosen = iItem.Text("default");
+            if (Holds(declared, chosen) && Nearest(choice, declared) == chosen)
+                oFindings.back().replaced =
+                    FindingAt(iItem, "default", FindingKind::DefaultNotInChoices, Severity::Error, {});
             return;
         }
     const std::string_view chosen = iItem.Text("default");
+    if (chosen.empty() && HasWrongKey(iItem.value))
+        return;
     if (chosen.empty())
         AddFailed(iItem, iTrial, "default", FindingKind::DefaultNotInChoices,
                   "a Choice that has a manager wants a \"default\" beside \"choices\"", oFindings);

@@ -64,6 +64,10 @@ public:
             CheckMeant(meant);
         for (const SourceConfiguration& configuration : m_run.source.Configurations())
             CheckReferences(configuration);
+        // Of names that are as near the one that nothing refers to is the more likely.
+        std::stable_partition(m_known.begin(), m_known.end(), [&](const std::string& iName) {
+            return m_used.count(iName) == 0 && m_run.wanted.count(iName) == 0;
+        });
         for (Unknown& unknown : m_unknown)
             Resolve(unknown);
         TakeForDuplicate();
@@ -159,6 +163,12 @@ private:
         m_run.unclear.insert(iName);
     }
 
+    /// Whether no known name is so near that it must be the one.
+    static bool IsDoubtful(const Unknown& iOne)
+    {
+        return iOne.finding.suggestion.empty() || !IsSlip(iOne.name, iOne.finding.suggestion);
+    }
+
     /// The only unknown name that fits; past the end for none or several.
     template <class Fits> std::vector<Unknown>::iterator OnlyUnknown(Fits iFits)
     {
@@ -180,19 +190,20 @@ private:
             }
         if (duplicate == nullptr)
             return;
-        const auto unknown = OnlyUnknown([&](const Unknown& iOne) {
-            return iOne.finding.suggestion.empty() || iOne.finding.suggestion == duplicate->name;
-        });
+        const auto unknown = OnlyUnknown(
+            [&](const Unknown& iOne) { return IsDoubtful(iOne) || iOne.finding.suggestion == duplicate->name; });
         if (unknown == m_unknown.end())
             return;
         m_missing = std::move(*unknown);
+        m_run.ambiguous.insert(duplicate->name);
+        TakeAsUsed(duplicate->name);
         m_unknown.erase(unknown);
     }
 
     /// A name that nothing has and nothing resembles is probably that of the only one that nothing refers to.
     void TakeForUnused()
     {
-        const auto unknown = OnlyUnknown([](const Unknown& iOne) { return iOne.finding.suggestion.empty(); });
+        const auto unknown = OnlyUnknown(IsDoubtful);
         const SourceConfiguration* unused = nullptr;
         for (const SourceConfiguration& configuration : m_run.source.Configurations())
             if (IsUnused(configuration))
@@ -255,7 +266,8 @@ private:
             std::vector<RelatedPlace> places{{missing.file, missing.position.line}};
             places.insert(places.end(), missing.related.begin(), missing.related.end());
             finding.message += "; there is none called " + Quoted(m_missing->name) + ", to which " + Shown(places) +
-                               (places.size() == 1 ? " refers" : " refer");
+                               (places.size() == 1 ? " refers" : " refer") +
+                               ", and one of the two may be meant to be it";
             finding.suggestion = m_missing->name;
             finding.related.insert(finding.related.end(), places.begin(), places.end());
         }

@@ -80,6 +80,8 @@ void CheckUnread(const SourceItem& iItem, CheckRun& ioRun)
     {
         if (!Says(iItem, key) && !iItem.value.IsTrueAt(key))
             continue;
+        if (key == "display" && SetsDefault(iItem.role) && Says(iItem, "Startups"))
+            continue; // As these, it belongs to "choices".
         if (key == "Startups" && SetsDefault(iItem.role))
         {
             ioRun.Add(FindingAt(iItem, key, FindingKind::IgnoredKey, Severity::Error,
@@ -134,7 +136,8 @@ void CheckRoles(CheckRun& ioRun)
             CheckEmpty(item, ioRun);
             CheckTypeWord(item, ioRun);
             const bool isIdle = item.role == ItemRole::ValueWithoutList || item.role == ItemRole::Nothing;
-            if (!isIdle)
+            // What a key that is wrong was to say may be what the others belong to.
+            if (!isIdle && !HasWrongKey(item.value))
                 CheckUnread(item, ioRun);
             else if (!HasWrongKey(item.value))
             {

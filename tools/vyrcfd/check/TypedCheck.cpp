@@ -66,7 +66,7 @@ void TypedCheck::Check(const CatalogSource& iCatalogs)
 void TypedCheck::Put(std::string_view iConfiguration, Task iTask)
 {
     iTask.configuration = m_run.source.Find(iConfiguration);
-    if (iTask.configuration != nullptr &&
+    if (iTask.configuration != nullptr && m_run.ambiguous.count(iConfiguration) == 0 &&
         m_known.emplace(iTask.configuration, iTask.place.type, iTask.place.path).second)
         m_tasks.push_back(std::move(iTask));
 }
@@ -206,7 +206,7 @@ bool TypedCheck::IsBrokenChoice(const SourceItem& iItem, bool iHasFailed) const
         return m_run.findings.Has(FindingAt(iItem, iKey, iKind, Severity::Error, {}));
     };
     return iHasFailed || HasWrongKey(iItem.value) || isTold(FindingKind::UnequalLists, "Startups") ||
-           isTold(FindingKind::UnequalLists, "choices");
+           isTold(FindingKind::UnequalLists, "choices") || Trimmed(iItem.Text("choices")).empty();
 }
 
 void TypedCheck::TryItem(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings)
@@ -224,8 +224,12 @@ void TypedCheck::TryReference(const SourceItem& iItem, const Trial& iTrial, Tria
     PathWalk walk(iTrial.object, iTrial.place);
     const std::string path(iItem.Text("path"));
     const std::size_t found = oFindings.size();
-    const Guard guard =
-        iItem.role == ItemRole::Conditional ? TryCondition(iItem, iTrial, walk, oFindings) : Guard::Clear;
+    Guard guard = iItem.role == ItemRole::Conditional ? TryCondition(iItem, iTrial, walk, oFindings) : Guard::Clear;
+    // Under which condition it is to be applied is not known. One that is empty is told already.
+    if (iItem.role == ItemRole::Nested && iItem.value.Has("condition"))
+        guard = Guard::Odd;
+    else if (m_presentData.Try(iItem, iTrial, oFindings))
+        guard = Guard::Odd;
     // What such a path was to lead to is not known.
     if (guard != Guard::None && EndOfNames(path) == path.size())
     {
@@ -241,7 +245,6 @@ void TypedCheck::TryReference(const SourceItem& iItem, const Trial& iTrial, Tria
         });
     if (!isClear || leadsNowhere)
         m_run.unclear.emplace(iItem.Text("config"));
-    m_presentData.Try(iItem, iTrial, oFindings);
 }
 
 /// Of two configurations for the same Choice one may choose before the other.
@@ -328,10 +331,14 @@ void TypedCheck::CheckTypeNames()
 void TypedCheck::Report(TrialFindings iFindings)
 {
     for (TrialFinding& one : iFindings)
+    {
+        if (one.replaced)
+            m_run.findings.Remove(*one.replaced);
         if (m_run.findings.Has(one.finding))
             m_run.findings.Raise(one.finding);
         else
             m_run.Add(std::move(one.finding), one.unknown,
                       one.unknown.empty() ? std::vector<std::string>() : one.known);
+    }
 }
 } // namespace Tool
