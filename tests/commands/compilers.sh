@@ -9,6 +9,8 @@ set_up "${TEST_PACKAGES[@]}" clang clang-19
 is_timed=0
 [ "${1-}" != --timed ] || is_timed=1
 
+declare -A unity=([dev]=OFF [clang]=ON [clang-19]=ON)
+
 # ninja_of PRESET ARGUMENT...: builds what was configured.
 ninja_of() { (cd "$root" && cmake --build --preset "$1" --parallel "$(nproc)" "${@:2}") >&2; }
 
@@ -22,14 +24,15 @@ tell_time() {
 compile_all() {
     local preset=$1 files unchecked libraries
     local commands=$root/build/$preset/compile_commands.json
-    (cd "$root" && cmake --preset "$preset" -DVYRCFD_BUILD_TESTS=ON) >&2 || return 1
+    # The first compiler takes each file by itself, so that it tells of one that lacks an include.
+    (cd "$root" && cmake --preset "$preset" -DVYRCFD_BUILD_TESTS=ON "-DVYRCFD_UNITY=${unity[$preset]}") >&2 || return 1
     files=$(grep -c '"command":' "$commands")
     unchecked=$(grep '"command":' "$commands" | grep -vc -e ' -Werror ') || true
     # A file for which warnings are none would pass in silence.
     [ "$unchecked" -eq 0 ] || { echo "$unchecked files without -Werror" && return 1; }
     if [ "$is_timed" -eq 0 ]; then
         ninja_of "$preset" -- -k 0 || return 1
-        echo "$files files"
+        echo "$files translation units"
         return
     fi
     export CCACHE_DISABLE=1
@@ -44,7 +47,7 @@ compile_all() {
     of_libraries=$((used - before))
     ninja_of "$preset" -- -k 0 || return 1
     tell_time
-    echo "$files files, libraries in $libraries s ($of_libraries s of a processor)," \
+    echo "$files translation units, libraries in $libraries s ($of_libraries s of a processor)," \
         "everything in $SECONDS s ($((used - before)) s)"
 }
 
