@@ -94,7 +94,7 @@ ExitStatus Run(const Tool::Job& iJob, const Tool::CommonOptions& iOptions, const
     }
     catch (const VYRStandalone::DocumentError& error)
     {
-        iAnswer.Tell(Tool::LineOf(error, CatalogFolders(iOptions)));
+        iAnswer.Tell(Tool::PlacedLineOf(error, CatalogFolders(iOptions)));
     }
     catch (const std::exception& error)
     {

@@ -52,10 +52,10 @@ struct Reading
     std::string startups;
 };
 
-class Reader
+class ListsReader
 {
 public:
-    explicit Reader(const SourceItem& iItem)
+    explicit ListsReader(const SourceItem& iItem)
         : m_item(iItem), m_written{std::string(iItem.Text("choices")), std::string(iItem.Text("Startups"))},
           m_hasStartups(iItem.value.Has("Startups")), m_default(iItem.Text("default"))
     {
@@ -131,7 +131,7 @@ Finding WrongSeparator(const SourceItem& iItem, const char* iKey, const std::str
     return finding;
 }
 
-Reading Reader::Told(const Reading& iReading, char iSign, bool iFails, std::vector<Finding>& oFindings) const
+Reading ListsReader::Told(const Reading& iReading, char iSign, bool iFails, std::vector<Finding>& oFindings) const
 {
     const bool isInChoices = iReading.choices != m_written.choices;
     Finding finding = isInChoices ? WrongSeparator(m_item, "choices", m_written.choices, iReading.choices, iSign,
@@ -165,7 +165,7 @@ bool AreSwapped(const std::vector<std::string>& iChoices, const std::vector<std:
 
 MeantLists MeantListsOf(const SourceItem& iItem)
 {
-    return Reader(iItem).Read();
+    return ListsReader(iItem).Read();
 }
 
 MeantEntries MeantEntriesOf(const SourceItem& iItem)

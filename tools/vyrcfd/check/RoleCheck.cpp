@@ -80,8 +80,9 @@ void CheckUnread(const SourceItem& iItem, CheckRun& ioRun)
     {
         if (!Says(iItem, key) && !iItem.value.IsTrueAt(key))
             continue;
-        if (key == "display" && SetsDefault(iItem.role) && Says(iItem, "Startups"))
-            continue; // As these, it belongs to "choices".
+        // As "Startups" and a default without attribute, it belongs to "choices", which are missing; that is told.
+        if (key == "display" && SetsDefault(iItem.role) && (Says(iItem, "Startups") || !Says(iItem, "path")))
+            continue;
         if (key == "Startups" && SetsDefault(iItem.role))
         {
             ioRun.Add(FindingAt(iItem, key, FindingKind::IgnoredKey, Severity::Error,

@@ -51,7 +51,7 @@ UnreadableFile Unread(const std::string& iPath, const VYRStandalone::DocumentErr
 {
     const bool hasPlace = iError.Line() > 0;
     const SourcePosition position = hasPlace ? SourcePosition{iError.Line(), iError.Column()} : SourcePosition{};
-    return {iPath, position, MessageOf(iError), false, LineOf(iError)};
+    return {iPath, position, MessageOf(iError), false, ErrorLineOf(iError)};
 }
 } // namespace
 

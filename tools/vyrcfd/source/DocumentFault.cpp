@@ -141,10 +141,10 @@ DocumentFault FaultOf(const VYRStandalone::DocumentError& iError, const std::vec
     return fault;
 }
 
-std::string LineOf(const VYRStandalone::DocumentError& iError, const std::vector<std::string>& iCatalogFolders)
+std::string PlacedLineOf(const VYRStandalone::DocumentError& iError, const std::vector<std::string>& iCatalogFolders)
 {
     const DocumentFault fault = FaultOf(iError, iCatalogFolders);
-    std::string line = LineOf(iError);
+    std::string line = ErrorLineOf(iError);
     const std::string file = OneLine(iError.File());
     if (iError.Line() == 0 && fault.hasPlace && BeginsWith(line, file + ":"))
         line.insert(file.size(),

@@ -30,7 +30,7 @@ struct DocumentFault
 DocumentFault FaultOf(const VYRStandalone::DocumentError& iError, const std::vector<std::string>& iCatalogFolders);
 
 /// In one line: what the error says, with line and column behind its file, and what was probably meant.
-std::string LineOf(const VYRStandalone::DocumentError& iError, const std::vector<std::string>& iCatalogFolders);
+std::string PlacedLineOf(const VYRStandalone::DocumentError& iError, const std::vector<std::string>& iCatalogFolders);
 } // namespace Tool
 
 #endif

@@ -34,7 +34,7 @@ std::string MessageOf(const VYRStandalone::DocumentError& iError)
     return Explained(std::move(message));
 }
 
-std::string LineOf(const VYRStandalone::DocumentError& iError)
+std::string ErrorLineOf(const VYRStandalone::DocumentError& iError)
 {
     return Explained(OneLine(iError.what()));
 }

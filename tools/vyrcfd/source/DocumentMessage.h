@@ -16,7 +16,7 @@ namespace Tool
 std::string MessageOf(const VYRStandalone::DocumentError& iError);
 
 /// The whole line, with what there is to add to its message.
-std::string LineOf(const VYRStandalone::DocumentError& iError);
+std::string ErrorLineOf(const VYRStandalone::DocumentError& iError);
 } // namespace Tool
 
 #endif
