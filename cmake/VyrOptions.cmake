@@ -22,6 +22,7 @@ cmake_dependent_option(VYRCFD_BUILD_BENCH
   VYRCFD_HAS_STANDALONE_HOST OFF)
 option(VYRCFD_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 set(VYRCFD_SANITIZE "" CACHE STRING "Sanitizers for the whole tree, as -fsanitize= takes them; clang")
+option(VYRCFD_UNITY "Compile the tests, the tool and, under sanitizers, the host some sources at a time" OFF)
 option(VYRCFD_COVERAGE "Measure which lines and branches of the two libraries run; clang" OFF)
 
 # What a newer library can stand in for: before 1.0.0 each minor version is one of its own, from then on each major one.

@@ -11,6 +11,8 @@ target_compile_options(vyr_warnings INTERFACE
   -Woverloaded-virtual
   # The string operations of the library that comes with g++ 12 set it off in optimised builds, whatever they are given.
   $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>
+  # Its stable sort calls what it declares deprecated, which clang 19 tells of; older compilers look after our own calls.
+  $<$<AND:$<CXX_COMPILER_ID:Clang>,$<VERSION_GREATER_EQUAL:$<CXX_COMPILER_VERSION>,19>>:-Wno-deprecated-declarations>
   $<$<BOOL:${VYRCFD_WARNINGS_AS_ERRORS}>:-Werror>)
 
 # vyr_glob(<out> <pattern>...)
@@ -23,6 +25,17 @@ function(vyr_glob out)
     message(FATAL_ERROR "No source file matches ${ARGN}")
   endif()
   set(${out} ${sources} PARENT_SCOPE)
+endfunction()
+
+# vyr_unity(<target>)
+#
+# With VYRCFD_UNITY, compiles the target's sources some at a time, which takes half as long where everything has to be
+# compiled. Names that are local to a file must then differ between the files of a target; SKIP_UNITY_BUILD_INCLUSION
+# keeps a file by itself whose names cannot.
+function(vyr_unity target)
+  if(VYRCFD_UNITY)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 12)
+  endif()
 endfunction()
 
 # vyr_library_defaults(<target>)

@@ -27,6 +27,7 @@ function(vyr_precompiled target)
   target_compile_options(${target} PRIVATE -O0)
   target_link_libraries(${target} PRIVATE GTest::gtest)
   target_precompile_headers(${target} REUSE_FROM vyr_test_headers)
+  vyr_unity(${target})
 endfunction()
 
 # vyr_add_test(<name> SOURCES <file>... [LABELS <label>...] [ENVIRONMENT <NAME=value>...])

@@ -63,7 +63,9 @@ private:
         {
             if (++m_count > Most)
                 return;
-            Count(item.ReadString("config"), iDepth + 1);
+            // An item without it applies nothing, though a configuration may have no name.
+            if (const ORXUnicodeString config = item.ReadString("config"); !config.IsEmpty())
+                Count(config, iDepth + 1);
         }
     }
 

@@ -58,7 +58,7 @@ public:
     HRESULT GetChoice(ORXUnicodeString& oChoice);
     /// The attribute `display`.
     HRESULT GetDefaultDisplay(ORXUnicodeString& oDisplay);
-    /// Appends to `oListChoices`.
+    /// Appends to `oListChoices`; linear in the choices.
     HRESULT GetListOfChoices(std::vector<ORXUnicodeString>& oListChoices);
     /// @return E_NOTIMPL, with nothing touched, the error status included
     HRESULT GetListOfChoicesNLS(std::vector<ORXUnicodeString>& oListChoices);
@@ -66,10 +66,12 @@ public:
     /**
      * Brings the Choice up to date: checks the lists, makes `Data` match the value, publishes the allowed values,
      * settles the default, repairs a value that is no choice, applies the configurations recorded for the path "Data",
-     * calls `CompleteUpdate` and sends a VYRCfdAttributeNotification if something changed.
+     * calls `CompleteUpdate` and sends a VYRCfdAttributeNotification if something changed. Linear in the choices, beside
+     * what configuring the data object takes.
      * @param iDefault a new default; empty keeps that of default management. By value, since what it came from may
      * change on the way
-     * @return S_FALSE when a bracket holds the update back
+     * @return S_FALSE when a bracket holds the update back; E_FAIL, reported, for lists that do not go together, an
+     * empty list, and a Choice without default management
      */
     HRESULT Update(ORXUnicodeString iDefault);
 

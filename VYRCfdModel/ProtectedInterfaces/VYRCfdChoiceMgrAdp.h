@@ -17,7 +17,8 @@
  * the types that are to have a manager.
  *
  * All checks come before the first write. The lists are read without looking at how that went: a list that cannot be
- * read is an empty one.
+ * read is an empty one. Failures are reported. An operation costs time in the order of the choices that it is given
+ * times the declared ones, and one update of the Choice.
  */
 class VYRCfdBaseExport VYRCfdChoiceMgrAdp : public VYRICfdChoiceMgr
 {
@@ -34,6 +35,7 @@ public:
     /// that of the feature.
     HRESULT Reset(unsigned char iKeepValue) override;
 
+    /// Appends the choices of the start-up, and gives its value as the default.
     HRESULT GetAllChoices(std::vector<ORXUnicodeString>& oChoices, ORXUnicodeString& oDefaultChoice) override;
     /// As `ProhibitChoices` with this one.
     HRESULT ProhibitChoice(const ORXUnicodeString& iChoice) override;

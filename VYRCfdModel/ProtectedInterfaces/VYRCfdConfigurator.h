@@ -51,14 +51,15 @@ using VYRCfdConfigurationMap = std::unordered_map<ORXUnicodeString, std::vector<
 class VYRCfdBaseExport VYRCfdConfigurator
 {
 public:
-    /// The one instance; borrowed, valid until the library is unloaded. Reads no file.
+    /// The one instance, never null; borrowed, valid until the library is unloaded. Reads no file.
     static VYRCfdConfigurator* GetConfigurator();
 
     ~VYRCfdConfigurator();
     VYRCfdConfigurator(const VYRCfdConfigurator&) = delete;
     VYRCfdConfigurator& operator=(const VYRCfdConfigurator&) = delete;
 
-    /// Copies the map. @return a negative status when the files cannot be loaded
+    /// Copies the map, which costs time linear in the configurations of all files.
+    /// @return a negative status when the files cannot be loaded, reported
     HRESULT GetConfigurationMap(VYRCfdConfigurationMap& oConfigurations);
 
     /**
@@ -66,9 +67,13 @@ public:
      * and at the end the records of the defaults and of the conditional items on the object. A failing item ends the
      * walk, and what was done stays; what a nested configuration reports does not. Configurations that lead back to
      * themselves are stopped at a nesting of 512, and those that multiply after 100,000 applications, with one error
-     * each; from then on the outermost application applies no
-     * further nested configuration.
-     * @return S_OK, S_FALSE for a configuration without items, or a negative status
+     * each; from then on the outermost application applies no further nested configuration.
+     *
+     * The object stays the caller's. Linear in the items, of which each walks its path and does its writes with all that
+     * listens to them; the first application reads the files.
+     * @return S_OK, S_FALSE for a configuration without items, or a negative status, which is reported: for files that
+     * cannot be loaded, a name that no file has, an object without default management or outside every container, and
+     * an item that failed
      */
     long ApplyConfiguration(const ORXBaseUnknown_var& ispObject, const ORXUnicodeString& iConfigName);
 

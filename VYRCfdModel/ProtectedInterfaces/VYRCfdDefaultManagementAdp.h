@@ -22,6 +22,9 @@ class ORXISpecAttribute;
  *
  * A default is resolved in this order: custom default, record, start-up. Custom defaults live in this instance only and
  * are not stored with the model; a record that has been found once is kept among them.
+ *
+ * An empty name answers E_FAIL in silence, except for `Unset`; a sub-feature or a parameter that is missing is reported.
+ * A flag costs a look-up by name, a default one among the custom ones, and where there is none a walk over the records.
  */
 class VYRCfdBaseExport VYRCfdDefaultManagementAdp : public VYRIMpaDefaultManagementProtected
 {
@@ -31,13 +34,16 @@ public:
 
     /// Makes the flag where there is none yet, as one that is not set.
     HRESULT IsSet(const ORXUnicodeString& iAttrName, unsigned char& oIsSet) override;
-    /// Puts the attribute back on its default. @return S_FALSE for an empty name
+    /// Puts the attribute back on its default, tells those who listen to it, and clears the flag. @return S_FALSE for an
+    /// empty name; S_OK also where no default was found, which is reported
     HRESULT Unset(const ORXUnicodeString& iAttrName) override;
-    /// The custom default, else the recorded one, else the declared one.
+    /// The custom default, else the recorded one, else the declared one. `oValue` shares the value that is kept.
+    /// @return E_FAIL where there is none of them, with `oValue` as it was
     HRESULT GetDefault(const ORXUnicodeString& iAttrName, ORXICkeInst_var& oValue) override;
     /// Does nothing, successfully, while a default is being written.
     HRESULT SetIsSet(const ORXUnicodeString& iAttrName, unsigned char iIsSet) override;
-    /// A text that does not read as the attribute's type is kept as a default without value.
+    /// A text that does not read as the attribute's type is kept as a default without value. An attribute that is not
+    /// set takes the default at once, as by `Unset`.
     HRESULT SetCustomDefault(const ORXUnicodeString& iAttrName, ORXUnicodeString& iValue) override;
     /// The value is kept as it is, and held; the attribute is not touched.
     HRESULT SetCustomDefault(const ORXUnicodeString& iAttrName, ORXICkeInst_var& iValue) override;

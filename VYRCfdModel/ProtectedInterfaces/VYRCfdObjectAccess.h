@@ -42,8 +42,10 @@ using VYRCfdKeyFunction = ORXISpecAttrKey* (*)(ORXISpecAttrAccess* iAccess);
  *
  * Indices count from 1. Index 0 is the attribute itself: the scalar, or the whole list, never the first entry.
  *
- * Copying costs two reference counts and a string; nothing is cached. Navigation and writes are const: they change the
- * model, not the cursor. One cursor is used by one thread at a time, like the objects that it walks.
+ * A cursor holds a reference on its object, which stays the model's. Copying costs two reference counts and a string;
+ * nothing is cached. A link costs a look-up in the host, by a name one more than by a key. Navigation and writes are
+ * const: they change the model, not the cursor; a write returns when all that listens to it has been told. One cursor
+ * is used by one thread at a time, like the objects that it walks.
  */
 class VYRCfdBaseExport VYRCfdObjectAccess
 {
@@ -133,19 +135,19 @@ public:
     VYRCfdObjectAccess Ref(ORXISpecAttrKey* iKey) const;
     VYRCfdObjectAccess Ref(VYRCfdKeyFunction iKeyFunction) const;
 
-    /// Walks names parted by "/", each as `Get(name)` takes it. An empty segment ends the walk where it stands: so the
-    /// empty path, and every path with a leading "/", is this cursor.
+    /// Walks names parted by "/", each as `Get(name)` takes it and at its cost. An empty segment ends the walk where it
+    /// stands: so the empty path, and every path with a leading "/", is this cursor.
     VYRCfdObjectAccess GetByPath(const ORXUnicodeString& iPath) const;
 
     /// Cuts a path at its first "/". `oTail` is left alone where nothing follows, so callers pass an empty text.
     /// @return S_OK
     static HRESULT SplitPath(const ORXUnicodeString& iPath, ORXUnicodeString& oHead, ORXUnicodeString& oTail);
 
-    /// From an attribute to its object, from an object to its owner.
+    /// From an attribute to its object, from an object to its owner; "Null initialization c" where it has none.
     VYRCfdObjectAccess GetParent() const;
 
-    /// This cursor, or the error cursor "Condition not met", also for a cursor with an error of its own. See
-    /// VYRCfdObjectCondition.
+    /// This cursor, or the error cursor "Condition not met", also for a cursor with an error of its own. Parses the
+    /// condition each time: for one that is asked often keep a VYRCfdObjectCondition.
     VYRCfdObjectAccess ApplyCondition(const ORXUnicodeString& iCondition) const;
 
     /// Name of the attribute, or display name of the object.
@@ -160,7 +162,8 @@ public:
     /// The knowledge parameter of the attribute; null, with no report, where there is none.
     ORXICkeParm_var GetParm() const;
 
-    /// A string attribute, straight from and to the attribute store.
+    /// A string attribute, straight from and to the attribute store. @return E_FAIL for any other attribute, reported;
+    /// of a write what the host answers
     /// @{
     HRESULT GetPlainString(ORXUnicodeString& oValue) const;
     HRESULT SetPlainString(const ORXUnicodeString& iValue) const;
@@ -171,6 +174,9 @@ public:
      * writes strings, and reals from text; `SetInteger` also enumerations, by number; `SetDouble` every type that is a
      * real. An index from 1 reads or writes an entry of a list of exactly that type, straight in the attribute store.
      * On an object cursor the reals are those of a data table column, in SI units, index 0 standing for its one value.
+     * @return E_FAIL, reported, for a write to another kind of attribute, an entry of another kind of list, an index
+     * outside, and where the cursor stands nowhere; a failure of the column. S_OK of a write says that the value was
+     * handed to the host, which may have no use for it: a text that does not read as a real changes nothing
      */
     /// @{
     HRESULT GetString(ORXUnicodeString& oValue) const;
@@ -192,7 +198,7 @@ public:
     /// @}
 
     /// By the knowledge type of the attribute. An enumeration is also an integer. `IsDouble` on an object cursor: a
-    /// column with rows.
+    /// column with rows. Where there is no attribute to ask, that is reported, but by the last two on an error cursor.
     /// @{
     bool IsString() const;
     bool IsInteger() const;
@@ -209,16 +215,19 @@ public:
     bool IsObjectList() const;
     /// @}
 
-    /// Number of entries of a list of any kind.
+    /// Number of entries of a list of any kind. @return E_FAIL for what is no list, reported
     HRESULT GetListSize(int& oSize) const;
 
     /// Cursors on the entries of a list of objects, replacing what `oObjects` held. An empty entry keeps its place as
-    /// an error cursor, unless `skipNull`.
+    /// an error cursor, unless `skipNull`. Linear in the list.
+    /// @return E_FAIL for what is no list of objects, reported but on an object cursor; so do the operations below that
+    /// take a list of objects
     HRESULT List(std::vector<VYRCfdObjectAccess>& oObjects, bool skipNull = false) const;
-    /// The same as handles, behind what `oObjects` holds.
+    /// The same as handles, behind what `oObjects` holds; an empty entry as a null handle.
     HRESULT List(ORXListValORXBaseUnknown_var& oObjects) const;
 
     /// All entries of a list of values, or the one of a scalar. They are appended; only `GetDoubles` starts from empty.
+    /// Linear in the list. @return E_FAIL for any other kind, reported
     /// @{
     HRESULT GetStrings(std::vector<ORXUnicodeString>& oValues) const;
     HRESULT GetStrings(ORXListValORXUnicodeString& oValues) const;
@@ -227,33 +236,35 @@ public:
     HRESULT GetBooleans(std::vector<bool>& oValues) const;
     /// @}
 
-    /// Replaces a whole list of strings.
+    /// Replaces a whole list of strings by one write, also when it holds them already. Linear in the list.
+    /// @return E_FAIL for any other attribute, reported; S_OK whatever the host answers
     HRESULT SetStrings(std::vector<ORXUnicodeString> iValues) const;
     HRESULT SetStrings(const ORXListValORXUnicodeString& iValues) const;
 
     /**
      * Makes a list of objects equal to the wanted sequence by moves, inserts and removals, and leaves entries in place
-     * alone. A failure stops where it is; nothing is undone. Where the host tells identities (ORXIComponentIdentity)
-     * it costs time linear in entries and writes; elsewhere, and where an entry is empty, comparisons in the order of
-     * the square of the length.
-     * @return S_FALSE when nothing had to be done
+     * alone. Whether the list owns its entries or refers to them is the attribute's matter. A failure stops where it
+     * is; nothing is undone. Where the host tells identities (ORXIComponentIdentity) it costs time linear in entries
+     * and writes; elsewhere, and where an entry is empty, comparisons in the order of the square of the length.
+     * @return S_FALSE when nothing had to be done; the first failure of the host, reported
      */
     HRESULT SetList(const std::vector<VYRCfdObjectAccess>& iObjects) const;
     HRESULT SetList(ORXListValORXBaseUnknown_var& iObjects) const;
 
-    /// Writes an object-valued attribute (index 0) or an entry of a list of objects; null is handed on to the host.
+    /// Writes an object-valued attribute (index 0) or an entry of a list of objects; null is handed on to the host. A
+    /// component attribute becomes the owner, a reference attribute only refers. @return the host's failure, reported
     HRESULT SetObject(const ORXBaseUnknown_var& iObject, int index) const;
     HRESULT SetObject(const VYRCfdObjectAccess& iObject, int index) const;
 
-    /// Takes the object's first entry out of a list of objects. @return S_FALSE when it has none
+    /// Takes the object's first entry out of a list of objects. Linear in the list. @return S_FALSE when it has none
     HRESULT Remove(const ORXBaseUnknown_var& iObject) const;
-    /// Empties a list of any kind.
+    /// Empties a list of any kind. @return the host's failure, reported
     HRESULT RemoveAll() const;
-    /// Takes one entry out of a list of objects.
+    /// Takes one entry out of a list of objects. @return E_FAIL for an index outside, the host's failure; reported
     HRESULT RemovePosition(int index) const;
 
     /// Tells whether a list of objects holds entries that are empty or do not offer the interface: S_OK if so, S_FALSE
-    /// otherwise. The attribute itself is not changed.
+    /// otherwise. The attribute itself is not changed. Linear in the list.
     HRESULT CleanList(const GUID& iInterface) const;
 
 private:

@@ -37,6 +37,7 @@ public:
     VYRCfdObjectCondition();
     /// A condition that has failed with this error text; the text is not parsed.
     VYRCfdObjectCondition(const ORXUnicodeString& iError);
+    /// Parses, once, and holds the cursor's object.
     /// @param iCondition the comparison; one that cannot be parsed leaves the error "Bad condition: " + text
     VYRCfdObjectCondition(const VYRCfdObjectAccess& iAccess, const ORXUnicodeString& iCondition);
     /// Copies the cursor and the texts, but nothing that was parsed: a copy is for comparing and asking, not for

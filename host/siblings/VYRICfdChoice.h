@@ -41,7 +41,7 @@ public:
     virtual HRESULT GetChoice(ORXUnicodeString& oChoice) = 0;
     /// Appends the choices, in the order in which they are offered.
     virtual HRESULT GetListOfChoices(std::vector<ORXUnicodeString>& oListChoices) = 0;
-    /// The choices in the user's language.
+    /// The choices in the user's language. @return E_NOTIMPL where nobody translates them, with the list as it was
     virtual HRESULT GetListOfChoicesNLS(std::vector<ORXUnicodeString>& oListChoices) = 0;
     /// The text that a panel shows for the Choice unless it has a better one. Leaves `oDisplay` alone on failure.
     virtual HRESULT GetDefaultDisplay(ORXUnicodeString& oDisplay) = 0;

@@ -40,7 +40,8 @@ public:
     virtual HRESULT HasAuto(const ORXUnicodeString& iAttrName, unsigned char& oHasAuto) = 0;
     /// Whether the attribute follows its default by itself; 0 without a flag.
     virtual HRESULT GetIsAuto(const ORXUnicodeString& iAttrName, unsigned char& oIsAuto) = 0;
-    /// Writes the auto flag, and makes it where there is none.
+    /// Writes the auto flag, and makes it where there is none. On a flag that is there already, nonzero also puts the
+    /// attribute back on its default, as `Unset` does.
     virtual HRESULT SetIsAuto(const ORXUnicodeString& iAttrName, unsigned char iIsAuto) = 0;
 
     static const IID& ClassId() noexcept { return IID_VYRIMpaDefaultManagementProtected; }

@@ -77,7 +77,7 @@ struct AttributeInfo
 };
 
 /// The attributes of an object: the declared ones from the root type down, in the order of their declaration, then the
-/// added ones in the order in which they were added.
+/// added ones in the order in which they were added. A copy; linear in them. Empty for null.
 VYRStandaloneExport std::vector<AttributeInfo> Attributes(const ORXISpecObject_var& iObject);
 } // namespace VYRStandalone
 

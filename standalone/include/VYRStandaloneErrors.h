@@ -45,7 +45,7 @@ struct Report
 /// Takes the reports of this thread, oldest first, and leaves none.
 VYRStandaloneExport std::vector<Report> TakeReports();
 
-/// The reports of this thread, oldest first.
+/// The reports of this thread, oldest first; borrowed, valid until the next report or `TakeReports`.
 VYRStandaloneExport const std::vector<Report>& Reports();
 
 /// The status byte of this thread. It is 0 at first.

@@ -32,15 +32,16 @@ public:
     /**
      * Reads a model file. Catalogs that it names are sought as "NAME.catalog.json" beside it, in the folders, and among
      * those that come with the host; what is declared already is not read again. Nobody is told of what is loaded.
+     * Linear in the size of the file.
      * @throws DocumentError
      */
     static Model Load(const std::string& iFile, const std::vector<std::string>& iCatalogFolders = {});
 
-    /// The same from text. @param iLabel stands for the file in errors
+    /// The same from text, which is not kept. @param iLabel stands for the file in errors @throws DocumentError
     static Model Parse(std::string_view iJson, const std::string& iLabel,
                        const std::vector<std::string>& iCatalogFolders = {});
 
-    /// The model as its file holds it.
+    /// The model as its file holds it. Linear in its size.
     std::string Text() const;
 
     /// Replaces the file in one step: whatever stops it, the old file or the new one is whole. @throws DocumentError
@@ -49,14 +50,15 @@ public:
     /// The container of the objects, which the model owns.
     ORXIContainer_var Container() const;
 
-    /// Makes a top-level object. @throws std::invalid_argument for an unknown type
+    /// Makes a top-level object with its components, which the model owns. @throws std::invalid_argument for an unknown
+    /// type
     ORXISpecObject_var Create(const ORXUnicodeString& iType, const ORXUnicodeString& iName);
 
     /// A top-level object by the meanings that a name has in a list: display name, internal name, type, 1-based
-    /// position. Null when nothing answers.
+    /// position. Null when nothing answers. Linear in the objects.
     ORXISpecObject_var Find(const ORXUnicodeString& iName) const;
 
-    /// All top-level objects, in their order.
+    /// All top-level objects, in their order; a copy, which later changes leave as it is.
     std::vector<ORXISpecObject_var> Objects() const;
 
     /// Lets every extension instance go, as if the model had been closed and opened again: what lives in memory only,
@@ -71,17 +73,18 @@ private:
     std::unique_ptr<Content> m_content;
 };
 
-/// Name of an object as the user sees it, and its identifier. The empty text takes it away again.
+/// Name of an object as the user sees it, and its identifier. The empty text takes it away again; null does nothing.
 /// @{
 VYRStandaloneExport void SetAlias(const ORXISpecObject_var& iObject, const ORXUnicodeString& iAlias);
 VYRStandaloneExport void SetIdentifier(const ORXISpecObject_var& iObject, const ORXUnicodeString& iIdentifier);
 /// @}
 
 /// Where an object stands: its name, or for a component its owner's path, "/" and the attribute that holds it. A
-/// prototype's path is its type in brackets.
+/// prototype's path is its type in brackets. Empty for null.
 VYRStandaloneExport std::string PathOf(ORXISpecObject* iObject);
 
-/// Adds an empty table column of reals, a component of its own kind, to be set under a component attribute.
+/// New empty table column of reals, a component of its own kind, to be set under a component attribute; until then the
+/// caller's.
 VYRStandaloneExport ORXISpecObject_var MakeTableColumn();
 } // namespace VYRStandalone
 

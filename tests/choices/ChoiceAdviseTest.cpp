@@ -10,8 +10,6 @@
 
 namespace
 {
-constexpr const char* Update = "VYRCfdChoiceInstanceAdp::Update";
-
 /// Tells a listener's turn by a line.
 void RecordTold(const ORXISpecObject_var& iChoice)
 {

@@ -9,7 +9,6 @@
 namespace
 {
 constexpr const char* Configure = "VYRCfdChoiceInstanceAdp::Configure";
-constexpr const char* Update = "VYRCfdChoiceInstanceAdp::Update";
 
 class ChoiceConfigureTest : public ChoiceTest
 {

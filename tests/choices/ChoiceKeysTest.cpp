@@ -11,7 +11,6 @@
 namespace
 {
 constexpr const char* Configure = "VYRCfdChoiceInstanceAdp::Configure";
-constexpr const char* Update = "VYRCfdChoiceInstanceAdp::Update";
 
 class ChoiceKeysTest : public ChoiceTest
 {

@@ -9,8 +9,6 @@
 
 namespace
 {
-constexpr const char* Update = "VYRCfdChoiceInstanceAdp::Update";
-
 class ChoiceUpdateChecksTest : public ChoiceTest
 {
 protected:

@@ -17,6 +17,7 @@
 #include "ORXIAlias.h"
 #include "ORXISpecAttribute.h"
 #include "RoundTrip.h"
+#include "Sanitized.h"
 #include "TemporaryFolder.h"
 #include "TestCatalog.h"
 #include "VYRIFldIdentifier.h"
@@ -149,7 +150,7 @@ TEST_F(Limits, AHundredThousandComponentsOfOneOwner_AreKept)
 
 TEST_F(Limits, AHundredThousandObjects_MoveUnderAnOwnerFromTheFirstOn)
 {
-    constexpr int Count = 100000;
+    constexpr int Count = Repetitions(100000);
     Model model;
     for (int i = 0; i < Count; ++i)
         model.Create("Part", "P");

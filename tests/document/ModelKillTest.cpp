@@ -21,6 +21,7 @@
 #include <gtest/gtest.h>
 
 #include "ExactDump.h"
+#include "Sanitized.h"
 #include "TemporaryFolder.h"
 #include "TestCatalog.h"
 #include "VYRStandaloneModel.h"
@@ -195,7 +196,8 @@ protected:
 };
 
 INSTANTIATE_TEST_SUITE_P(Places, KilledSavesInPlaces,
-                         testing::Values(KillPlace{"InMemory", true, 900}, KillPlace{"OnDisk", false, 100}),
+                         testing::Values(KillPlace{"InMemory", true, Repetitions(900)},
+                                         KillPlace{"OnDisk", false, 100}),
                          [](const testing::TestParamInfo<KillPlace>& iInfo) { return std::string(iInfo.param.what); });
 
 TEST_P(KilledSavesInPlaces, LeaveTheOldFileOrTheNewOneWhole)

@@ -22,6 +22,7 @@
 
 #include <gtest/gtest.h>
 
+#include "Sanitized.h"
 #include "TemporaryFolder.h"
 #include "TestCatalog.h"
 #include "VYRStandaloneModel.h"
@@ -155,18 +156,10 @@ TEST_F(FailingSaves, BeyondTheLargestSizeOfAFile_SaySoAtWhateverByte)
     EXPECT_EQ(m_folder.Names(), (Names{"m.json"}));
 }
 
-// Sanitizers look at addresses through a descriptor of their own.
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define VYR_NEEDS_DESCRIPTORS
-#endif
-#endif
-
 TEST_F(FailingSaves, WithoutAFreeDescriptor_SaySo)
 {
-#ifdef VYR_NEEDS_DESCRIPTORS
-    GTEST_SKIP() << "the sanitizer needs a free descriptor itself";
-#endif
+    if (IsSanitized)
+        GTEST_SKIP() << "the sanitizer looks at addresses through a descriptor of its own";
     const std::string file = m_folder.Write("m.json", "old");
     const Model model = Sample();
     {

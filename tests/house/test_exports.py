@@ -60,6 +60,15 @@ class Exports(unittest.TestCase):
         output = "0000000000001600 W VYRCfdObjectAccess::~VYRCfdObjectAccess()\n0000000000001700 W Other::~Other()\n"
         self.assertEqual(exports.exported(output), ["VYRCfdObjectAccess::~VYRCfdObjectAccess()"])
 
+    def test_optional_functions_of_a_host_count(self):
+        output = "0000000000001800 W ORXGetSpecAttrShortcuts()\n0000000000001900 W ORXGetOthers()\n"
+        self.assertEqual(exports.exported(output), ["ORXGetSpecAttrShortcuts()"])
+
+    def test_each_library_has_the_list_of_its_name(self):
+        for name in ("libThing.so", "libThing.so.0.1", "lib/libThing.so.0.1.0"):
+            with self.subTest(name):
+                self.assertEqual(exports.list_of(pathlib.Path(name)), exports.LISTS / "Thing.txt")
+
     def test_check_on_equal_list_succeeds(self):
         self.write_list(NAMES)
         self.assertEqual(self.run_main("check"), (0, "4 exported names, as listed\n"))

@@ -110,8 +110,6 @@ HRESULT CleanList(const Cursor& iCursor, const Cursor&)
 const Outcome Silent{E_FAIL, {}};
 const Outcome Taken{S_OK, {}};
 
-constexpr char NoObjectList[] = "_spKey->GetType() == tk_list && (_spKey->GetListType() == tk_component || "
-                                "_spKey->GetListType() == tk_specobject)";
 constexpr char NoList[] = "type == tk_list";
 constexpr char NoObjects[] = "listType == tk_component || listType == tk_specobject";
 

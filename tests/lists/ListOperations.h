@@ -45,4 +45,8 @@ struct ListOperation
 
 const std::vector<ListOperation>& ListOperations();
 
+/// What the reads of objects check of an attribute's key.
+inline constexpr char NoObjectList[] = "_spKey->GetType() == tk_list && (_spKey->GetListType() == tk_component || "
+                                       "_spKey->GetListType() == tk_specobject)";
+
 #endif

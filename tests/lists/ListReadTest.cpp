@@ -4,6 +4,7 @@
  */
 
 #include "ListFixture.h"
+#include "ListOperations.h"
 #include "VYRStandaloneInstruments.h"
 
 namespace
@@ -12,9 +13,6 @@ using Strings = std::vector<ORXUnicodeString>;
 using Doubles = std::vector<double>;
 using Integers = std::vector<int>;
 using Booleans = std::vector<bool>;
-
-constexpr char NoObjectList[] = "_spKey->GetType() == tk_list && (_spKey->GetListType() == tk_component || "
-                                "_spKey->GetListType() == tk_specobject)";
 
 class ListReadTest : public ListFixture
 {

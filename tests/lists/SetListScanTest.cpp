@@ -11,11 +11,12 @@
 #include <sstream>
 
 #include "ListFixture.h"
+#include "Sanitized.h"
 #include "VYRStandaloneInstruments.h"
 
 namespace
 {
-constexpr int Cases = 100000;
+constexpr int Cases = Repetitions(100000);
 constexpr int PoolSize = 12;
 constexpr int LongestList = 11;
 /// In a stored list an empty entry, in a wanted one an error cursor.

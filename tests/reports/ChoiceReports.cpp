@@ -151,9 +151,9 @@ void AddUpdateReads(ReportRows& ioRows)
     for (const auto& [choices, text] :
          {std::pair<Lines, const char*>{{}, "choices.size() > 0"}, {{"alpha"}, "choices.size() == startups.size()"}})
         ioRows.push_back({Assertion(text, In("Update")),
-                          [choices = choices](ReportBench& ioBench) {
-                              ChoiceDeclaration declaration{choices, {}, "alpha", "", ""};
-                              if (!choices.empty())
+                          [declared = choices](ReportBench& ioBench) {
+                              ChoiceDeclaration declaration{declared, {}, "alpha", "", ""};
+                              if (!declared.empty())
                                   declaration.startups = {"TypeAlpha", "TypeBeta"};
                               return AnswerOf(ChoiceOf(ioBench.Choice(declaration))->Update());
                           },

@@ -82,7 +82,7 @@ Lines Fresh(const std::string& iType)
     return lines;
 }
 
-std::string Joined(const Lines& iLines)
+std::string JoinedLines(const Lines& iLines)
 {
     return std::accumulate(iLines.begin(), iLines.end(), std::string(),
                            [](std::string iText, const std::string& iLine) { return iText + iLine + '\n'; });
@@ -123,7 +123,7 @@ protected:
         CompareDefaults(iPlace, object.Target(), target);
         Configure(target, iPlace.configuration);
         EXPECT_EQ(DifferencesOf(once, LinesOf(opened), ""), Lines{}) << "applied to the opened model";
-        return Title(iPlace) + Joined(DifferencesOf(before, once, iPlace.place.FullPath()));
+        return Title(iPlace) + JoinedLines(DifferencesOf(before, once, iPlace.place.FullPath()));
     }
 
     /// Custom defaults live in memory; those of a configuration come back from its records, without a difference.
@@ -175,7 +175,7 @@ TEST_F(ConfigurationGoldens, FreshObjects_AreAsTheirCatalogsSay)
     {
         std::string& text = goldens.Text(catalog);
         for (const auto& [type, configurations] : SampleTypes(catalog))
-            text += (text.empty() ? "" : "\n") + Joined(Fresh(type));
+            text += (text.empty() ? "" : "\n") + JoinedLines(Fresh(type));
     }
     goldens.Compare();
 }

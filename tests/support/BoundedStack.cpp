@@ -5,19 +5,11 @@
 
 #include <gtest/gtest.h>
 
+#include "Sanitized.h"
+
 namespace
 {
-#if defined(__SANITIZE_ADDRESS__)
-constexpr std::size_t SanitizerFactor = 8;
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-constexpr std::size_t SanitizerFactor = 8;
-#else
-constexpr std::size_t SanitizerFactor = 1;
-#endif
-#else
-constexpr std::size_t SanitizerFactor = 1;
-#endif
+constexpr std::size_t SanitizerFactor = IsSanitized ? 8 : 1;
 
 struct Run
 {

@@ -95,6 +95,9 @@ bool HasCustomDefault(const ORXISpecObject_var& iChoice);
 /// Of recorded lines those that begin with one of the words.
 Lines Only(const Lines& iLines, std::initializer_list<std::string_view> iWords);
 
+/// As reports name it.
+inline constexpr const char* Update = "VYRCfdChoiceInstanceAdp::Update";
+
 /// The lines of what happens while it lives.
 class ChoiceRecorder
 {

@@ -60,7 +60,7 @@ TEST_P(Views, SayTheSameWithoutColours)
     EXPECT_EQ(WithoutColours(WithPlainLineEnds(RunOnTerminal().output)), RunPlainly().output);
 }
 
-const View Cases[] = {
+const View ViewCases[] = {
     {"ValuesAndFlags",
      "small.model.json",
      "Case.1",
@@ -82,7 +82,7 @@ const View Cases[] = {
      {"\x1B[1mFlow 2/turbulence/Data\x1B[0m  SpalartModel\x1B[32m  new\x1B[0m", "    \x1B[32m+ ratio: 4\x1B[0m",
       "    \x1B[32m+ record ratio: default \"4\"\x1B[0m"}},
 };
-INSTANTIATE_TEST_SUITE_P(Apply, Views, testing::ValuesIn(Cases), [](const auto& iInfo) { return iInfo.param.name; });
+INSTANTIATE_TEST_SUITE_P(Apply, Views, testing::ValuesIn(ViewCases), [](const auto& iInfo) { return iInfo.param.name; });
 
 TEST_F(SmallTest, Summary_CountsWhatChangedOnObjectsThatStay_NotWhatNewOnesHold)
 {

@@ -107,18 +107,26 @@ const BadInput Models[] = {
      Model + ":3:22: Invalid encoding in string.\n"},
     {"ArrayInPlaceOfObject", Written(Model, "[]"), ShowModel, 1, Model + ": must be an object, not an array\n"},
     {"ObjectsOfWrongShape", Written(Model, R"({"model": 1, "catalogs": [], "objects": {}})"), ShowModel, 1,
-     Model + ": /objects: must be an array, not an object\n"},
+     Model + ":1:41: /objects: must be an array, not an object\n"},
     {"UnknownType", Replaced(Model, "ExternalFlowSolver", "ExternalFlowSolvers"), ShowModel, 1,
-     Model + ": /objects/0/type: unknown type \"ExternalFlowSolvers\"; did you mean \"ExternalFlowSolver\"?\n"},
+     Model + ":6:15: /objects/0/type: unknown type \"ExternalFlowSolvers\"; did you mean \"ExternalFlowSolver\"?\n"},
     {"UnknownAttribute", Replaced(Model, "\"iterations\"", "\"iteration\""), ShowModel, 1,
-     Model + ": /objects/0/values/iteration: type \"ExternalFlowSolver\" has no attribute \"iteration\"; did you mean "
-             "\"iterations\"?\n"},
+     Model +
+         ":12:9: /objects/0/values/iteration: type \"ExternalFlowSolver\" has no attribute \"iteration\"; did you mean "
+         "\"iterations\"?\n"},
     {"ValueOfWrongKind", Replaced(Model, "4000", "4000.5"), ShowModel, 1,
-     Model + ": /objects/0/values/iterations: an integer is wanted\n"},
+     Model + ":12:23: /objects/0/values/iterations: an integer is wanted\n"},
     {"ReferenceToNothing", Replaced(Model, "{ \"ref\": 2 }", "{ \"ref\": 77 }"), ShowModel, 1,
-     Model + ": /objects/0/values/mesh/ref: no object has the id 77\n"},
+     Model + ":14:26: /objects/0/values/mesh/ref: no object has the id 77\n"},
+    {"CatalogMisspelt", Replaced(Model, "\"ExternalFlow\"", "\"ExternalFlwo\""), ShowModel, 1,
+     Model + ":3:16: /catalogs/0: unknown catalog \"ExternalFlwo\": no file \"ExternalFlwo.catalog.json\" in "
+             "\"samples/models\", \"samples/catalogs\", and none of that name is declared; did you mean "
+             "\"ExternalFlow\"?\n"},
+    {"UnitMisspelt", Replaced(Model, "3.06 degree", "3.06 degre"), ShowModel, 1,
+     Model + ":21:30: /objects/0/values/freestream/values/angleOfAttack: no number, or no unit like \"rad\": "
+             "\"3.06 degre\"; did you mean \"3.06 degree\"?\n"},
     {"CatalogNotFound", Replaced(Model, "\"ExternalFlow\"", "\"Nowhere\""), ShowModel, 1,
-     Model + ": /catalogs/0: unknown catalog \"Nowhere\": no file \"Nowhere.catalog.json\" in \"samples/models\", "
+     Model + ":3:16: /catalogs/0: unknown catalog \"Nowhere\": no file \"Nowhere.catalog.json\" in \"samples/models\", "
              "\"samples/catalogs\", and none of that name is declared\n"},
 };
 INSTANTIATE_TEST_SUITE_P(Models, BadInputs, testing::ValuesIn(Models), NameOf);
@@ -136,9 +144,9 @@ const BadInput Catalogs[] = {
      Written(Catalog, "{\n    \"catalog\": \"FlowCommon\",\n    \"types\": [ { \"name\": \"Sutherland\xC3\x28\" } ] }"),
      ShowModel, 1, Catalog + ":3:37: Invalid encoding in string.\n"},
     {"WrongShape", Replaced(Catalog, "\"kind\": \"real\"", "\"kind\": 7"), ShowModel, 1,
-     Catalog + ": /types/0/attributes/0/kind: must be a text, not an integer\n"},
+     Catalog + ":9:52: /types/0/attributes/0/kind: must be a text, not an integer\n"},
     {"UnknownKind", Replaced(Catalog, "\"kind\": \"real\"", "\"kind\": \"rael\""), ShowModel, 1,
-     Catalog + ": /types/0/attributes/0/kind: unknown kind \"rael\"; did you mean \"real\"?\n"},
+     Catalog + ":9:52: /types/0/attributes/0/kind: unknown kind \"rael\"; did you mean \"real\"?\n"},
 };
 INSTANTIATE_TEST_SUITE_P(Catalogs, BadInputs, testing::ValuesIn(Catalogs), NameOf);
 
@@ -164,6 +172,23 @@ const BadInput ConfigurationFiles[] = {
      Configuration + ":2:44: Missing a closing quotation mark in string.\n"},
     {"NoUtf8", Written(Configuration, "{\n    \"configurations\": [ { \"name\": \"freestream\xE4ir\" } ] }"),
      ApplyAndSave, 1, Configuration + ":2:46: Invalid encoding in string.\n"},
+    {"Folder",
+     [](const TemporaryFolder& iFolder) {
+         Removed(Configuration)(iFolder);
+         std::filesystem::create_directory(iFolder.Path(Configuration));
+     },
+     List, 1, Configuration + ": is a folder, not a file\n"},
+    {"LinkToNothing",
+     [](const TemporaryFolder& iFolder) {
+         Removed(Configuration)(iFolder);
+         std::filesystem::create_symlink("nothing.json", iFolder.Path(Configuration));
+     },
+     List, 1, Configuration + ": is a link that leads to no file\n"},
+    {"EscapeThatIsNone", Written(Configuration, R"({"configurations": [{"name": "C:\data"}]})"), List, 1,
+     Configuration +
+         R"(:1:33: Invalid escape character in string; behind a backslash stands one of " \ / b f n r t, or )"
+         R"(u and four digits, and a backslash itself is written \\)"
+         "\n"},
     {"ByteOrderMark", Written(Configuration, "\xEF\xBB\xBF{}"), Apply, 1,
      Configuration + ":1:1: A byte order mark has no place in JSON.\n"},
     {"NoObject", Written(Configuration, "[]"), Apply, 1,
@@ -330,6 +355,24 @@ const BadInput Outputs[] = {
      {"apply", Model, "Solver.1", "externalFlow", "-o", "/proc/out.model.json"},
      1,
      "/proc/out.model.json: cannot be written: No such file or directory\n"},
+    {"StandardOutput",
+     Nothing(),
+     {"apply", Model, "Solver.1", "externalFlow", "-o", "-"},
+     2,
+     "vyrcfd: --output: - is no file: standard output has the answer of the command; a file of that name is ./-; see "
+     "vyrcfd apply --help\n"},
+    {"StandardOutputOfPurge",
+     Nothing(),
+     {"purge", Model, "--yes", "-o", "-"},
+     2,
+     "vyrcfd: --output: - is no file: standard output has the answer of the command; a file of that name is ./-; see "
+     "vyrcfd purge --help\n"},
+    {"StandardOutputOfGraph",
+     Nothing(),
+     {"graph", "-o", "-"},
+     2,
+     "vyrcfd: --output: - is no file: standard output has the answer of the command; a file of that name is ./-; see "
+     "vyrcfd graph --help\n"},
     {"FullDevice",
      Nothing(),
      {"apply", Model, "Solver.1", "externalFlow", "-o", "/dev/full"},

@@ -10,6 +10,7 @@
 #include <regex>
 #include <set>
 #include <sstream>
+#include <sys/stat.h>
 
 #include "ToolTest.h"
 
@@ -87,7 +88,7 @@ std::string FindingsIn(const ToolRun& iRun)
     return text;
 }
 
-std::string NameOf(const testing::TestParamInfo<std::string>& iInfo)
+std::string FolderName(const testing::TestParamInfo<std::string>& iInfo)
 {
     std::string name = iInfo.param;
     std::replace(name.begin(), name.end(), '-', '_');
@@ -116,7 +117,7 @@ TEST_P(WrongInstallations, AreFoundToBeSo)
     EXPECT_EQ(run.status, found.find(": error: ") != std::string::npos ? 1 : 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Check, WrongInstallations, testing::ValuesIn(FoldersIn(Wrong)), NameOf);
+INSTANTIATE_TEST_SUITE_P(Check, WrongInstallations, testing::ValuesIn(FoldersIn(Wrong)), FolderName);
 
 class OddInstallations : public CheckTest, public testing::WithParamInterface<std::string>
 {
@@ -130,7 +131,7 @@ TEST_P(OddInstallations, AreFoundToBeRight)
     EXPECT_EQ(Outcome(run), Outcome(0, ""));
 }
 
-INSTANTIATE_TEST_SUITE_P(Check, OddInstallations, testing::ValuesIn(FoldersIn(Odd)), NameOf);
+INSTANTIATE_TEST_SUITE_P(Check, OddInstallations, testing::ValuesIn(FoldersIn(Odd)), FolderName);
 
 TEST(WrongFolders, HaveOneAtLeastForEveryKindOfFinding)
 {
@@ -146,6 +147,8 @@ TEST(WrongFolders, HaveOneAtLeastForEveryKindOfFinding)
                                       "cycle",
                                       "bad-condition",
                                       "odd-condition",
+                                      "swapped-lists",
+                                      "wrong-separator",
                                       "unequal-lists",
                                       "blank-in-list",
                                       "path-nowhere",
@@ -353,6 +356,16 @@ TEST_F(CheckTest, FilesOfAllFoldersOfAnInstallation_AreLookedAt)
               "[unreadable-file]\n"
               "over/reffiles/VYRCfdApp/more.json:1:1: warning: the engine reads a fixed list of files, "
               "and none of this name [ignored-file]\n");
+}
+
+TEST_F(CheckTest, APipeInPlaceOfAFile_IsTold_AndNobodyWaitsForIt)
+{
+    AddConfigurations(R"({"configurations": [{"name": "main"}]})");
+    const std::string pipe = m_folder.Path(Reffiles + "meshFYEConfig.json");
+    fs::remove(pipe);
+    ASSERT_EQ(mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR), 0);
+    EXPECT_EQ(FindingsIn(Check()), "meshFYEConfig.json:1:1: error: is a pipe or a device, not a file; without this "
+                                   "file the engine reads no configuration at all [unreadable-file]\n");
 }
 
 TEST_F(CheckTest, ACatalogThatIsNotThere_IsAFinding)

@@ -5,6 +5,7 @@
 
 #include <sstream>
 
+#include "Sanitized.h"
 #include "SmallTest.h"
 
 namespace
@@ -248,7 +249,7 @@ class SampleLadders : public ToolTest, public testing::WithParamInterface<Sample
 /// Two processes for each attribute, so every so many of them; the models have far more than are asked for.
 TEST_P(SampleLadders, PointAtWhatUnsetTakes)
 {
-    constexpr std::size_t Stride = 4;
+    constexpr std::size_t Stride = IsSanitized ? 40 : 4;
     const std::string model = "configured.model.json";
     ASSERT_EQ(Run({"apply", GetParam().model, GetParam().object, GetParam().configuration, "-o", model}).status, 0);
     const std::vector<std::string> paths = AttributePaths(Run({"show", model, GetParam().object}).output);
@@ -269,7 +270,7 @@ TEST_P(SampleLadders, PointAtWhatUnsetTakes)
         records += run.output.find("  > record ") != std::string::npos ? 1 : 0;
     }
     // Both rungs have been tried.
-    EXPECT_GT(records, 3U);
+    EXPECT_GT(records, IsSanitized ? 0U : 3U);
 }
 
 const Sample Samples[] = {

@@ -3,6 +3,7 @@
  * vyrcfd graph. Whole answers stand in the goldens.
  */
 
+#include <algorithm>
 #include <cstdlib>
 
 #include "SmallTest.h"
@@ -48,6 +49,52 @@ using Lines = std::vector<std::string>;
 
 /// What begins in the first box.
 const std::string Blue = R"(, color="0.599 0.70 0.60", fontcolor="0.599 0.70 0.50"];)";
+
+/// A configuration that applies itself, one of its own file, and some of another file.
+struct Hub
+{
+    explicit Hub(std::size_t iOthers)
+    {
+        for (std::size_t i = 1; i <= iOthers; ++i)
+        {
+            items += R"(, {"config": "t)" + std::to_string(i) + R"("})";
+            others += (i == 1 ? "" : ",") + (R"({"name": "t)" + std::to_string(i) + R"("})");
+        }
+    }
+
+    std::string items = R"({"config": "near"}, {"config": "hub"}, {"config": "lost"})";
+    std::string others;
+};
+
+TEST_F(GraphTest, ManyReferencesIntoAnotherFile_BeginInItsBox)
+{
+    for (const std::size_t others : {8U, 9U})
+    {
+        const Hub hub(others);
+        Define(R"({"name": "hub", "config": [)" + hub.items + R"(]}, {"name": "near"})");
+        Write(std::string(Configurations) + "conditionsConfig_Flow.json",
+              R"({"configurations": [)" + hub.others + "]}");
+        std::map<std::string, int> begins;
+        std::string guest;
+        for (const std::string& line : Graph({}))
+        {
+            if (line.find("->") != std::string::npos)
+                ++begins[line.substr(0, line.find(' '))];
+            if (line.find("style=\"rounded,dashed\"") != std::string::npos)
+                guest += line;
+        }
+        const std::string home = "c" + std::to_string(others + 1);
+        if (others == 8)
+        {
+            EXPECT_EQ(begins, (std::map<std::string, int>{{home, 11}}));
+            EXPECT_EQ(guest, "");
+            continue;
+        }
+        EXPECT_EQ(begins, (std::map<std::string, int>{{home, 3}, {home + "_1", 9}}));
+        EXPECT_EQ(guest, home + R"(_1 [label="hub", tooltip="stands in meshFYEConfig.json", style="rounded,dashed", )" +
+                             R"(color="0.278 0.70 0.60", fontcolor="0.278 0.70 0.50"];)");
+    }
+}
 
 TEST_F(GraphTest, References_StandWithTheirConditions)
 {
@@ -193,7 +240,8 @@ TEST_P(WrongGraphs, AreTold)
     arguments.insert(arguments.begin(), "graph");
     const ToolRun run = Run(arguments);
     EXPECT_EQ(Outcome(run), Outcome(GetParam().status, GetParam().errors));
-    EXPECT_EQ(run.output, "");
+    const bool isJson = std::find(arguments.begin(), arguments.end(), "--json") != arguments.end();
+    EXPECT_EQ(run.output.substr(0, 44), isJson ? R"({"command": "graph", "status": "failed", "va)" : "");
 }
 
 const WrongGraph WrongGraphCases[] = {

@@ -18,9 +18,6 @@ TEST_P(GoodScripts, PrintWhatTheCommandsTell_AndWriteNoFile)
     ExpectRun(GetParam());
 }
 
-constexpr const char* Small = SmallModel;
-constexpr const char* Flow = FlowModel;
-
 const char UnequalLists[] =
     "note: assertion: choices.size() == startups.size() in VYRCfdChoiceInstanceAdp::Update, status 0x80004005\n";
 
@@ -403,6 +400,8 @@ const FailingScript FailingCases[] = {
     {"SaveNowhere", Small, "save nowhere/out.model.json",
      "nowhere/out.model.json: cannot be written: No such file or directory"},
     {"SaveWithoutName", Small, "save \"\"", "\"\" names no file"},
+    {"SaveToStandardOutput", Small, "save -",
+     "- is no file: standard output has the answers; a file of that name is ./-"},
     {"HelpOfNothing", Small, "help lst", "no command \"lst\"; did you mean \"ls\"?"},
 };
 INSTANTIATE_TEST_SUITE_P(Shell, FailingScripts, testing::ValuesIn(FailingCases),

@@ -7,9 +7,6 @@
 
 namespace
 {
-constexpr const char* Small = SmallModel;
-constexpr const char* Flow = FlowModel;
-
 class GoodEntryScripts : public ShellTest, public testing::WithParamInterface<ScriptRun>
 {
 };
@@ -145,7 +142,7 @@ TEST_P(FailingEntryScripts, TellTheLine_AndChangeNothing)
     ExpectFailure(GetParam());
 }
 
-const FailingScript FailingCases[] = {
+const FailingScript FailingEntryCases[] = {
     {"NewWithoutType", Small, "new", "usage: new TYPE [NAME]"},
     {"NewOfNoType", Small, "new Prob", "no feature type \"Prob\"; did you mean \"Probe\"?"},
     {"NewWithEmptyName", Small, "new Probe \"\"", "\"\" is no name"},
@@ -182,7 +179,7 @@ const FailingScript FailingCases[] = {
     {"DeleteOfDefaultManagement", Small, "delete Case.1/defaultManagement",
      "\"Case.1/defaultManagement\" is a part that its object needs"},
 };
-INSTANTIATE_TEST_SUITE_P(Entries, FailingEntryScripts, testing::ValuesIn(FailingCases),
+INSTANTIATE_TEST_SUITE_P(Entries, FailingEntryScripts, testing::ValuesIn(FailingEntryCases),
                          [](const auto& iInfo) { return iInfo.param.name; });
 
 TEST_F(ShellTest, Insert_WritesEveryKindOfNumberWhereItBelongs)

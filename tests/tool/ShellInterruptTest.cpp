@@ -95,7 +95,6 @@ private:
     bool m_hasEnded = false;
 };
 
-constexpr char Prompt[] = "vyrcfd> ";
 constexpr char Told[] = "interrupted: the command goes on to its end; press Ctrl-C again to leave and lose unsaved "
                         "changes\n";
 

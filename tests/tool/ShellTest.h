@@ -94,5 +94,7 @@ protected:
 
 inline constexpr char SmallModel[] = "small.model.json";
 inline constexpr char FlowModel[] = "flow.model.json";
+inline constexpr const char* Small = SmallModel;
+inline constexpr const char* Flow = FlowModel;
 
 #endif

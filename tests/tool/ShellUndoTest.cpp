@@ -37,8 +37,6 @@ TEST_P(UndoneCommands, LeaveTheModelAsItWas)
     EXPECT_NE(run.output.find("\nUndone: " + one.command + "\n"), std::string::npos) << run.output;
 }
 
-constexpr const char* Small = SmallModel;
-constexpr const char* Flow = FlowModel;
 
 const UndoneCommand Commands[] = {
     {"Set", Small, "set Case.1/relaxation 0.25", ""},

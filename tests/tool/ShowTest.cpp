@@ -136,6 +136,22 @@ TEST_F(ToolTest, Show_EachPathLeadsBackToItsObject)
         EXPECT_EQ(Paths(Run({"show", External, path, "--json"})).at(0), path);
 }
 
+/// A model file may hold anything there, and the engine takes it until the value changes.
+TEST_F(SmallTest, Show_OfAChoice_TellsOfADataObjectThatItsValueDoesNotBring)
+{
+    const std::string remark = "choices  (the data object is not what the selected one brings)\n";
+    const std::string model = ReadData("flow.model.json");
+    const std::string type = "\"KOmegaModel\",";
+    const auto shown = [&](const std::string& iText) {
+        Write(Flow, iText);
+        return Run({"show", Flow, "Flow 3/turbulence"}).output;
+    };
+    std::string other = model;
+    other.replace(other.rfind(type), type.size(), "\"WallLaw\",");
+    EXPECT_EQ(shown(model).find(remark), std::string::npos);
+    EXPECT_NE(shown(other).find(remark), std::string::npos);
+}
+
 TEST_F(SmallTest, Show_OfAnEmptyModel_SaysSo)
 {
     Write("empty.model.json", R"({"model": 1, "catalogs": [], "objects": []})");

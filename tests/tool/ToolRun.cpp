@@ -83,7 +83,6 @@ public:
     /// What is written to it, until the last writer has closed it. At each prompt the next text is typed.
     std::string Converse(const std::vector<std::string>& iTyped) const
     {
-        constexpr char Prompt[] = "vyrcfd> ";
         constexpr char EndOfInput[] = "\x04";
         std::string text;
         std::size_t seen = 0;

@@ -19,6 +19,9 @@ struct ToolRun
     std::string errors;
 };
 
+/// What the shell shows on a terminal when it waits for a command.
+inline constexpr char Prompt[] = "vyrcfd> ";
+
 struct ToolSettings
 {
     ToolSettings(std::string iFolder = {}) : folder(std::move(iFolder)) {}

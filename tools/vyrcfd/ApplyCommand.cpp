@@ -38,12 +38,10 @@ bool ConfigureOrTell(const ORXISpecObject_var& iObject, const Configuring& iConf
     catch (const Failure& failure)
     {
         std::string text = failure.what();
-        const std::vector<std::string> reports = TakeReportLines();
+        std::vector<ReportRecord> reports = TakeReportRecords();
         for (const FailedItem& item : FailedItems(iObject, iConfiguring.configuration, iSource))
             text += "\n" + item.Shown();
-        for (const std::string& report : reports)
-            text += "\n" + report;
-        throw Failure(text);
+        throw ReportedFailure(text, std::move(reports));
     }
 }
 
@@ -100,7 +98,7 @@ void AddApplyCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
         ->add_option("-o,--output", arguments->output,
                      "File to save the changed model in, which may be MODEL itself; without it nothing is written")
         ->type_name("FILE")
-        ->check([](const std::string& iFile) { return iFile.empty() ? "names no file" : std::string(); }, "");
+        ->check(&ObjectionToOutput, "");
     AddCommonOptions(*command, ioOptions);
     command->footer(
         std::string(ObjectPathHelp) +

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "ORXKeySetVYRCfdBase.h"
 #include "Table.h"
+#include "VYRCfdObjectAccess.h"
 #include "Wording.h"
 
 namespace Tool
@@ -39,6 +41,14 @@ bool IsText(const Value& iValue, const std::string& iText)
     return iValue.GetKind() == Value::Kind::String && iValue.Text() == iText;
 }
 
+/// Empty for no object.
+std::string TypeOfData(const ObjectSnapshot& iObject)
+{
+    const VYRCfdObjectAccess choice{ORXBaseUnknown_var(iObject.object)};
+    const VYRCfdObjectAccess data = choice[VYRCFDBASE(Choice, Data)];
+    return data.IsNull() ? std::string() : std::string(data.GetType().View());
+}
+
 void WriteTexts(JsonWriter& oWriter, const char* iKey, const std::vector<std::string>& iTexts)
 {
     std::vector<Value> entries;
@@ -54,6 +64,14 @@ bool ChoiceView::IsOffered(const std::string& iChoice) const
     return std::find(choices.begin(), choices.end(), iChoice) != choices.end();
 }
 
+bool ChoiceView::HasOtherData() const
+{
+    const auto selected = std::find(choices.begin(), choices.end(), value.Text());
+    if (dataType.empty() || selected == choices.end() || (!startups.empty() && startups.size() != choices.size()))
+        return false;
+    return startups.empty() || startups[static_cast<std::size_t>(selected - choices.begin())] != dataType;
+}
+
 std::optional<ChoiceView> ChoiceViewOf(const ObjectSnapshot& iObject, const AskDefault& iAskDefault)
 {
     const AttributeSnapshot* value = Find(iObject, "value");
@@ -64,7 +82,8 @@ std::optional<ChoiceView> ChoiceViewOf(const ObjectSnapshot& iObject, const AskD
                       TextsIn(iObject, "Startups"),
                       ValueIn(iObject, "display"),
                       iAskDefault(iObject, *value),
-                      ValueIn(iObject, "Data")};
+                      ValueIn(iObject, "Data"),
+                      TypeOfData(iObject)};
 }
 
 bool ChoiceView::Tells(const AttributeSnapshot& iAttribute) const
@@ -95,7 +114,10 @@ std::string ChoiceText(const ChoiceView& iChoice, const std::string& iIndent)
                         isDefault ? "default" : ""});
     }
     const bool isOutside = !iChoice.value.IsUnset() && !iChoice.IsOffered(iChoice.value.Text());
-    return label + (isOutside ? "  (the value is none of them)" : "") + "\n" +
+    // What a model file says is taken as it is; only a change of the value puts it right.
+    const bool isOther = iChoice.HasOtherData();
+    return label + (isOutside ? "  (the value is none of them)" : "") +
+           (isOther ? "  (the data object is not what the selected one brings)" : "") + "\n" +
            TableText(rows, iIndent + std::string(IndentStep, ' '));
 }
 

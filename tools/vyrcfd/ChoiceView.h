@@ -25,8 +25,12 @@ struct ChoiceView
     AttributeDefault byDefault;
     /// Path of the data object, if there is one.
     Value data;
+    /// Empty where there is none.
+    std::string dataType;
 
     bool IsOffered(const std::string& iChoice) const;
+    /// Whether the data object is of another type than the selected choice brings, which a model file may say.
+    bool HasOtherData() const;
     /// Whether an attribute needs no row of its own beside `ChoiceText` and the heading.
     bool Tells(const AttributeSnapshot& iAttribute) const;
 };

@@ -23,6 +23,9 @@ using Job = std::function<void()>;
 /// The options that every command takes, before its name or behind it.
 void AddCommonOptions(CLI::App& ioApp, CommonOptions& ioOptions);
 
+/// What is wrong with the name of a file to write; empty for nothing. To be given to `CLI::Option::check`.
+std::string ObjectionToOutput(const std::string& iFile);
+
 // The options must outlive the job.
 void AddApplyCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);
 void AddShowCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob);

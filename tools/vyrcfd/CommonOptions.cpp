@@ -24,4 +24,13 @@ void AddCommonOptions(CLI::App& ioApp, CommonOptions& ioOptions)
         ->group(group);
     ioApp.add_flag("--json", ioOptions.json, "Answer in JSON")->group(group);
 }
+
+std::string ObjectionToOutput(const std::string& iFile)
+{
+    if (iFile.empty())
+        return "names no file";
+    if (iFile == "-")
+        return "- is no file: standard output has the answer of the command; a file of that name is ./-";
+    return {};
+}
 } // namespace Tool

@@ -12,8 +12,14 @@
 
 namespace Tool
 {
+namespace
+{
+bool hasAnswered = false;
+}
+
 void Print(const std::string& iText)
 {
+    hasAnswered = hasAnswered || !iText.empty();
     errno = 0;
     if (std::fwrite(iText.data(), 1, iText.size(), stdout) == iText.size() && std::fflush(stdout) == 0)
         return;
@@ -22,6 +28,11 @@ void Print(const std::string& iText)
     if (error == EPIPE)
         throw BrokenPipe(message);
     throw OutputFailure(message);
+}
+
+bool HasAnswered()
+{
+    return hasAnswered;
 }
 
 void PrintError(const std::string& iLine)

@@ -15,6 +15,9 @@ namespace Tool
 /// @throws OutputFailure when it cannot be written otherwise, as on a full disk
 void Print(const std::string& iText);
 
+/// Whether anything was printed there, so that an answer has begun at least.
+bool HasAnswered();
+
 /// Writes a line to standard error.
 void PrintError(const std::string& iLine);
 

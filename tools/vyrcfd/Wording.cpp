@@ -156,17 +156,35 @@ std::string Nearest(std::string_view iUnknown, const std::vector<std::string>& i
     std::size_t bestDistance = std::max<std::size_t>(2, (iUnknown.size() + 1) / 2);
     for (const std::string& known : iKnown)
     {
-        const std::size_t longer = std::max(known.size(), iUnknown.size());
-        if (longer - std::min(known.size(), iUnknown.size()) >= bestDistance)
+        const std::size_t length = std::max(known.size(), iUnknown.size());
+        if (length - std::min(known.size(), iUnknown.size()) >= bestDistance)
             continue;
         const std::size_t distance = EditDistance(iUnknown, known);
+        // Not one letter is the same.
+        if (distance == length)
+            continue;
         if (distance < bestDistance)
         {
             best = &known;
             bestDistance = distance;
         }
     }
-    return best != nullptr ? *best : std::string();
+    if (best != nullptr)
+        return *best;
+    // A word that was cut short, if only one begins with it.
+    constexpr std::size_t ShortestWord = 3;
+    const auto beginsAlike = [&](const std::string& iKnownOne) {
+        return iUnknown.size() >= ShortestWord && std::string_view(iKnownOne).substr(0, iUnknown.size()) == iUnknown;
+    };
+    const auto longer = std::find_if(iKnown.begin(), iKnown.end(), beginsAlike);
+    const bool isOnly = longer != iKnown.end() && std::none_of(longer + 1, iKnown.end(), beginsAlike);
+    return isOnly ? *longer : std::string();
+}
+
+bool IsSlip(std::string_view iUnknown, std::string_view iKnown)
+{
+    return EqualsIgnoringCase(iUnknown, iKnown) ||
+           EditDistance(iUnknown, iKnown) <= std::max<std::size_t>(1, iUnknown.size() / 6);
 }
 
 std::string DidYouMean(std::string_view iUnknown, const std::vector<std::string>& iKnown)

@@ -32,6 +32,9 @@ std::string Counted(std::size_t iNumber, const std::string& iSingular);
 /// The known name that an unknown one is most like; empty when nothing is like it.
 std::string Nearest(std::string_view iUnknown, const std::vector<std::string>& iKnown);
 
+/// Whether an unknown name differs from a known one by no more than a slip of the hand.
+bool IsSlip(std::string_view iUnknown, std::string_view iKnown);
+
 /// What to say behind an unknown name: the known one that it is most like, as `; did you mean "wall"?`. Empty when
 /// nothing is like it.
 std::string DidYouMean(std::string_view iUnknown, const std::vector<std::string>& iKnown);

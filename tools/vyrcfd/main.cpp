@@ -3,6 +3,7 @@
  * vyrcfd: tries configurations out on models, without the application that they are written for.
  */
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -10,7 +11,9 @@
 #include <sstream>
 
 #include "Command.h"
+#include "DocumentFault.h"
 #include "Failure.h"
+#include "FailureAnswer.h"
 #include "HelpText.h"
 #include "Output.h"
 #include "VYRStandaloneErrors.h"
@@ -57,7 +60,20 @@ std::string Correction(const CLI::App& iApp, const CLI::ParseError& iError)
     std::_Exit(JobFailed); // where somebody keeps the signal back
 }
 
-ExitStatus Run(const Tool::Job& iJob)
+/// Where catalogs are sought; nowhere as long as there is no installation.
+std::vector<std::string> CatalogFolders(const Tool::CommonOptions& iOptions)
+{
+    try
+    {
+        return Tool::Installation(iOptions).CatalogFolders();
+    }
+    catch (const Tool::Failure&)
+    {
+        return {};
+    }
+}
+
+ExitStatus Run(const Tool::Job& iJob, const Tool::CommonOptions& iOptions, const Tool::FailureAnswer& iAnswer)
 {
     try
     {
@@ -68,20 +84,36 @@ ExitStatus Run(const Tool::Job& iJob)
     {
         EndAsBrokenPipe();
     }
+    catch (const Tool::ReportedFailure& failure)
+    {
+        iAnswer.Tell(failure.Text(), failure.Reports());
+    }
     catch (const Tool::Failure& failure)
     {
-        Tool::PrintError(failure.what());
+        iAnswer.Tell(failure.what());
     }
     catch (const VYRStandalone::DocumentError& error)
     {
-        Tool::PrintError(error.what());
+        iAnswer.Tell(Tool::PlacedLineOf(error, CatalogFolders(iOptions)));
     }
     catch (const std::exception& error)
     {
         // A fault of this program or of the module; what led to it helps whoever mends it.
-        Tool::PrintError("vyrcfd: internal error: " + Tool::OneLine(error.what()));
+        iAnswer.Tell("vyrcfd: internal error: " + Tool::OneLine(error.what()));
     }
     return JobFailed;
+}
+
+/// Whether JSON is asked for on a command line that cannot be parsed to its end.
+bool AsksForJson(int argc, const char* const* argv)
+{
+    return std::any_of(argv, argv + argc, [](const char* iWord) { return std::string_view(iWord) == "--json"; });
+}
+
+std::string NameOfCommand(const CLI::App& iApp)
+{
+    const std::vector<CLI::App*> chosen = iApp.get_subcommands();
+    return chosen.empty() ? std::string() : chosen.front()->get_name();
 }
 
 ExitStatus RunCommandLine(int argc, const char* const* argv)
@@ -95,6 +127,10 @@ ExitStatus RunCommandLine(int argc, const char* const* argv)
     app.set_version_flag("--version", "vyrcfd " VYRCFD_VERSION, "Show the version");
     app.require_subcommand(1);
     app.footer("Exit status: 0 success, 1 the job failed, 2 wrong use. `vyrcfd COMMAND --help` tells more.\n\n"
+               "With --json a command that fails before it could answer prints one line on standard output all the "
+               "same: {\"command\", \"status\": \"failed\", \"value\": null, \"reports\": [{\"kind\", \"text\", "
+               "\"function\", \"status\"}]}, as the commands of the shell do; so a member \"reports\" tells an answer "
+               "of this kind from all others.\n\n"
                "Example:\n    vyrcfd --installation samples list");
     Tool::CommonOptions options;
     Tool::Job job;
@@ -118,14 +154,14 @@ ExitStatus RunCommandLine(int argc, const char* const* argv)
     {
         std::ostringstream text;
         app.exit(help, text, text);
-        return Run([&text] { Tool::Print(text.str()); });
+        return Run([&text] { Tool::Print(text.str()); }, options, {{}, false});
     }
     catch (const CLI::ParseError& error)
     {
-        Tool::PrintError("vyrcfd: " + Correction(app, error));
+        Tool::FailureAnswer(NameOfCommand(app), AsksForJson(argc, argv)).Tell("vyrcfd: " + Correction(app, error));
         return WrongUse;
     }
-    return Run(job);
+    return Run(job, options, {NameOfCommand(app), options.json});
 }
 } // namespace
 

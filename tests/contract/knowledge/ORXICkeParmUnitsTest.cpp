@@ -146,7 +146,7 @@ TEST_F(Units, ValueOfAQuantity_IsConvertedAsEveryReal)
     EXPECT_FALSE(value->IsTrue());
 }
 
-struct Copying
+struct QuantityCopying
 {
     const char* from;
     const char* to;
@@ -154,12 +154,12 @@ struct Copying
     bool isTaken;
 };
 
-std::ostream& operator<<(std::ostream& ioStream, const Copying& iCopying)
+std::ostream& operator<<(std::ostream& ioStream, const QuantityCopying& iCopying)
 {
     return ioStream << iCopying.from << " to " << iCopying.to;
 }
 
-class QuantityCopyings : public Units, public testing::WithParamInterface<Copying>
+class QuantityCopyings : public Units, public testing::WithParamInterface<QuantityCopying>
 {
 };
 
@@ -177,12 +177,13 @@ TEST_P(QuantityCopyings, ValuateFromValue_TakesWhatMeasuresTheSame)
     EXPECT_EQ(Told().size(), GetParam().isTaken ? 1U : 0U);
 }
 
-INSTANTIATE_TEST_SUITE_P(Knowledge, QuantityCopyings,
-                         testing::Values(Copying{"length", "length", true}, Copying{"length", "span", true},
-                                         Copying{"span", "depth", true}, Copying{"length", "pressure", false},
-                                         Copying{"pressure", "temperature", false}, Copying{"ratio", "length", true},
-                                         Copying{"length", "ratio", true}, Copying{"count", "length", true},
-                                         Copying{"mode", "length", false}, Copying{"title", "length", false}));
+INSTANTIATE_TEST_SUITE_P(
+    Knowledge, QuantityCopyings,
+    testing::Values(QuantityCopying{"length", "length", true}, QuantityCopying{"length", "span", true},
+                    QuantityCopying{"span", "depth", true}, QuantityCopying{"length", "pressure", false},
+                    QuantityCopying{"pressure", "temperature", false}, QuantityCopying{"ratio", "length", true},
+                    QuantityCopying{"length", "ratio", true}, QuantityCopying{"count", "length", true},
+                    QuantityCopying{"mode", "length", false}, QuantityCopying{"title", "length", false}));
 
 TEST_F(Units, ValuateFromValue_OfAnUnsetQuantity_Empties)
 {

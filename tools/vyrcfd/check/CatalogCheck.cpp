@@ -1,8 +1,9 @@
 #include "CatalogCheck.h"
 
-#include <unordered_set>
+#include <algorithm>
 
-#include "VYRStandaloneCatalog.h"
+#include "KnownTypes.h"
+#include "MeantLists.h"
 #include "Wording.h"
 
 namespace Tool
@@ -12,54 +13,68 @@ namespace
 class CatalogCheck
 {
 public:
-    CatalogCheck(ScratchObjects& ioObjects, CheckRun& ioRun)
-        : m_objects(ioObjects), m_run(ioRun), m_types(VYRStandalone::TypeNames()),
-          m_known(m_types.begin(), m_types.end())
-    {
-    }
+    CatalogCheck(ScratchObjects& ioObjects, CheckRun& ioRun) : m_objects(ioObjects), m_run(ioRun) {}
 
     /// What is below a start-up belongs to components, which contain no others of their own type.
     void Check(const SourceFile& iFile, const SourceValue& iStartup, const ObjectPlace& iPlace)
     {
-        const SourceMember* startups = iStartup.Find("Startups");
-        if (startups != nullptr && startups->value->Is(SourceValue::Kind::Array))
-            CheckStartups(iFile, *startups->value, iPlace);
+        const bool isOfChoice = iStartup.Has("choices") || iStartup.Has("Startups") || iStartup.Has("value");
+        if (isOfChoice && IsChoice(m_objects.At(iPlace)))
+            CheckChoice(iFile, iStartup, iPlace);
         for (const SourceMember& member : iStartup.members)
             Check(iFile, *member.value, iPlace.Component(member.key));
     }
 
 private:
-    void CheckStartups(const SourceFile& iFile, const SourceValue& iStartups, const ObjectPlace& iPlace)
+    void CheckChoice(const SourceFile& iFile, const SourceValue& iStartup, const ObjectPlace& iPlace)
     {
         const VYRCfdObjectAccess choice = m_objects.At(iPlace);
-        if (!IsChoice(choice))
+        const std::vector<std::string> choices = ChoicesOf(choice);
+        const std::vector<std::string> startups = StartupsOf(choice);
+        const std::string value = FirstChoiceOf(choice);
+        const SourceMember* const written = iStartup.Find("choices");
+        if (written != nullptr && iStartup.Has("Startups") && AreSwapped(choices, startups, value))
+        {
+            Add(iFile, *written, FindingKind::SwappedLists, SwappedText);
             return;
-        for (const SourceValue* startup : iStartups.elements)
-            if (!startup->text.empty() && m_known.count(startup->text) == 0)
-                Add(iFile, *startup, FindingKind::UnknownType,
-                    "the startup " + Quoted(startup->text) + " of " + iPlace.Shown() + " is no type of the catalogs",
-                    startup->text);
-        const std::size_t choices = ChoicesOf(choice).size();
-        const std::size_t startups = iStartups.elements.size();
-        if (startups != 0 && startups == StartupsOf(choice).size() && startups != choices)
-            Add(iFile, iStartups, FindingKind::UnequalLists,
-                "there is one startup for each choice, an empty one for a choice without data: " + iPlace.Shown() +
-                    " has " + Counted(choices, "choice") + " and " + Counted(startups, "startup"),
-                {});
+        }
+        if (const SourceMember* const member = iStartup.Find("Startups"))
+            CheckStartups(iFile, *member, choices.size(), startups.size(), iPlace);
+        // Choices that stand elsewhere may be changed here, and the value with them.
+        const SourceMember* const first = iStartup.Has("value") ? iStartup.Find("value") : written;
+        if (first != nullptr && !value.empty() && !choices.empty() &&
+            std::find(choices.begin(), choices.end(), value) == choices.end())
+            Add(iFile, *first, FindingKind::DefaultNotInChoices,
+                "the value " + Quoted(value) + " that " + iPlace.Shown() + " comes with is none of its choices", value,
+                choices);
     }
 
-    void Add(const SourceFile& iFile, const SourceValue& iValue, FindingKind iKind, std::string iMessage,
-             const std::string& iUnknown)
+    void CheckStartups(const SourceFile& iFile, const SourceMember& iWritten, std::size_t iChoices,
+                       std::size_t iStartups, const ObjectPlace& iPlace)
     {
-        Finding finding = FindingIn(iFile.Path(), iValue.position, iKind, Severity::Error, std::move(iMessage));
-        finding.key = "Startups";
-        m_run.Add(std::move(finding), iUnknown, iUnknown.empty() ? std::vector<std::string>() : m_types);
+        for (const SourceValue* startup : iWritten.value->elements)
+            if (!startup->text.empty() && !IsKnownType(startup->text))
+                Add(iFile, {iWritten.key, {}, startup}, FindingKind::UnknownType,
+                    "the startup " + Quoted(startup->text) + " of " + iPlace.Shown() + " is no type of the catalogs",
+                    startup->text, KnownTypes());
+        const std::size_t startups = iWritten.value->elements.size();
+        if (startups != 0 && startups == iStartups && startups != iChoices)
+            Add(iFile, iWritten, FindingKind::UnequalLists,
+                "there is one startup for each choice, an empty one for a choice without data: " + iPlace.Shown() +
+                    " has " + Counted(iChoices, "choice") + " and " + Counted(startups, "startup"));
+    }
+
+    void Add(const SourceFile& iFile, const SourceMember& iWritten, FindingKind iKind, std::string iMessage,
+             const std::string& iUnknown = {}, const std::vector<std::string>& iKnown = {})
+    {
+        Finding finding =
+            FindingIn(iFile.Path(), iWritten.value->position, iKind, Severity::Error, std::move(iMessage));
+        finding.key = iWritten.key;
+        m_run.Add(std::move(finding), iUnknown, iKnown);
     }
 
     ScratchObjects& m_objects;
     CheckRun& m_run;
-    std::vector<std::string> m_types;
-    std::unordered_set<std::string> m_known;
 };
 } // namespace
 

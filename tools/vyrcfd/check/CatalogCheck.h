@@ -12,7 +12,7 @@
 
 namespace Tool
 {
-/// Choices whose "Startups" are no types, or not one for each choice.
+/// Choices whose "Startups" are no types, or not one for each choice, and that come with a value that is none.
 void CheckCatalogStartups(const CatalogSource& iCatalogs, ScratchObjects& ioObjects, CheckRun& ioRun);
 } // namespace Tool
 

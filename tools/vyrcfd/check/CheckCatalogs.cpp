@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "ChoiceManager.h"
+#include "DocumentFault.h"
 #include "DocumentMessage.h"
 #include "JsonWriter.h"
 #include "VYRStandaloneCatalog.h"
@@ -68,20 +69,6 @@ void DeclareInstalled(const std::string& iName, const Installation& iInstallatio
                                 iInstallation.CatalogFolders());
 }
 
-SourcePosition PositionOf(const VYRStandalone::DocumentError& iError)
-{
-    if (iError.Line() > 0)
-        return {iError.Line(), iError.Column()};
-    try
-    {
-        return SourceFile(iError.File()).PositionAt(iError.Path());
-    }
-    catch (const VYRStandalone::DocumentError&)
-    {
-        // It cannot be read at all.
-        return {};
-    }
-}
 } // namespace
 
 CheckCatalogs::CheckCatalogs(const Installation& iInstallation, const std::vector<std::string>& iNamed, CheckRun& ioRun)
@@ -92,7 +79,7 @@ CheckCatalogs::CheckCatalogs(const Installation& iInstallation, const std::vecto
     std::vector<std::string> named = iInstallation.Catalogs();
     named.insert(named.end(), iNamed.begin(), iNamed.end());
     for (const std::string& file : named)
-        Declared(file, ioRun, [&] {
+        Declared(file, [&] {
             VYRStandalone::LoadCatalog(file, folders);
             names.emplace(SourceFile(file).Root().TextOf("catalog"));
         });
@@ -107,12 +94,13 @@ CheckCatalogs::CheckCatalogs(const Installation& iInstallation, const std::vecto
     }
     for (const auto& [name, file] : installed.files)
         if (names.count(name) == 0)
-            Declared(file, ioRun, [&, &called = name] { DeclareInstalled(called, iInstallation); });
+            Declared(file, [&, &called = name] { DeclareInstalled(called, iInstallation); });
+    AddErrors(folders, ioRun);
     // Now that all types are declared, and before anything is asked of an object.
     ChoiceManager::Register();
 }
 
-template <class Declare> void CheckCatalogs::Declared(const std::string& iFile, CheckRun& ioRun, Declare iDeclare)
+template <class Declare> void CheckCatalogs::Declared(const std::string& iFile, Declare iDeclare)
 {
     try
     {
@@ -121,10 +109,23 @@ template <class Declare> void CheckCatalogs::Declared(const std::string& iFile, 
     }
     catch (const VYRStandalone::DocumentError& error)
     {
-        m_haveFailed = true;
-        ioRun.Add(FindingIn(error.File(), PositionOf(error), FindingKind::UnreadableFile, Severity::Error,
-                            MessageOf(error) + "; as long as this catalog is not read, nothing is checked against "
-                                               "types"));
+        m_errors.push_back(error);
     }
+}
+
+/// Only when all others are declared, since looking for what was meant takes their types into use.
+void CheckCatalogs::AddErrors(const std::vector<std::string>& iFolders, CheckRun& ioRun)
+{
+    for (const VYRStandalone::DocumentError& error : m_errors)
+    {
+        const DocumentFault fault = FaultOf(error, iFolders);
+        Finding finding = FindingIn(error.File(), fault.position, FindingKind::UnreadableFile, Severity::Error,
+                                    MessageOf(error) + fault.remark +
+                                        "; as long as this catalog is not read, nothing is checked "
+                                        "against types");
+        finding.suggestion = fault.suggestion;
+        ioRun.Add(std::move(finding));
+    }
+    m_haveFailed = m_haveFailed || !m_errors.empty();
 }
 } // namespace Tool

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "CheckRun.h"
+#include "VYRStandaloneErrors.h"
 
 namespace Tool
 {
@@ -21,10 +22,12 @@ public:
     bool HaveFailed() const noexcept { return m_haveFailed; }
 
 private:
-    template <class Declare> void Declared(const std::string& iFile, CheckRun& ioRun, Declare iDeclare);
+    template <class Declare> void Declared(const std::string& iFile, Declare iDeclare);
+    void AddErrors(const std::vector<std::string>& iFolders, CheckRun& ioRun);
 
     std::vector<std::string> m_files;
     bool m_haveFailed = false;
+    std::vector<VYRStandalone::DocumentError> m_errors;
 };
 } // namespace Tool
 

@@ -91,7 +91,8 @@ void AddCheckCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
         "items count from 1. The place is that of the value of \"key\", of an unknown key itself. Kinds: "
         "unreadable-file, ignored-file, unknown-key, wrong-kind, does-nothing, ignored-key, duplicate-name, "
         "unknown-config, unused-config, cycle, bad-condition, "
-        "odd-condition, unequal-lists, blank-in-list, default-not-in-choices, default-invalid, "
+        "odd-condition, unequal-lists, swapped-lists, wrong-separator, blank-in-list, default-not-in-choices, "
+        "default-invalid, "
         "default-reopens-differently, path-nowhere, unknown-type."
         "\n\nExample:\n    vyrcfd --installation samples check --strict");
     command->callback(

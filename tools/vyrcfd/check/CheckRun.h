@@ -30,6 +30,10 @@ struct CheckRun
     /// for is not guessed then: it would be found wrong for that mistake alone.
     std::set<std::string, std::less<>> unclear{};
 
+    /// Names with two definitions of which one was probably meant to have another, and it is not known which: nothing
+    /// is said of what would follow from that.
+    std::set<std::string, std::less<>> ambiguous{};
+
     /// Configurations that are applied from outside: a catalog says that they are for a type, or a reference that is
     /// misspelt means them.
     std::set<std::string, std::less<>> wanted{};

@@ -117,15 +117,16 @@ std::vector<std::string> TextsOf(const VYRCfdObjectAccess& iAttribute)
     return {};
 }
 
-void CheckComparison(const SourceItem& iItem, const Trial& iTrial, const ConditionText& iParts,
+bool CheckComparison(const SourceItem& iItem, const Trial& iTrial, const ConditionText& iParts,
                      const VYRCfdObjectAccess& iAttribute, TrialFindings& oFindings)
 {
     Oddity oddity = OddityOf(iParts, iAttribute);
     if (oddity.message.empty())
-        return;
+        return true;
     Finding finding = FindingAt(iItem, "condition", FindingKind::OddCondition, Severity::Warning,
                                 oddity.message + " (" + iTrial.Where() + ")");
     finding.suggestion = oddity.suggestion;
     oFindings.push_back({std::move(finding), std::move(oddity.unknown), std::move(oddity.known)});
+    return false;
 }
 } // namespace Tool

@@ -116,7 +116,10 @@ void CheckCycles(CheckRun& ioRun)
         const Chain chain = isDone[node] ? Chain() : ShortestCycle(circles, node, group);
         for (const std::size_t one : group)
             isDone[one] = true;
-        if (chain.empty())
+        const bool isDoubtful = std::any_of(chain.begin(), chain.end(), [&](const Reference* iOne) {
+            return ioRun.ambiguous.count(iOne->item.configuration.name) != 0;
+        });
+        if (chain.empty() || isDoubtful)
             continue;
         AddCycle(chain, ioRun);
         CheckUse(group, graph, applied, ioRun);

@@ -2,6 +2,7 @@
 
 #include "AttributeReader.h"
 #include "ItemTrial.h"
+#include "MeantUnit.h"
 #include "ORXISpecAttrKey.h"
 #include "ORXKeySetVYRCfdBase.h"
 #include "ORXSimBCInitializeServices.h"
@@ -63,6 +64,19 @@ VYRCfdObjectAccess RecordOn(const VYRCfdObjectAccess& iObject)
     return record;
 }
 
+/// The text if it is a default of the attribute; empty if not.
+std::string Taken(const VYRIMpaDefaultManagementProtected_var& iManagement, const ORXUnicodeString& iName,
+                  const std::string& iText)
+{
+    ORXUnicodeString text = UnicodeOf(iText);
+    ORXICkeInst_var spDefault;
+    ORXUnicodeString name = iName;
+    if (iText.empty() || iManagement->SetCustomDefault(name, text) < 0)
+        return {};
+    iManagement->GetDefault(name, spDefault);
+    return ValueOf(spDefault, tk_double).IsUnset() ? std::string() : iText;
+}
+
 /// What default management finds in a record once the model was closed and opened.
 Value Reopened(const VYRIMpaDefaultManagementProtected_var& iManagement, const VYRCfdObjectAccess& iObject,
                const ORXUnicodeString& iName, const std::string& iText, int iType)
@@ -105,6 +119,7 @@ void DefaultTrial::Check(const SourceItem& iItem, const Trial& iTrial, TrialFind
     oFindings.push_back({FindingAt(iItem, "default", verdict.kind,
                                    verdict.isCertain ? iTrial.Worst() : Severity::Warning, verdict.message),
                          text, verdict.known});
+    oFindings.back().finding.suggestion = verdict.meant;
 }
 
 DefaultTrial::Verdict DefaultTrial::Try(const Trial& iTrial, const std::string& iName, const std::string& iText)
@@ -139,6 +154,17 @@ DefaultTrial::Verdict DefaultTrial::TryOnAttribute(const Trial& iTrial, const st
     spManagement->GetDefault(name, spDefault);
     const Value now = ValueOf(spDefault, info.type);
     const Value later = Reopened(spManagement, iTrial.object, name, iText, info.type);
+    if (now.IsUnset() && info.type == tk_double)
+    {
+        const MeantUnit meant = MeantQuantityOf(iText);
+        return {false,
+                FindingKind::DefaultInvalid,
+                true,
+                what + "cannot take " + Quoted(iText) + " " + iTrial.Where() +
+                    ", and is left without a default and a value" + meant.Remark(),
+                {},
+                Taken(spManagement, name, meant.text)};
+    }
     if (now.IsUnset())
         return {false, FindingKind::DefaultInvalid, true,
                 what + "cannot take " + Quoted(iText) + " " + iTrial.Where() +

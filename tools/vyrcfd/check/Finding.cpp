@@ -34,6 +34,10 @@ const char* NameOf(FindingKind iKind)
         return "odd-condition";
     case FindingKind::UnequalLists:
         return "unequal-lists";
+    case FindingKind::SwappedLists:
+        return "swapped-lists";
+    case FindingKind::WrongSeparator:
+        return "wrong-separator";
     case FindingKind::BlankInList:
         return "blank-in-list";
     case FindingKind::DefaultNotInChoices:

@@ -28,6 +28,8 @@ enum class FindingKind
     Cycle,
     BadCondition,
     OddCondition,
+    SwappedLists,
+    WrongSeparator,
     UnequalLists,
     BlankInList,
     DefaultNotInChoices,

@@ -48,6 +48,14 @@ void FindingList::Raise(const Finding& iFinding)
         }
 }
 
+void FindingList::Remove(const Finding& iFinding)
+{
+    if (m_known.erase(IdentityOf(iFinding)) == 0)
+        return;
+    const auto isIt = [&](const Finding& iOne) { return IdentityOf(iOne) == IdentityOf(iFinding); };
+    m_findings.erase(std::remove_if(m_findings.begin(), m_findings.end(), isIt), m_findings.end());
+}
+
 bool FindingList::Has(const Finding& iFinding) const
 {
     return m_known.count(IdentityOf(iFinding)) != 0;

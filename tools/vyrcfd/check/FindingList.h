@@ -25,6 +25,8 @@ public:
 
     /// Of a list with an empty entry that is known: takes over what is worse, as it turned out on an object.
     void Raise(const Finding& iFinding);
+    /// Takes the finding of the kind at the same place, under the same key, out again, if there is one.
+    void Remove(const Finding& iFinding);
     /// Whether there is a finding of the kind at the same place, under the same key.
     bool Has(const Finding& iFinding) const;
 

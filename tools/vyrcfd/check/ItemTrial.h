@@ -7,6 +7,7 @@
  */
 
 #include <map>
+#include <optional>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -39,6 +40,8 @@ struct TrialFinding
     Finding finding;
     std::string unknown{};
     std::vector<std::string> known{};
+    /// A finding of the texts that is the same mistake, seen from elsewhere.
+    std::optional<Finding> replaced{};
 };
 
 using TrialFindings = std::vector<TrialFinding>;
@@ -58,6 +61,8 @@ private:
         bool isCertain = true;
         std::string message{};
         std::vector<std::string> known{};
+        /// What was probably meant, where that is none of a few.
+        std::string meant{};
     };
 
     static Verdict Try(const Trial& iTrial, const std::string& iName, const std::string& iText);
@@ -76,8 +81,8 @@ bool TryChoice(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFin
 /// The texts of the enumeration that an attribute is; empty for any other.
 std::vector<std::string> TextsOf(const VYRCfdObjectAccess& iAttribute);
 
-/// What a comparison with an attribute comes to.
-void CheckComparison(const SourceItem& iItem, const Trial& iTrial, const ConditionText& iParts,
+/// What a comparison with an attribute comes to. @return false where it is not the one that is meant
+bool CheckComparison(const SourceItem& iItem, const Trial& iTrial, const ConditionText& iParts,
                      const VYRCfdObjectAccess& iAttribute, TrialFindings& oFindings);
 
 /// Adds that a path of an item leads nowhere.

@@ -2,28 +2,13 @@
 #include <set>
 
 #include "CheckRun.h"
+#include "MeantLists.h"
 #include "Wording.h"
 
 namespace Tool
 {
 namespace
 {
-/// The text between commas as a reader takes it: blanks at its ends do not count.
-std::vector<std::string> WrittenEntries(std::string_view iText)
-{
-    std::vector<std::string> entries;
-    for (std::size_t at = 0; at <= iText.size();)
-    {
-        const std::size_t end = std::min(iText.find(',', at), iText.size());
-        std::string_view entry = iText.substr(at, end - at);
-        entry.remove_prefix(std::min(entry.find_first_not_of(' '), entry.size()));
-        entry = entry.substr(0, entry.find_last_not_of(' ') + 1);
-        entries.emplace_back(entry);
-        at = end + 1;
-    }
-    return entries;
-}
-
 /// What is wrong with the blanks of a list; empty when nothing is.
 std::string BlanksOf(std::string_view iText)
 {
@@ -47,14 +32,9 @@ public:
     void Check(const SourceItem& iItem)
     {
         if (iItem.role == ItemRole::Values)
-            CheckEntries(iItem, "value", "an entry of the list is empty");
-        if (iItem.role != ItemRole::Choice || !IsText(iItem, "choices"))
-            return;
-        CheckEntries(iItem, "choices", "an entry of \"choices\" is empty, and is a choice without a name");
-        const std::vector<std::string> choices = SplitTexts(iItem.Text("choices"));
-        CheckDoubled(iItem, choices);
-        CheckStartups(iItem, choices.size());
-        CheckDefault(iItem, choices);
+            CheckValues(iItem);
+        if (iItem.role == ItemRole::Choice && IsText(iItem, "choices"))
+            CheckChoices(iItem);
     }
 
 private:
@@ -64,50 +44,94 @@ private:
         return member != nullptr && member->value->Is(SourceValue::Kind::Text);
     }
 
-    void CheckBlanks(const SourceItem& iItem, const char* iKey)
+    void CheckValues(const SourceItem& iItem)
     {
-        std::string blanks = BlanksOf(iItem.Text(iKey));
+        MeantEntries entries = MeantEntriesOf(iItem);
+        Add(std::move(entries.findings));
+        CheckEntries(iItem, "value", entries.text, "an entry of the list is empty");
+    }
+
+    void CheckChoices(const SourceItem& iItem)
+    {
+        MeantLists lists = MeantListsOf(iItem);
+        Add(std::move(lists.findings));
+        constexpr char isEmpty[] = "an entry of \"choices\" is empty, and is a choice without a name";
+        // Nothing else can be right where there are none.
+        if (lists.choices.find_first_not_of(' ') == std::string::npos)
+        {
+            const bool fails = SplitTexts(lists.startups).size() > 1 || !iItem.Text("default").empty();
+            m_run.Add(FindingAt(iItem, lists.choicesKey, FindingKind::BlankInList,
+                                fails ? Severity::Error : Severity::Warning, isEmpty));
+            return;
+        }
+        CheckEntries(iItem, lists.choicesKey, lists.choices, isEmpty);
+        const std::vector<std::string> choices = SplitTexts(lists.choices);
+        CheckDoubled(iItem, lists.choicesKey, choices);
+        const std::size_t startups = lists.hasStartups ? SplitTexts(lists.startups).size() : choices.size();
+        if (IsText(iItem, "Startups"))
+            CheckStartups(iItem, lists, choices, startups);
+        // A choice that is missing in the list may be the default.
+        if (startups <= choices.size() || !IsText(iItem, "Startups"))
+            CheckDefault(iItem, choices);
+    }
+
+    void Add(std::vector<Finding> iFindings)
+    {
+        for (Finding& finding : iFindings)
+            m_run.Add(std::move(finding));
+    }
+
+    void CheckBlanks(const SourceItem& iItem, const char* iKey, const std::string& iText)
+    {
+        std::string blanks = BlanksOf(iText);
         if (!blanks.empty())
             m_run.Add(FindingAt(iItem, iKey, FindingKind::BlankInList, Severity::Warning, std::move(blanks)));
     }
 
-    void CheckEntries(const SourceItem& iItem, const char* iKey, const char* iEmpty)
+    void CheckEntries(const SourceItem& iItem, const char* iKey, const std::string& iText, const char* iEmpty)
     {
-        const std::vector<std::string> entries = SplitTexts(iItem.Text(iKey));
+        const std::vector<std::string> entries = SplitTexts(iText);
         if (std::find(entries.begin(), entries.end(), "") != entries.end())
             m_run.Add(FindingAt(iItem, iKey, FindingKind::BlankInList, Severity::Warning, iEmpty));
-        CheckBlanks(iItem, iKey);
+        CheckBlanks(iItem, iKey, iText);
     }
 
-    void CheckDoubled(const SourceItem& iItem, const std::vector<std::string>& iChoices)
+    void CheckDoubled(const SourceItem& iItem, const char* iKey, const std::vector<std::string>& iChoices)
     {
         std::set<std::string> seen;
         for (const std::string& choice : iChoices)
             if (!seen.insert(choice).second)
             {
-                m_run.Add(FindingAt(iItem, "choices", FindingKind::DoesNothing, Severity::Error,
+                m_run.Add(FindingAt(iItem, iKey, FindingKind::DoesNothing, Severity::Error,
                                     "the choice " + Quoted(choice) + " stands twice, and can be selected only once"));
                 return;
             }
     }
 
-    void CheckStartups(const SourceItem& iItem, std::size_t iChoices)
+    void CheckStartups(const SourceItem& iItem, const MeantLists& iLists, const std::vector<std::string>& iChoices,
+                       std::size_t iStartups)
     {
-        if (!IsText(iItem, "Startups"))
+        CheckBlanks(iItem, iLists.startupsKey, iLists.startups);
+        if (iStartups == iChoices.size())
             return;
-        CheckBlanks(iItem, "Startups");
-        const std::size_t startups = SplitTexts(iItem.Text("Startups")).size();
-        if (startups != iChoices)
-            m_run.Add(FindingAt(iItem, "Startups", FindingKind::UnequalLists, Severity::Error,
-                                "there is one startup for each choice, an empty one for a choice without data: " +
-                                    Counted(iChoices, "choice") + " and " + Counted(startups, "startup") +
-                                    " make the item fail"));
+        std::string message = "there is one startup for each choice, an empty one for a choice without data: " +
+                              Counted(iChoices.size(), "choice") + " and " + Counted(iStartups, "startup") +
+                              " make the item fail";
+        if (iStartups > iChoices.size() && IsOutside(iItem, iChoices))
+            message += "; the default " + Quoted(iItem.Text("default")) + " is none of the choices";
+        m_run.Add(FindingAt(iItem, iLists.startupsKey, FindingKind::UnequalLists, Severity::Error, std::move(message)));
+    }
+
+    static bool IsOutside(const SourceItem& iItem, const std::vector<std::string>& iChoices)
+    {
+        const std::string_view chosen = iItem.Text("default");
+        return !chosen.empty() && std::find(iChoices.begin(), iChoices.end(), chosen) == iChoices.end();
     }
 
     void CheckDefault(const SourceItem& iItem, const std::vector<std::string>& iChoices)
     {
         const std::string_view chosen = iItem.Text("default");
-        if (!chosen.empty() && std::find(iChoices.begin(), iChoices.end(), chosen) == iChoices.end())
+        if (IsOutside(iItem, iChoices))
             m_run.Add(FindingAt(iItem, "default", FindingKind::DefaultNotInChoices, Severity::Error,
                                 "the default " + Quoted(chosen) + " is none of the choices"),
                       chosen, iChoices);

@@ -1,6 +1,5 @@
-#include <algorithm>
-
 #include "ItemTrial.h"
+#include "MeantLists.h"
 #include "ScratchObjects.h"
 #include "VYRICfdChoice.h"
 #include "VYRICfdChoiceMgr.h"
@@ -10,11 +9,6 @@ namespace Tool
 {
 namespace
 {
-bool Holds(const std::vector<std::string>& iTexts, std::string_view iText)
-{
-    return std::find(iTexts.begin(), iTexts.end(), iText) != iTexts.end();
-}
-
 void AddFailed(const SourceItem& iItem, const Trial& iTrial, const char* iKey, FindingKind iKind,
                const std::string& iMessage, TrialFindings& oFindings)
 {
@@ -24,7 +18,7 @@ void AddFailed(const SourceItem& iItem, const Trial& iTrial, const char* iKey, F
 
 /// A manager offers nothing that the type does not declare, and wants a default.
 void TryManager(const SourceItem& iItem, const Trial& iTrial, const VYRICfdChoiceMgr_var& iManager,
-                TrialFindings& oFindings)
+                const MeantLists& iLists, TrialFindings& oFindings)
 {
     std::vector<ORXUnicodeString> all;
     ORXUnicodeString standard;
@@ -32,7 +26,7 @@ void TryManager(const SourceItem& iItem, const Trial& iTrial, const VYRICfdChoic
     std::vector<std::string> declared;
     for (const ORXUnicodeString& choice : all)
         declared.emplace_back(choice.View());
-    for (const std::string& choice : SplitTexts(iItem.Text("choices")))
+    for (const std::string& choice : SplitTexts(iLists.choices))
         if (choice.empty() && !Holds(declared, choice))
             return AddFailed(iItem, iTrial, "choices", FindingKind::BlankInList,
                              "an entry of \"choices\" is empty, and is none of the choices that are declared",
@@ -43,15 +37,22 @@ void TryManager(const SourceItem& iItem, const Trial& iTrial, const VYRICfdChoic
                       "the choice " + Quoted(choice) + " is none of those that are declared", oFindings);
             oFindings.back().unknown = choice;
             oFindings.back().known = declared;
+            // Then the default is no mistake of its own.
+            const std::string_view chosen = iItem.Text("default");
+            if (Holds(declared, chosen) && Nearest(choice, declared) == chosen)
+                oFindings.back().replaced =
+                    FindingAt(iItem, "default", FindingKind::DefaultNotInChoices, Severity::Error, {});
             return;
         }
     const std::string_view chosen = iItem.Text("default");
+    if (chosen.empty() && HasWrongKey(iItem.value))
+        return;
     if (chosen.empty())
         AddFailed(iItem, iTrial, "default", FindingKind::DefaultNotInChoices,
                   "a Choice that has a manager wants a \"default\" beside \"choices\"", oFindings);
-    else if (iManager->ConfigureChoiceMgr(SplitList(iItem.Text("choices")), UnicodeOf(chosen),
+    else if (iManager->ConfigureChoiceMgr(SplitList(iLists.choices), UnicodeOf(chosen),
                                           UnicodeOf(iItem.Text("display"))) < 0 &&
-             Holds(SplitTexts(iItem.Text("choices")), chosen))
+             Holds(SplitTexts(iLists.choices), chosen))
         AddFailed(iItem, iTrial, "choices", FindingKind::DoesNothing, "the manager refuses these choices", oFindings);
 }
 } // namespace
@@ -74,15 +75,17 @@ void TryValues(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFin
 
 bool TryChoice(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings)
 {
-    const std::vector<ORXUnicodeString> choices = SplitList(iItem.Text("choices"));
+    // As they were meant, since what follows from a mistake in them is none.
+    const MeantLists lists = MeantListsOf(iItem);
+    const std::vector<ORXUnicodeString> choices = SplitList(lists.choices);
     std::vector<ORXUnicodeString> startups;
-    if (iItem.value.Has("Startups"))
-        startups = SplitList(iItem.Text("Startups"));
+    if (lists.hasStartups)
+        startups = SplitList(lists.startups);
     const VYRICfdChoice_var spChoice = iTrial.object.Self();
     const VYRICfdChoiceMgr_var spManager = iTrial.object.Self();
     if (startups.empty() && !!spManager)
     {
-        TryManager(iItem, iTrial, spManager, oFindings);
+        TryManager(iItem, iTrial, spManager, lists, oFindings);
         return true;
     }
     if (!spChoice)

@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <optional>
+#include <unordered_map>
 #include <unordered_set>
 
 #include "CheckRun.h"
@@ -61,11 +64,30 @@ public:
             CheckMeant(meant);
         for (const SourceConfiguration& configuration : m_run.source.Configurations())
             CheckReferences(configuration);
+        // Of names that are as near the one that nothing refers to is the more likely.
+        std::stable_partition(m_known.begin(), m_known.end(), [&](const std::string& iName) {
+            return m_used.count(iName) == 0 && m_run.wanted.count(iName) == 0;
+        });
+        for (Unknown& unknown : m_unknown)
+            Resolve(unknown);
+        TakeForDuplicate();
+        TakeForUnused();
+        for (Unknown& unknown : m_unknown)
+            m_run.Add(std::move(unknown.finding));
         for (const SourceConfiguration& configuration : m_run.source.Configurations())
             CheckName(configuration);
     }
 
 private:
+    /// A name that no configuration has, with all places that refer to it: that it is missing is one mistake.
+    struct Unknown
+    {
+        std::string name;
+        Finding finding;
+        /// Without the names that there are.
+        std::string message{};
+    };
+
     void CheckMeant(const VYRStandalone::MeantConfiguration& iMeant)
     {
         m_run.wanted.insert(iMeant.configuration);
@@ -92,8 +114,11 @@ private:
                 AddUnknown(FindingAt(item, "config", FindingKind::UnknownConfig, Severity::Error,
                                      "there is no configuration " + Quoted(name)),
                            name);
-            else if (name != iConfiguration.name && iConfiguration.hiddenBy == nullptr)
+            else if (name != iConfiguration.name)
                 m_used.emplace(name);
+            // A definition that another one hides applies nothing as long as it has that name.
+            if (iConfiguration.hiddenBy != nullptr)
+                m_run.unclear.emplace(name);
         }
     }
 
@@ -108,16 +133,103 @@ private:
             }
     }
 
-    /// The one that was probably meant is used, for what is not known.
     void AddUnknown(Finding iFinding, std::string_view iName)
     {
         if (!m_run.isWhole || m_misspelt.count(std::string(iName)) != 0)
             return;
-        const std::string meant = m_run.Add(std::move(iFinding), iName, m_known);
-        if (meant.empty())
+        const auto [known, isNew] = m_unknownAt.try_emplace(std::string(iName), m_unknown.size());
+        if (isNew)
+            m_unknown.push_back({std::string(iName), std::move(iFinding)});
+        else
+            m_unknown[known->second].finding.related.push_back({iFinding.file, iFinding.position.line});
+    }
+
+    void Resolve(Unknown& ioUnknown)
+    {
+        Finding& finding = ioUnknown.finding;
+        if (!finding.related.empty())
+            finding.message += ", to which " + Shown(finding.related) +
+                               (finding.related.size() == 1 ? " refers" : " refer") + " as well";
+        ioUnknown.message = finding.message;
+        m_run.suggestions.Complete(finding, ioUnknown.name, m_known);
+        if (!finding.suggestion.empty())
+            TakeAsUsed(finding.suggestion);
+    }
+
+    /// What was probably meant is used, for what is not known.
+    void TakeAsUsed(const std::string& iName)
+    {
+        m_run.wanted.insert(iName);
+        m_run.unclear.insert(iName);
+    }
+
+    /// Whether no known name is so near that it must be the one.
+    static bool IsDoubtful(const Unknown& iOne)
+    {
+        return iOne.finding.suggestion.empty() || !IsSlip(iOne.name, iOne.finding.suggestion);
+    }
+
+    /// The only unknown name that fits; past the end for none or several.
+    template <class Fits> std::vector<Unknown>::iterator OnlyUnknown(Fits iFits)
+    {
+        const auto found = std::find_if(m_unknown.begin(), m_unknown.end(), iFits);
+        const bool isOnly = found != m_unknown.end() && std::none_of(found + 1, m_unknown.end(), iFits);
+        return isOnly ? found : m_unknown.end();
+    }
+
+    /// A definition that bears the name of another one is probably the one that is missing elsewhere.
+    void TakeForDuplicate()
+    {
+        const SourceConfiguration* duplicate = nullptr;
+        for (const SourceConfiguration& configuration : m_run.source.Configurations())
+            if (configuration.hiddenBy != nullptr && !configuration.name.empty())
+            {
+                if (duplicate != nullptr)
+                    return;
+                duplicate = &configuration;
+            }
+        if (duplicate == nullptr)
             return;
-        m_run.wanted.insert(meant);
-        m_run.unclear.insert(meant);
+        const auto unknown = OnlyUnknown(
+            [&](const Unknown& iOne) { return IsDoubtful(iOne) || iOne.finding.suggestion == duplicate->name; });
+        if (unknown == m_unknown.end())
+            return;
+        m_missing = std::move(*unknown);
+        m_run.ambiguous.insert(duplicate->name);
+        TakeAsUsed(duplicate->name);
+        m_unknown.erase(unknown);
+    }
+
+    /// A name that nothing has and nothing resembles is probably that of the only one that nothing refers to.
+    void TakeForUnused()
+    {
+        const auto unknown = OnlyUnknown(IsDoubtful);
+        const SourceConfiguration* unused = nullptr;
+        for (const SourceConfiguration& configuration : m_run.source.Configurations())
+            if (IsUnused(configuration))
+            {
+                if (unused != nullptr)
+                    return;
+                unused = &configuration;
+            }
+        if (unknown == m_unknown.end() || unused == nullptr || !m_run.knowsWanted)
+            return;
+        unknown->finding.message = unknown->message + "; nothing refers to " + Quoted(unused->name);
+        unknown->finding.suggestion = unused->name;
+        TakeAsUsed(unused->name);
+    }
+
+    bool IsUnused(const SourceConfiguration& iConfiguration) const
+    {
+        return m_run.isWhole && iConfiguration.hiddenBy == nullptr && !iConfiguration.name.empty() &&
+               m_used.count(iConfiguration.name) == 0 && m_run.wanted.count(iConfiguration.name) == 0;
+    }
+
+    /// "FILE:LINE and 2 others".
+    static std::string Shown(const std::vector<RelatedPlace>& iPlaces)
+    {
+        const std::string first = iPlaces.front().file + ":" + std::to_string(iPlaces.front().line);
+        return iPlaces.size() == 1 ? first : first + " and " + Counted(iPlaces.size() - 1, "other");
     }
 
     void CheckName(const SourceConfiguration& iConfiguration)
@@ -136,8 +248,7 @@ private:
                                     ", so that no item can apply it"));
         else if (iConfiguration.hiddenBy != nullptr)
             AddDuplicate(iConfiguration);
-        else if (m_run.isWhole && m_used.count(iConfiguration.name) == 0 &&
-                 m_run.wanted.count(iConfiguration.name) == 0)
+        else if (IsUnused(iConfiguration))
             AddUnused(iConfiguration, "no other configuration refers to " + Quoted(iConfiguration.name), m_run);
     }
 
@@ -149,6 +260,17 @@ private:
                       "a configuration " + Quoted(iConfiguration.name) + " is defined already in " + first.file + ":" +
                           std::to_string(first.line) + ", and that one holds in place of this one");
         finding.related.push_back(first);
+        if (m_missing)
+        {
+            const Finding& missing = m_missing->finding;
+            std::vector<RelatedPlace> places{{missing.file, missing.position.line}};
+            places.insert(places.end(), missing.related.begin(), missing.related.end());
+            finding.message += "; there is none called " + Quoted(m_missing->name) + ", to which " + Shown(places) +
+                               (places.size() == 1 ? " refers" : " refer") +
+                               ", and one of the two may be meant to be it";
+            finding.suggestion = m_missing->name;
+            finding.related.insert(finding.related.end(), places.begin(), places.end());
+        }
         m_run.Add(std::move(finding));
     }
 
@@ -158,6 +280,11 @@ private:
     std::unordered_set<std::string> m_used;
     /// Names that stand behind misspelt keys.
     std::unordered_set<std::string> m_misspelt;
+    std::vector<Unknown> m_unknown;
+    /// By name.
+    std::unordered_map<std::string, std::size_t> m_unknownAt;
+    /// The one that the only definition under a name that is taken was probably meant to have.
+    std::optional<Unknown> m_missing;
 };
 } // namespace
 

@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <set>
 
+#include "KnownTypes.h"
 #include "ORXISpecAttrKey.h"
 #include "ORXSimBCInitializeServices.h"
 #include "ORXTypeCode.h"
 #include "PathNames.h"
 #include "ScratchObjects.h"
 #include "SourceItem.h"
-#include "VYRStandaloneCatalog.h"
 
 namespace Tool
 {
@@ -52,12 +52,6 @@ PathEnd Open()
 PathEnd Nowhere(const PathEnd& iFrom, const std::string& iName, std::string iReason)
 {
     return {PathEnd::Kind::Nowhere, iFrom.access, iFrom.place, iName, std::move(iReason)};
-}
-
-bool IsType(const std::string& iName)
-{
-    static const std::vector<std::string> names = VYRStandalone::TypeNames();
-    return std::find(names.begin(), names.end(), iName) != names.end();
 }
 
 /// A choice with a startup that is no type has no data object, and that is told already.
@@ -148,19 +142,9 @@ void PathWalk::StepToData(const PathEnd& iFrom, const Names& iNames, std::size_t
     if (oEnds.empty() && !failed.empty())
         oEnds.push_back(failed.front());
     else if (oEnds.empty())
-        oEnds.push_back(IsNeverMet(iFrom.access) ? Open()
-                                                 : Nowhere(iFrom, "Data",
-                                                           IsRestricted(iFrom.access)
-                                                               ? "No choice that meets the condition has a data object"
-                                                               : "No choice has a data object"));
-}
-
-/// What no choice meets is told of the condition, and says nothing of the path.
-bool PathWalk::IsNeverMet(const VYRCfdObjectAccess& iChoice) const
-{
-    const std::vector<std::string> choices = ChoicesOf(iChoice);
-    return IsRestricted(iChoice) && m_parts.comparison == VYRCfdConditionOperator::Equal &&
-           std::find(choices.begin(), choices.end(), m_parts.value) == choices.end();
+        oEnds.push_back(Nowhere(iFrom, "Data",
+                                IsRestricted(iFrom.access) ? "No choice that meets the condition has a data object"
+                                                           : "No choice has a data object"));
 }
 
 bool PathWalk::IsRestricted(const VYRCfdObjectAccess& iChoice) const
@@ -214,7 +198,7 @@ PathEnd PathWalk::StepInList(const PathEnd& iFrom, const std::string& iName)
     if (!iFrom.access.IsObjectList())
         return Nowhere(iFrom, iName, WhyNoFurther(iFrom.access, iName));
     VYRCfdObjectAccess entry = iFrom.access.Get(UnicodeOf(iName));
-    if (entry.IsNull() && IsType(iName))
+    if (entry.IsNull() && IsKnownType(iName))
     {
         const ORXISpecObject_var spOwner = iFrom.access.Self();
         ORXIContainer_var spContainer = spOwner->GetContainer();

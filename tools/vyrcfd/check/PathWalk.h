@@ -69,7 +69,6 @@ private:
     /// The choices whose data objects are worth a look: of those that share a type, the first.
     std::vector<std::string> Candidates(const VYRCfdObjectAccess& iChoice) const;
     bool IsRestricted(const VYRCfdObjectAccess& iChoice) const;
-    bool IsNeverMet(const VYRCfdObjectAccess& iChoice) const;
 
     VYRCfdObjectAccess m_start;
     ObjectPlace m_place;

@@ -7,21 +7,6 @@
 
 namespace Tool
 {
-namespace
-{
-/// What a Choice has as it comes; empty for no Choice.
-std::string FirstChoiceOf(const VYRCfdObjectAccess& iObject)
-{
-    const ORXISpecObject_var spObject = iObject.Self();
-    if (!IsChoice(iObject) || !spObject)
-        return {};
-    const VYRCfdObjectAccess startup{ORXBaseUnknown_var(ORXISpecObject_var::Adopt(spObject->GetStartup()))};
-    ORXUnicodeString value;
-    startup["value"].GetString(value);
-    return std::string(value.View());
-}
-} // namespace
-
 void PresentData::Begin(const Trial& iTrial)
 {
     m_firstChoice = FirstChoiceOf(iTrial.object);
@@ -52,12 +37,12 @@ bool PresentData::HasNoData(const VYRCfdObjectAccess& iChoice) const
     return hasAny && startups[static_cast<std::size_t>(first - choices.begin())].empty();
 }
 
-void PresentData::Try(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings)
+bool PresentData::Try(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings)
 {
     const std::string_view path = iItem.Text("path");
     const bool leadsToData = path == "Data" || path.substr(0, 5) == "Data/";
     if (iItem.role != ItemRole::Nested || !leadsToData || !HasNoData(iTrial.object))
-        return;
+        return false;
     TrialFinding finding{FindingAt(iItem, "path", FindingKind::PathNowhere, Severity::Warning,
                                    Quoted(path) + " leads to no object as long as the Choice has " +
                                        Quoted(m_firstChoice) + " " + iTrial.Where() +
@@ -67,5 +52,6 @@ void PresentData::Try(const SourceItem& iItem, const Trial& iTrial, TrialFinding
         oFindings.push_back(std::move(finding));
     else if (!iTrial.isConditional)
         m_doubtful.push_back({std::move(finding), iTrial.place});
+    return m_isCertain;
 }
 } // namespace Tool

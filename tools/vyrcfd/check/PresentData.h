@@ -24,7 +24,8 @@ public:
     /// A configuration is going to be tried.
     void Begin(const Trial& iTrial);
     /// To be asked in front of `Follow`.
-    void Try(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
+    /// @return whether it is one of these
+    bool Try(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
     /// Follows what each item makes of the value of the Choice.
     void Follow(const SourceItem& iItem);
 

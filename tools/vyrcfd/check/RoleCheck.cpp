@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "CheckRun.h"
 #include "Wording.h"
 
@@ -78,6 +80,9 @@ void CheckUnread(const SourceItem& iItem, CheckRun& ioRun)
     {
         if (!Says(iItem, key) && !iItem.value.IsTrueAt(key))
             continue;
+        // As "Startups" and a default without attribute, it belongs to "choices", which are missing; that is told.
+        if (key == "display" && SetsDefault(iItem.role) && (Says(iItem, "Startups") || !Says(iItem, "path")))
+            continue;
         if (key == "Startups" && SetsDefault(iItem.role))
         {
             ioRun.Add(FindingAt(iItem, key, FindingKind::IgnoredKey, Severity::Error,
@@ -94,6 +99,17 @@ void CheckUnread(const SourceItem& iItem, CheckRun& ioRun)
                             "the \"path\" of an item with \"choices\" is not followed: the Choice is the object that "
                             "the configuration is applied to, and a record of its default under that path is lost; "
                             "reach one that lies deeper by an item with \"config\""));
+}
+
+/// The engine keeps the word with the record and reads it never, so that a wrong one stays for good.
+void CheckTypeWord(const SourceItem& iItem, CheckRun& ioRun)
+{
+    static const std::vector<std::string> words{"real", "integer", "boolean", "enumeration", "string"};
+    const std::string_view word = iItem.Text("type");
+    if (SetsDefault(iItem.role) && !word.empty() && std::find(words.begin(), words.end(), word) == words.end())
+        ioRun.Add(FindingAt(iItem, "type", FindingKind::UnknownType, Severity::Warning,
+                            Quoted(word) + " is no type of an attribute with a default"),
+                  word, words);
 }
 
 /// An empty text counts as none, which its writer may not have meant.
@@ -119,8 +135,10 @@ void CheckRoles(CheckRun& ioRun)
         for (const SourceItem& item : ItemsOf(configuration))
         {
             CheckEmpty(item, ioRun);
+            CheckTypeWord(item, ioRun);
             const bool isIdle = item.role == ItemRole::ValueWithoutList || item.role == ItemRole::Nothing;
-            if (!isIdle)
+            // What a key that is wrong was to say may be what the others belong to.
+            if (!isIdle && !HasWrongKey(item.value))
                 CheckUnread(item, ioRun);
             else if (!HasWrongKey(item.value))
             {

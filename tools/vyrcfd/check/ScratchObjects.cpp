@@ -96,6 +96,17 @@ std::vector<std::string> StartupsOf(const VYRCfdObjectAccess& iObject)
     return TextsAt(iObject, VYRCFDBASE(Choice, Startups));
 }
 
+std::string FirstChoiceOf(const VYRCfdObjectAccess& iObject)
+{
+    const ORXISpecObject_var spObject = iObject.Self();
+    if (!IsChoice(iObject) || !spObject)
+        return {};
+    const VYRCfdObjectAccess startup{ORXBaseUnknown_var(ORXISpecObject_var::Adopt(spObject->GetStartup()))};
+    ORXUnicodeString value;
+    startup["value"].GetString(value);
+    return std::string(value.View());
+}
+
 void Select(const VYRCfdObjectAccess& iChoice, const std::string& iValue)
 {
     const VYRICfdChoice_var spChoice = iChoice.Self();

@@ -54,6 +54,9 @@ std::vector<std::string> ChoicesOf(const VYRCfdObjectAccess& iObject);
 /// The types of the data objects, empty or one for each choice.
 std::vector<std::string> StartupsOf(const VYRCfdObjectAccess& iObject);
 
+/// The value that a Choice comes with; empty for none, and for any other object.
+std::string FirstChoiceOf(const VYRCfdObjectAccess& iObject);
+
 /// Selects a value of a Choice, and lets it bring its data object up to date.
 void Select(const VYRCfdObjectAccess& iChoice, const std::string& iValue);
 } // namespace Tool

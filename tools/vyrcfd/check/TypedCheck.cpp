@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include "CatalogCheck.h"
+#include "KnownTypes.h"
+#include "MeantLists.h"
 #include "VYRIMpaDefaultManagementProtected.h"
 #include "VYRStandaloneCatalog.h"
 #include "VYRStandaloneErrors.h"
@@ -63,7 +66,7 @@ void TypedCheck::Check(const CatalogSource& iCatalogs)
 void TypedCheck::Put(std::string_view iConfiguration, Task iTask)
 {
     iTask.configuration = m_run.source.Find(iConfiguration);
-    if (iTask.configuration != nullptr &&
+    if (iTask.configuration != nullptr && m_run.ambiguous.count(iConfiguration) == 0 &&
         m_known.emplace(iTask.configuration, iTask.place.type, iTask.place.path).second)
         m_tasks.push_back(std::move(iTask));
 }
@@ -202,7 +205,8 @@ bool TypedCheck::IsBrokenChoice(const SourceItem& iItem, bool iHasFailed) const
     const auto isTold = [&](FindingKind iKind, const char* iKey) {
         return m_run.findings.Has(FindingAt(iItem, iKey, iKind, Severity::Error, {}));
     };
-    return iHasFailed || HasWrongKey(iItem.value) || isTold(FindingKind::UnequalLists, "Startups");
+    return iHasFailed || HasWrongKey(iItem.value) || isTold(FindingKind::UnequalLists, "Startups") ||
+           isTold(FindingKind::UnequalLists, "choices") || Trimmed(iItem.Text("choices")).empty();
 }
 
 void TypedCheck::TryItem(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings)
@@ -220,19 +224,27 @@ void TypedCheck::TryReference(const SourceItem& iItem, const Trial& iTrial, Tria
     PathWalk walk(iTrial.object, iTrial.place);
     const std::string path(iItem.Text("path"));
     const std::size_t found = oFindings.size();
+    Guard guard = iItem.role == ItemRole::Conditional ? TryCondition(iItem, iTrial, walk, oFindings) : Guard::Clear;
+    // Under which condition it is to be applied is not known. One that is empty is told already.
+    if (iItem.role == ItemRole::Nested && iItem.value.Has("condition"))
+        guard = Guard::Odd;
+    else if (m_presentData.Try(iItem, iTrial, oFindings))
+        guard = Guard::Odd;
     // What such a path was to lead to is not known.
-    bool isClear = EndOfNames(path) == path.size();
-    isClear = (iItem.role != ItemRole::Conditional || TryCondition(iItem, iTrial, walk, oFindings)) && isClear;
-    if (isClear)
+    if (guard != Guard::None && EndOfNames(path) == path.size())
+    {
+        const bool follows = std::exchange(m_followsReferences, m_followsReferences && guard == Guard::Clear);
         for (const PathEnd& end : walk.Follow(path))
             TryTarget(iItem, iTrial, end, oFindings);
+        m_followsReferences = follows;
+    }
+    const bool isClear = guard == Guard::Clear && EndOfNames(path) == path.size();
     const bool leadsNowhere = std::any_of(
         oFindings.begin() + static_cast<std::ptrdiff_t>(found), oFindings.end(), [](const TrialFinding& iOne) {
             return iOne.finding.kind == FindingKind::PathNowhere && iOne.finding.severity != Severity::Note;
         });
     if (!isClear || leadsNowhere)
         m_run.unclear.emplace(iItem.Text("config"));
-    m_presentData.Try(iItem, iTrial, oFindings);
 }
 
 /// Of two configurations for the same Choice one may choose before the other.
@@ -246,33 +258,38 @@ void TypedCheck::ReportPresentData()
             Report({std::move(doubtful.finding)});
 }
 
-bool TypedCheck::TryCondition(const SourceItem& iItem, const Trial& iTrial, PathWalk& ioWalk, TrialFindings& oFindings)
+TypedCheck::Guard TypedCheck::TryCondition(const SourceItem& iItem, const Trial& iTrial, PathWalk& ioWalk,
+                                           TrialFindings& oFindings)
 {
     const std::string text(iItem.Text("condition"));
     const std::optional<ConditionText> parts = PartsOf(text);
     if (!parts)
-        return false;
+        return Guard::None;
     // Such a path is told already.
     if (parts->path.find_first_of("=!<>") != std::string::npos || Trimmed(parts->path) != parts->path ||
         EndOfNames(parts->path) != parts->path.size())
-        return false;
+        return Guard::None;
     const PathEnd end = ioWalk.Follow(parts->path).front();
     if (end.kind == PathEnd::Kind::Nowhere)
     {
         AddNowhere(iItem, iTrial, "condition", parts->path, end, oFindings);
-        return false;
+        return Guard::None;
     }
     if (end.kind == PathEnd::Kind::Open)
-        return true;
+        return Guard::Clear;
     if (!end.optional.empty())
         AddOptional(iItem, iTrial, "condition", Severity::Note, end.optional, "on any other the condition never holds",
                     oFindings);
-    CheckComparison(iItem, iTrial, *parts, end.access, oFindings);
-    m_overlap.Enter(iItem, iTrial, *parts, end.access, oFindings);
+    const bool isMeant = CheckComparison(iItem, iTrial, *parts, end.access, oFindings);
+    if (isMeant)
+        m_overlap.Enter(iItem, iTrial, *parts, end.access, oFindings);
     const VYRCfdObjectAccess owner{end.access.Self()};
-    if (end.kind == PathEnd::Kind::Attribute && end.access.GetName() == ORXUnicodeString("value") && IsChoice(owner))
-        ioWalk.Restrict(owner, *parts, text);
-    return true;
+    if (end.kind != PathEnd::Kind::Attribute || end.access.GetName() != ORXUnicodeString("value") || !IsChoice(owner))
+        return Guard::Clear;
+    if (!isMeant)
+        return Guard::Odd;
+    ioWalk.Restrict(owner, *parts, text);
+    return Guard::Clear;
 }
 
 void TypedCheck::TryTarget(const SourceItem& iItem, const Trial& iTrial, const PathEnd& iEnd, TrialFindings& oFindings)
@@ -297,28 +314,31 @@ void TypedCheck::TryTarget(const SourceItem& iItem, const Trial& iTrial, const P
 
 void TypedCheck::CheckTypeNames()
 {
-    const std::vector<std::string> types = VYRStandalone::TypeNames();
-    const std::unordered_set<std::string> known(types.begin(), types.end());
     for (const SourceConfiguration& configuration : m_run.source.Configurations())
         for (const SourceItem& item : ItemsOf(configuration))
         {
-            if (item.role != ItemRole::Choice)
+            if (item.role != ItemRole::Choice || !item.value.Has("Startups"))
                 continue;
-            for (const std::string& startup : SplitTexts(item.Text("Startups")))
-                if (!startup.empty() && known.count(startup) == 0)
-                    m_run.Add(FindingAt(item, "Startups", FindingKind::UnknownType, Severity::Error,
+            const MeantLists lists = MeantListsOf(item);
+            for (const std::string& startup : SplitTexts(lists.startups))
+                if (!startup.empty() && !IsKnownType(startup))
+                    m_run.Add(FindingAt(item, lists.startupsKey, FindingKind::UnknownType, Severity::Error,
                                         "the startup " + Quoted(startup) + " is no type of the catalogs"),
-                              startup, types);
+                              startup, KnownTypes());
         }
 }
 
 void TypedCheck::Report(TrialFindings iFindings)
 {
     for (TrialFinding& one : iFindings)
+    {
+        if (one.replaced)
+            m_run.findings.Remove(*one.replaced);
         if (m_run.findings.Has(one.finding))
             m_run.findings.Raise(one.finding);
         else
             m_run.Add(std::move(one.finding), one.unknown,
                       one.unknown.empty() ? std::vector<std::string>() : one.known);
+    }
 }
 } // namespace Tool

@@ -52,8 +52,16 @@ private:
     bool IsBrokenChoice(const SourceItem& iItem, bool iHasFailed) const;
     void TryItem(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
     void TryReference(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
-    /// @return false where the condition itself is none or leads nowhere
-    bool TryCondition(const SourceItem& iItem, const Trial& iTrial, PathWalk& ioWalk, TrialFindings& oFindings);
+    enum class Guard
+    {
+        /// The condition itself is none or leads nowhere.
+        None,
+        /// It compares a Choice with something that is not meant, so that to which of its data objects something is
+        /// applied under it is not known.
+        Odd,
+        Clear
+    };
+    Guard TryCondition(const SourceItem& iItem, const Trial& iTrial, PathWalk& ioWalk, TrialFindings& oFindings);
     void TryTarget(const SourceItem& iItem, const Trial& iTrial, const PathEnd& iEnd, TrialFindings& oFindings);
     void CheckTypeNames();
     void ReportPresentData();
@@ -70,6 +78,7 @@ private:
     std::set<std::tuple<const SourceConfiguration*, std::string, std::string>> m_known;
     std::unordered_set<const SourceConfiguration*> m_tried;
     /// False while several types are tried for one configuration: where its paths lead on each of them says nothing.
+    /// And for an item with an odd condition.
     bool m_followsReferences = true;
 };
 } // namespace Tool

@@ -12,7 +12,7 @@ namespace
 constexpr std::size_t NumberWidth = 4;
 constexpr std::size_t LevelIndent = 6;
 
-const char* FoldText(UnfoldingReader::Fold iFold)
+const char* FoldWords(UnfoldingReader::Fold iFold)
 {
     switch (iFold)
     {
@@ -69,7 +69,7 @@ public:
             text += lead + line + "\n";
             lead = indent + std::string(NumberWidth, ' ') + "    ";
         }
-        if (const std::string fold = FoldText(iFold); !fold.empty())
+        if (const std::string fold = FoldWords(iFold); !fold.empty())
             text += lead + fold + "\n";
     }
 

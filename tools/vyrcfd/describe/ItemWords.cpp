@@ -14,7 +14,7 @@ std::string QuotedText(const SourceItem& iItem, const char* iKey)
 }
 
 /// Where an item along a path applies.
-std::string Target(const SourceItem& iItem)
+std::string TargetWords(const SourceItem& iItem)
 {
     return iItem.Text("path").empty() ? "the object itself" : OneLine(iItem.Text("path"));
 }
@@ -79,7 +79,7 @@ Words DefaultWords(const SourceItem& iItem)
 Words ReferenceWords(const SourceItem& iItem, const ConfigurationSource& iSource)
 {
     const std::string config(iItem.Text("config"));
-    std::string text = "applies " + OneLine(config) + " to " + Target(iItem);
+    std::string text = "applies " + OneLine(config) + " to " + TargetWords(iItem);
     if (iItem.role == ItemRole::Conditional)
         text += " if " + OneLine(iItem.Text("condition")) + ", and records that";
     Words words{text};

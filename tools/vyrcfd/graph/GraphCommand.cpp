@@ -33,8 +33,8 @@ std::string ExtensionOf(const std::string& iFile)
 /// What is wrong with the name of the file; empty for nothing.
 std::string Objection(const std::string& iFile)
 {
-    if (iFile.empty())
-        return "names no file";
+    if (std::string objection = ObjectionToOutput(iFile); !objection.empty())
+        return objection;
     const std::string extension = ExtensionOf(iFile);
     const bool isKnown = extension == ".svg" || extension == ".dot" || extension == ".gv";
     return isKnown ? std::string() : Quoted(iFile) + " must end in .svg, .dot or .gv";
@@ -78,7 +78,8 @@ void AddGraphCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
     AddCommonOptions(*command, ioOptions);
     command->footer(
         "Configurations of one file stand in one box. A dashed line is a reference on the condition that it bears; "
-        "pointing at a line or a box in the SVG tells the items and the places. In red: references in a circle, and "
+        "pointing at a line or a box in the SVG tells the items and the places. A configuration from which more than "
+        "eight lines lead into other files stands in these once more, dashed. In red: references in a circle, and "
         "names that no configuration has."
         "\n\nWith --json: {\"configurations\": [{\"name\", \"file\", \"line\"}], \"references\": [{\"from\", "
         "\"to\", \"item\", \"line\", \"path\", \"condition\", \"inCircle\"}]}; \"file\" and \"line\" are null for "

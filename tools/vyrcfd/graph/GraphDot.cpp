@@ -2,6 +2,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <map>
+#include <set>
 #include <tuple>
 
 #include "GraphText.h"
@@ -107,43 +108,11 @@ std::string Colour(std::size_t iBox, const char* iSaturationAndBrightness)
     return std::string("\"") + hue + " " + iSaturationAndBrightness + "\"";
 }
 
-/// The configurations of each file in a box, and behind them what is in none.
-std::string NodesText(const ReferenceGraph& iGraph)
-{
-    const std::vector<std::size_t> boxes = BoxesOf(iGraph);
-    std::string text;
-    std::size_t open = 0;
-    for (std::size_t i = 0; i < iGraph.nodes.size(); ++i)
-    {
-        if (boxes[i] != open)
-            text += open != 0 ? "  }\n" : "";
-        if (boxes[i] != open && boxes[i] != 0)
-            text += "  subgraph cluster" + std::to_string(boxes[i]) +
-                    " {\n    label=" + Dotted(FileName(*iGraph.nodes[i].configuration->file)) +
-                    "; bgcolor=" + Colour(boxes[i], "0.06 1.00") + ";\n";
-        open = boxes[i];
-        text += (open != 0 ? "    " : "  ") + NodeText(iGraph.nodes[i], i);
-    }
-    return text + (open != 0 ? "  }\n" : "");
-}
+using Edges = std::map<Edge, EdgeWords>;
 
-/// @param iBox of the configuration that the reference begins at
-std::string EdgeText(const Edge& iEdge, const EdgeWords& iWords, std::size_t iBox)
+Edges EdgesOf(const ReferenceGraph& iGraph)
 {
-    std::string text =
-        "  " + NodeName(iEdge.from) + " -> " + NodeName(iEdge.to) + " [edgetooltip=" + Dotted(iWords.items);
-    if (iEdge.isConditional)
-        text += ", style=dashed, label=" + Dotted(iWords.conditions) + ", labeltooltip=" + Dotted(iWords.items);
-    if (iWords.isInCircle)
-        text += ", color=red, fontcolor=red";
-    else
-        text += ", color=" + Colour(iBox, "0.70 0.60") + ", fontcolor=" + Colour(iBox, "0.70 0.50");
-    return text + "];\n";
-}
-
-std::string EdgesText(const ReferenceGraph& iGraph)
-{
-    std::map<Edge, EdgeWords> edges;
+    Edges edges;
     for (const Reference& reference : iGraph.references)
     {
         const SourceItem& item = reference.item;
@@ -159,16 +128,115 @@ std::string EdgesText(const ReferenceGraph& iGraph)
             words.conditions.emplace_back(item.Text("condition"));
         words.isInCircle = words.isInCircle || reference.isInCircle;
     }
-    const std::vector<std::size_t> boxes = BoxesOf(iGraph);
+    return edges;
+}
+
+/// What is drawn, and where.
+struct Drawing
+{
+    std::vector<std::size_t> boxes;
+    Edges edges;
+    /// By box, configurations of other boxes that stand in it once more: so many lines lead from them into other boxes
+    /// that side by side they could not be told apart.
+    std::map<std::size_t, std::set<std::size_t>> guests;
+
+    /// A circle is to be seen as one.
+    bool LeadsOut(const Edge& iEdge, const EdgeWords& iWords) const
+    {
+        return boxes[iEdge.from] != boxes[iEdge.to] && boxes[iEdge.to] != 0 && !iWords.isInCircle;
+    }
+    bool IsFromGuest(const Edge& iEdge, const EdgeWords& iWords) const
+    {
+        const auto found = guests.find(boxes[iEdge.to]);
+        return LeadsOut(iEdge, iWords) && found != guests.end() && found->second.count(iEdge.from) != 0;
+    }
+};
+
+Drawing DrawingOf(const ReferenceGraph& iGraph)
+{
+    constexpr std::size_t MostLines = 8;
+    Drawing drawing{BoxesOf(iGraph), EdgesOf(iGraph), {}};
+    std::map<std::size_t, std::size_t> lines;
+    for (const auto& [edge, words] : drawing.edges)
+        lines[edge.from] += drawing.LeadsOut(edge, words) ? 1 : 0;
+    for (const auto& [edge, words] : drawing.edges)
+        if (drawing.LeadsOut(edge, words) && lines[edge.from] > MostLines)
+            drawing.guests[drawing.boxes[edge.to]].insert(edge.from);
+    return drawing;
+}
+
+std::string GuestName(std::size_t iNode, std::size_t iBox)
+{
+    return NodeName(iNode) + "_" + std::to_string(iBox);
+}
+
+std::string GuestsText(const ReferenceGraph& iGraph, const Drawing& iDrawing, std::size_t iBox)
+{
+    const auto guests = iDrawing.guests.find(iBox);
     std::string text;
-    for (const auto& [edge, words] : edges)
-        text += EdgeText(edge, words, boxes[edge.from]);
+    if (guests == iDrawing.guests.end())
+        return text;
+    for (const std::size_t guest : guests->second)
+    {
+        const SourceConfiguration& configuration = *iGraph.nodes[guest].configuration;
+        const std::size_t home = iDrawing.boxes[guest];
+        text += "    " + GuestName(guest, iBox) + " [label=" + Dotted(configuration.name) +
+                ", tooltip=" + Dotted("stands in " + FileName(*configuration.file)) +
+                ", style=\"rounded,dashed\", color=" + Colour(home, "0.70 0.60") +
+                ", fontcolor=" + Colour(home, "0.70 0.50") + "];\n";
+    }
+    return text;
+}
+
+/// The configurations of each file in a box, and behind them what is in none.
+std::string NodesText(const ReferenceGraph& iGraph, const Drawing& iDrawing)
+{
+    const std::vector<std::size_t>& boxes = iDrawing.boxes;
+    std::string text;
+    std::size_t open = 0;
+    for (std::size_t i = 0; i < iGraph.nodes.size(); ++i)
+    {
+        if (boxes[i] != open)
+            text += open != 0 ? "  }\n" : "";
+        if (boxes[i] != open && boxes[i] != 0)
+            text += "  subgraph cluster" + std::to_string(boxes[i]) +
+                    " {\n    label=" + Dotted(FileName(*iGraph.nodes[i].configuration->file)) +
+                    "; bgcolor=" + Colour(boxes[i], "0.06 1.00") + ";\n" + GuestsText(iGraph, iDrawing, boxes[i]);
+        open = boxes[i];
+        text += (open != 0 ? "    " : "  ") + NodeText(iGraph.nodes[i], i);
+    }
+    return text + (open != 0 ? "  }\n" : "");
+}
+
+/// @param iFrom what the line begins at. @param iBox of the configuration that the reference begins at
+std::string EdgeText(const std::string& iFrom, const Edge& iEdge, const EdgeWords& iWords, std::size_t iBox)
+{
+    std::string text = "  " + iFrom + " -> " + NodeName(iEdge.to) + " [edgetooltip=" + Dotted(iWords.items);
+    if (iEdge.isConditional)
+        text += ", style=dashed, label=" + Dotted(iWords.conditions) + ", labeltooltip=" + Dotted(iWords.items);
+    if (iWords.isInCircle)
+        text += ", color=red, fontcolor=red";
+    else
+        text += ", color=" + Colour(iBox, "0.70 0.60") + ", fontcolor=" + Colour(iBox, "0.70 0.50");
+    return text + "];\n";
+}
+
+std::string EdgesText(const Drawing& iDrawing)
+{
+    std::string text;
+    for (const auto& [edge, words] : iDrawing.edges)
+    {
+        const bool isFromGuest = iDrawing.IsFromGuest(edge, words);
+        const std::string from = isFromGuest ? GuestName(edge.from, iDrawing.boxes[edge.to]) : NodeName(edge.from);
+        text += EdgeText(from, edge, words, iDrawing.boxes[edge.from]);
+    }
     return text;
 }
 } // namespace
 
 std::string GraphDot(const ReferenceGraph& iGraph)
 {
+    const Drawing drawing = DrawingOf(iGraph);
     return "digraph configurations {\n"
            "  rankdir=LR;\n"
            "  ranksep=1;\n"
@@ -178,6 +246,6 @@ std::string GraphDot(const ReferenceGraph& iGraph)
            "  node [shape=box, style=\"rounded,filled\", fillcolor=white, height=0.3, fontname=\"Helvetica\", "
            "fontsize=11];\n"
            "  edge [fontname=\"Helvetica\", fontsize=10, arrowsize=0.7];\n" +
-           NodesText(iGraph) + EdgesText(iGraph) + "}\n";
+           NodesText(iGraph, drawing) + EdgesText(drawing) + "}\n";
 }
 } // namespace Tool

@@ -139,7 +139,7 @@ void AddPurgeCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
     command->add_option("-o,--output", arguments->output, "File to save the purged model in, in place of MODEL itself")
         ->type_name("FILE")
         ->needs(yes)
-        ->check([](const std::string& iFile) { return iFile.empty() ? "names no file" : std::string(); }, "");
+        ->check(&ObjectionToOutput, "");
     AddCommonOptions(*command, ioOptions);
     command->footer(
         "Each application of a configuration leaves the records behind that it has replaced. A record that anything "

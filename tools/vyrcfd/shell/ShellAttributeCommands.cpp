@@ -21,11 +21,6 @@ namespace Tool
 {
 namespace
 {
-ORXUnicodeString ToOrx(const std::string& iText)
-{
-    return ORXUnicodeString(iText.data(), iText.size());
-}
-
 /// @throws Failure for an object without default management
 VYRIMpaDefaultManagementProtected_var DefaultManagementOf(const Target& iTarget, const std::string& iPath)
 {

@@ -22,11 +22,6 @@ namespace
 {
 using Texts = std::vector<ORXUnicodeString>;
 
-ORXUnicodeString ToOrx(const std::string& iText)
-{
-    return ORXUnicodeString(iText.data(), iText.size());
-}
-
 bool Contains(const Texts& iTexts, const std::string& iText)
 {
     return std::find(iTexts.begin(), iTexts.end(), ToOrx(iText)) != iTexts.end();

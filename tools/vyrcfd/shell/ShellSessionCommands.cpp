@@ -65,6 +65,8 @@ void ShellSave(ShellSession& ioSession, const ShellArguments& iArguments)
 {
     if (!iArguments.empty() && iArguments[0].empty())
         throw Failure("\"\" names no file");
+    if (!iArguments.empty() && iArguments[0] == "-")
+        throw Failure("- is no file: standard output has the answers; a file of that name is ./-");
     const std::string file = OneLine(ioSession.Save(iArguments.empty() ? std::string() : iArguments[0]));
     ioSession.Say(MakeAnswer("Saved " + file + ".\n", [&](JsonWriter& oWriter) { WriteText(oWriter, file); }));
 }

@@ -1,5 +1,7 @@
 #include "ConfigurationSource.h"
 
+#include <filesystem>
+
 #include "ConfigurationKeys.h"
 #include "DocumentMessage.h"
 #include "Failure.h"
@@ -14,11 +16,32 @@ namespace
 /// Below a folder of the installation.
 std::string RelativePath(const std::string& iName)
 {
-    return std::string("reffiles") + ORXFolderSeparator + "VYRCfdApp" + ORXFolderSeparator + iName;
+    // Of a sum g++ 12 believes, optimised, that it is written beyond its end.
+    std::string path("reffiles");
+    path.append(ORXFolderSeparator).append("VYRCfdApp").append(ORXFolderSeparator);
+    return path + iName;
+}
+
+/// What bears the name of a file and is none, since the engine passes it over; empty for nothing.
+std::string NoFileOf(const std::string& iPath)
+{
+    std::error_code ignored;
+    const std::filesystem::file_status status = std::filesystem::symlink_status(iPath, ignored);
+    if (std::filesystem::is_directory(iPath, ignored))
+        return "is a folder, not a file";
+    if (std::filesystem::is_symlink(status))
+        return "is a link that leads to no file";
+    return std::filesystem::exists(status) ? "is a pipe or a device, not a file" : "";
 }
 
 UnreadableFile Missing(const std::string& iName, const Installation& iInstallation)
 {
+    for (const std::string& folder : iInstallation.Folders())
+    {
+        const std::string path = ConfigurationFolder(folder) + iName;
+        if (const std::string what = NoFileOf(path); !what.empty())
+            return {path, {}, what, false, OneLine(path) + ": " + what};
+    }
     const std::string relative = RelativePath(iName);
     const std::string why = "no such file in the installation " + OneLine(iInstallation.Path());
     return {ConfigurationFolder(iInstallation.Folders().front()) + iName, {}, why, true, relative + ": " + why};
@@ -28,7 +51,7 @@ UnreadableFile Unread(const std::string& iPath, const VYRStandalone::DocumentErr
 {
     const bool hasPlace = iError.Line() > 0;
     const SourcePosition position = hasPlace ? SourcePosition{iError.Line(), iError.Column()} : SourcePosition{};
-    return {iPath, position, MessageOf(iError), false, iError.what()};
+    return {iPath, position, MessageOf(iError), false, ErrorLineOf(iError)};
 }
 } // namespace
 

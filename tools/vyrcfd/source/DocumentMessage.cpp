@@ -4,6 +4,20 @@
 
 namespace Tool
 {
+namespace
+{
+/// A message, or what ends in one, with what helps its reader.
+std::string Explained(std::string iText)
+{
+    if (iText.find("Invalid escape") == std::string::npos)
+        return iText;
+    if (iText.back() == '.')
+        iText.pop_back();
+    return iText + "; behind a backslash stands one of \" \\ / b f n r t, or u and four digits, and a backslash "
+                   "itself is written \\\\";
+}
+} // namespace
+
 std::string MessageOf(const VYRStandalone::DocumentError& iError)
 {
     std::string place = iError.File();
@@ -17,6 +31,11 @@ std::string MessageOf(const VYRStandalone::DocumentError& iError)
         message.erase(0, place.size());
     if (!message.empty() && message.back() == '.')
         message.pop_back();
-    return message;
+    return Explained(std::move(message));
+}
+
+std::string ErrorLineOf(const VYRStandalone::DocumentError& iError)
+{
+    return Explained(OneLine(iError.what()));
 }
 } // namespace Tool

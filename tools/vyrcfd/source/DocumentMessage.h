@@ -3,7 +3,7 @@
 
 /**
  * @file
- * What a document error says, without the place that it names.
+ * What a document error says.
  */
 
 #include <string>
@@ -12,8 +12,11 @@
 
 namespace Tool
 {
-/// The message alone, without full stop.
+/// The message alone, without full stop, and with what there is to add to it.
 std::string MessageOf(const VYRStandalone::DocumentError& iError);
+
+/// The whole line, with what there is to add to its message.
+std::string ErrorLineOf(const VYRStandalone::DocumentError& iError);
 } // namespace Tool
 
 #endif

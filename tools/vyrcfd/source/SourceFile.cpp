@@ -4,6 +4,7 @@
 #include <charconv>
 #include <fstream>
 #include <iterator>
+#include <utility>
 
 #include "SourceBuilder.h"
 #include "VYRStandaloneErrors.h"
@@ -13,16 +14,25 @@ namespace Tool
 {
 namespace
 {
-/// A member by its key or an element by its number from 0; null for none.
-const SourceValue* StepTo(const SourceValue& iFrom, const std::string& iStep)
+/// A step of a JSON pointer as the key that it stands for.
+std::string KeyOf(std::string iStep)
 {
-    if (const SourceMember* member = iFrom.Find(iStep))
-        return member->value;
+    for (const auto& [escape, sign] : {std::pair("~1", "/"), std::pair("~0", "~")})
+        for (std::size_t at = iStep.find(escape); at != std::string::npos; at = iStep.find(escape, at + 1))
+            iStep.replace(at, 2, sign);
+    return iStep;
+}
+
+/// A member by its key or an element by its number from 0; without value for none.
+SourceMember StepTo(const SourceValue& iFrom, const std::string& iStep)
+{
+    if (const SourceMember* member = iFrom.Find(KeyOf(iStep)))
+        return *member;
     std::size_t number = 0;
     const char* const end = iStep.data() + iStep.size();
     const std::from_chars_result read = std::from_chars(iStep.data(), end, number);
     const bool isNumber = read.ec == std::errc() && read.ptr == end;
-    return isNumber && number < iFrom.elements.size() ? iFrom.elements[number] : nullptr;
+    return {{}, {}, isNumber && number < iFrom.elements.size() ? iFrom.elements[number] : nullptr};
 }
 } // namespace
 
@@ -37,17 +47,18 @@ SourceFile::SourceFile(const std::string& iPath) : m_path(iPath)
         throw VYRStandalone::DocumentError(iPath, "", "has changed while it was read");
 }
 
-SourcePosition SourceFile::PositionAt(const std::string& iPath) const
+SourceMember SourceFile::MemberAt(const std::string& iPath) const
 {
-    const SourceValue* value = &Root();
-    const SourceValue* next = value;
-    for (std::size_t at = 1; next != nullptr && at < iPath.size();)
+    SourceMember member{{}, {}, &Root()};
+    for (std::size_t at = 1; at < iPath.size();)
     {
         const std::size_t end = std::min(iPath.find('/', at), iPath.size());
-        next = StepTo(*value, iPath.substr(at, end - at));
-        value = next != nullptr ? next : value;
+        SourceMember next = StepTo(*member.value, iPath.substr(at, end - at));
+        if (next.value == nullptr)
+            break;
+        member = std::move(next);
         at = end + 1;
     }
-    return value->position;
+    return member;
 }
 } // namespace Tool

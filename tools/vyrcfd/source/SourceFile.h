@@ -30,8 +30,11 @@ public:
     const std::string& Path() const noexcept { return m_path; }
     const SourceValue& Root() const noexcept { return m_values.front(); }
 
-    /// Of the value at a path such as "/types/0/name"; where something of the path is not there, of what is there last.
-    SourcePosition PositionAt(const std::string& iPath) const;
+    /// What stands at a path such as "/types/0/name", a JSON pointer; where something of the path is not there, what is
+    /// there last. Without key for an element of an array and for the whole.
+    SourceMember MemberAt(const std::string& iPath) const;
+    /// Of the value there.
+    SourcePosition PositionAt(const std::string& iPath) const { return MemberAt(iPath).value->position; }
 
 private:
     std::string m_path;

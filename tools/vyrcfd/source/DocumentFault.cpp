@@ -1,0 +1,155 @@
+#include "DocumentFault.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <optional>
+
+#include "DocumentMessage.h"
+#include "MeantUnit.h"
+#include "SourceFile.h"
+#include "VYRStandaloneCatalog.h"
+#include "VYRStandaloneModel.h"
+#include "Wording.h"
+
+namespace Tool
+{
+namespace
+{
+namespace fs = std::filesystem;
+
+bool BeginsWith(std::string_view iText, std::string_view iBeginning)
+{
+    return iText.substr(0, iBeginning.size()) == iBeginning;
+}
+
+/// Names of the catalogs in folders.
+std::vector<std::string> CatalogNames(const std::vector<std::string>& iFolders)
+{
+    constexpr std::string_view suffix = ".catalog.json";
+    std::vector<std::string> names{"VYRCfdBase"};
+    for (const std::string& folder : iFolders)
+    {
+        std::error_code ignored;
+        for (const fs::directory_entry& entry : fs::directory_iterator(folder, ignored))
+        {
+            const std::string name = entry.path().filename().string();
+            if (name.size() > suffix.size() && name.ends_with(suffix))
+                names.push_back(name.substr(0, name.size() - suffix.size()));
+        }
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+/// Names of the attributes of a type that the file or another catalog declares.
+std::vector<std::string> AttributesOf(std::string iType, const SourceValue& iRoot)
+{
+    std::vector<std::string> names;
+    const std::vector<const SourceValue*>& types = iRoot.ElementsOf("types");
+    // A type that extends itself in the end is another mistake.
+    for (std::size_t generation = 0; generation <= types.size(); ++generation)
+    {
+        const auto type = std::find_if(types.begin(), types.end(),
+                                       [&](const SourceValue* iOne) { return iOne->TextOf("name") == iType; });
+        if (type == types.end())
+            break;
+        for (const SourceValue* attribute : (*type)->ElementsOf("attributes"))
+            names.emplace_back(attribute->TextOf("name"));
+        iType = (*type)->TextOf("base");
+    }
+    const std::vector<std::string> declared = VYRStandalone::TypeNames();
+    if (std::find(declared.begin(), declared.end(), iType) == declared.end())
+        return names;
+    VYRStandalone::Model model;
+    const ORXISpecObject_var spObject = model.Create(ORXUnicodeString(iType.data(), iType.size()), "Scratch");
+    for (const VYRStandalone::AttributeInfo& info : VYRStandalone::Attributes(spObject))
+        names.push_back(info.name);
+    return names;
+}
+
+/// What is between the first quotation marks.
+std::string FirstQuoted(std::string_view iMessage)
+{
+    const std::size_t begin = iMessage.find('"');
+    const std::size_t end = begin == std::string_view::npos ? begin : iMessage.find('"', begin + 1);
+    return end == std::string_view::npos ? std::string() : std::string(iMessage.substr(begin + 1, end - begin - 1));
+}
+
+DocumentFault OfUnit(const MeantUnit& iMeant)
+{
+    return {{}, true, iMeant.text, iMeant.Remark()};
+}
+
+/// Without position. @param iMember what is written at the place that the error tells
+DocumentFault MeantAt(const SourceMember& iMember, const std::string& iMessage, const SourceFile& iFile,
+                      const std::vector<std::string>& iCatalogFolders)
+{
+    if (iMessage.find("; did you mean ") != std::string::npos)
+        return {{}, true};
+    if (BeginsWith(iMessage, "unknown unit "))
+        return OfUnit(MeantUnitOf(iMember.value->text));
+    if (BeginsWith(iMessage, "no number, or no unit like "))
+        return OfUnit(MeantQuantityOf(iMember.value->text));
+    if (BeginsWith(iMessage, "unknown catalog "))
+    {
+        std::vector<std::string> folders = iCatalogFolders;
+        folders.push_back(fs::absolute(iFile.Path()).parent_path().string());
+        return {{}, true, Nearest(iMember.value->text, CatalogNames(folders))};
+    }
+    if (BeginsWith(iMessage, "type ") && iMessage.find(" has no attribute ") != std::string::npos)
+        return {{}, true, Nearest(iMember.key, AttributesOf(FirstQuoted(iMessage), iFile.Root()))};
+    return {{}, true};
+}
+
+bool IsOfKey(const std::string& iMessage)
+{
+    return BeginsWith(iMessage, "unknown key") ||
+           (BeginsWith(iMessage, "type ") && iMessage.find(" has no attribute ") != std::string::npos);
+}
+
+/// Nothing where the file cannot be read again: it is no file of its own, or has changed.
+std::optional<SourceFile> Reread(const std::string& iPath)
+{
+    std::error_code ignored;
+    if (!fs::is_regular_file(iPath, ignored))
+        return std::nullopt;
+    try
+    {
+        return SourceFile(iPath);
+    }
+    catch (const VYRStandalone::DocumentError&)
+    {
+        return std::nullopt;
+    }
+}
+} // namespace
+
+DocumentFault FaultOf(const VYRStandalone::DocumentError& iError, const std::vector<std::string>& iCatalogFolders)
+{
+    if (iError.Line() > 0)
+        return {{iError.Line(), iError.Column()}, true};
+    if (iError.Path().empty())
+        return {};
+    const std::optional<SourceFile> file = Reread(iError.File());
+    if (!file)
+        return {};
+    const std::string message = MessageOf(iError);
+    const SourceMember member = file->MemberAt(iError.Path());
+    const bool isOfKey = IsOfKey(message) && !member.key.empty();
+    DocumentFault fault = MeantAt(member, message, *file, iCatalogFolders);
+    fault.position = isOfKey ? member.keyPosition : member.value->position;
+    return fault;
+}
+
+std::string PlacedLineOf(const VYRStandalone::DocumentError& iError, const std::vector<std::string>& iCatalogFolders)
+{
+    const DocumentFault fault = FaultOf(iError, iCatalogFolders);
+    std::string line = ErrorLineOf(iError);
+    const std::string file = OneLine(iError.File());
+    if (iError.Line() == 0 && fault.hasPlace && BeginsWith(line, file + ":"))
+        line.insert(file.size(),
+                    ":" + std::to_string(fault.position.line) + ":" + std::to_string(fault.position.column));
+    line += fault.remark;
+    return fault.suggestion.empty() ? line : line + "; did you mean " + Quoted(fault.suggestion) + "?";
+}
+} // namespace Tool
