@@ -7,7 +7,7 @@
 
 namespace
 {
-constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+constexpr std::string_view ByteOrderMarkAhead = "\xEF\xBB\xBF";
 /// Room of a parser that is made: that of files of usual size, so that it is made once for all of them.
 constexpr std::size_t LeastCapacity = std::size_t{128} * 1024;
 
@@ -187,7 +187,7 @@ bool FastJson::MakeRoom(std::size_t iBytes)
 
 FastJson::Verdict FastJson::Read(std::string_view iText, JsonDraft& oDraft)
 {
-    if (iText.substr(0, ByteOrderMark.size()) == ByteOrderMark || !MakeRoom(iText.size()))
+    if (iText.substr(0, ByteOrderMarkAhead.size()) == ByteOrderMarkAhead || !MakeRoom(iText.size()))
         return Verdict::Undecided;
     simdjson::dom::element root;
     if (m_parser.parse_into_document(m_json, iText.data(), iText.size(), false).get(root) != simdjson::SUCCESS)
