@@ -181,8 +181,9 @@ bool FastJson::MakeRoom(std::size_t iBytes)
     const std::size_t room = std::max(LeastCapacity, std::bit_ceil(iBytes));
     if (m_parser.capacity() >= room)
         return true;
-    return m_parser.allocate(room, StrictJson::DeepestNesting) == simdjson::SUCCESS &&
-           m_json.allocate(room) == simdjson::SUCCESS;
+    // The parser, which is asked above, has room when both have.
+    return m_json.allocate(room) == simdjson::SUCCESS &&
+           m_parser.allocate(room, StrictJson::DeepestNesting) == simdjson::SUCCESS;
 }
 
 FastJson::Verdict FastJson::Read(std::string_view iText, JsonDraft& oDraft)
