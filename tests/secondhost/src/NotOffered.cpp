@@ -287,6 +287,11 @@ const char* ORXFindPath(const char*, const char*)
     NotOffered("ORXFindPath");
 }
 
+// Where nothing is read no stream stands in a document.
+JSON::JIStream::JIStream(const JIStream& /*iOther*/) noexcept {}
+
+void JSON::JIStream::Leave() noexcept {}
+
 bool JSON::JIStream::ParseFile(const char*, bool)
 {
     NotOffered("JIStream::ParseFile");
