@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <new>
 
 #include "StrictJson.h"
 
@@ -175,23 +176,30 @@ private:
 };
 } // namespace
 
-bool FastJson::MakeRoom(std::size_t iBytes)
+void FastJson::MakeRoom(std::size_t iBytes)
 {
     // Never left to the parser, whose own limit of nesting is another one.
     const std::size_t room = std::max(LeastCapacity, std::bit_ceil(iBytes));
     if (m_parser.capacity() >= room)
-        return true;
+        return;
     // The parser, which is asked above, has room when both have.
-    return m_json.allocate(room) == simdjson::SUCCESS &&
-           m_parser.allocate(room, StrictJson::DeepestNesting) == simdjson::SUCCESS;
+    if (m_json.allocate(room) != simdjson::SUCCESS ||
+        m_parser.allocate(room, StrictJson::DeepestNesting) != simdjson::SUCCESS)
+        throw std::bad_alloc();
 }
 
 FastJson::Verdict FastJson::Read(std::string_view iText, JsonDraft& oDraft)
 {
-    if (iText.substr(0, ByteOrderMarkAhead.size()) == ByteOrderMarkAhead || !MakeRoom(iText.size()))
+    if (iText.substr(0, ByteOrderMarkAhead.size()) == ByteOrderMarkAhead)
         return Verdict::Undecided;
+    MakeRoom(iText.size());
     simdjson::dom::element root;
-    if (m_parser.parse_into_document(m_json, iText.data(), iText.size(), false).get(root) != simdjson::SUCCESS)
+    const simdjson::error_code error =
+        m_parser.parse_into_document(m_json, iText.data(), iText.size(), false).get(root);
+    // The other reader would need more memory still, and not look whether it gets it.
+    if (error == simdjson::MEMALLOC)
+        throw std::bad_alloc();
+    if (error != simdjson::SUCCESS)
         return Verdict::Undecided;
     oDraft.Clear();
     TapeWalk walk(m_json, oDraft);

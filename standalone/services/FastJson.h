@@ -36,13 +36,15 @@ public:
     };
 
     /// @param iText Padding more bytes behind it can be read
+    /// @throws std::bad_alloc
     Verdict Read(std::string_view iText, JsonDraft& oDraft);
 
     /// The length of the texts for which there is room.
     std::size_t Capacity() const noexcept { return m_parser.capacity(); }
 
 private:
-    bool MakeRoom(std::size_t iBytes);
+    /// @throws std::bad_alloc
+    void MakeRoom(std::size_t iBytes);
 
     simdjson::dom::parser m_parser;
     simdjson::dom::document m_json;

@@ -11,7 +11,7 @@ namespace
 {
 using VYRStandalone::Instruments;
 
-/// No document takes more words than its file has bytes, so that there is room for the places in it.
+/// A document takes fewer than two words for each byte of its file, so that there is room for the places in it.
 constexpr std::size_t MostBytes = JSON::Document::MostWords / 2;
 
 std::string_view KeyView(const char* iKey)
@@ -23,6 +23,8 @@ std::string_view KeyView(const char* iKey)
 struct Desk
 {
     static constexpr std::size_t MostKept = std::size_t{1024} * 1024;
+    /// Of the fast reader, which needs up to 13 bytes for each of the text.
+    static constexpr std::size_t MostCapacity = MostKept / 4;
 
     std::string text;
     FastJson fast;
@@ -38,7 +40,7 @@ public:
     {
         if (m_desk.text.capacity() > Desk::MostKept)
             m_desk.text = std::string();
-        if (m_desk.fast.Capacity() > Desk::MostKept)
+        if (m_desk.fast.Capacity() > Desk::MostCapacity)
             m_desk.fast = FastJson();
         m_desk.draft.Trim(Desk::MostKept);
     }
@@ -75,9 +77,9 @@ bool JIStream::ParseFile(const char* iPath, bool iReplace)
         return false;
     Desk& desk = PerThread<Desk>::Get();
     const AtDesk reading(desk);
-    if (iPath == nullptr || !ReadWholeFile(iPath, desk.text, FastJson::Padding).empty())
+    if (iPath == nullptr || !ReadWholeFile(iPath, desk.text, FastJson::Padding, MostBytes).empty())
         return false;
-    if (desk.text.size() > MostBytes || !DraftDocument(desk))
+    if (!DraftDocument(desk))
         return false;
     *this = desk.draft.Finish();
     return true;

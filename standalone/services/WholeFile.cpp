@@ -27,13 +27,15 @@ private:
     int m_descriptor;
 };
 
+constexpr char TooLarge[] = "is too large";
+
 std::string LastError()
 {
     return std::generic_category().message(errno);
 }
 } // namespace
 
-std::string ReadWholeFile(const std::string& iPath, std::string& oText, std::size_t iSpare)
+std::string ReadWholeFile(const std::string& iPath, std::string& oText, std::size_t iSpare, std::size_t iMost)
 {
     // The system would take what stands in front of it for the whole name.
     if (iPath.find('\0') != std::string::npos)
@@ -46,6 +48,8 @@ std::string ReadWholeFile(const std::string& iPath, std::string& oText, std::siz
         return "cannot be read: " + LastError();
     if (S_ISDIR(status.st_mode))
         return "is a folder, not a file";
+    if (static_cast<std::size_t>(status.st_size) > iMost)
+        return TooLarge;
 
     // One byte more than it says, which shows the end: a file may be longer by now, and a pipe says nothing.
     constexpr std::size_t Least = 4096;
@@ -63,6 +67,8 @@ std::string ReadWholeFile(const std::string& iPath, std::string& oText, std::siz
         if (count == 0)
             break;
         filled += static_cast<std::size_t>(count);
+        if (filled > iMost)
+            return TooLarge;
     }
     oText.resize(filled);
     return {};

@@ -3,6 +3,8 @@
  * `SetList` with and without a host that tells identities, and with components that it cannot tell them of.
  */
 
+#include <algorithm>
+
 #include "AccessOnly.h"
 #include "ListFixture.h"
 #include "ORXIComponentIdentity.h"
@@ -104,6 +106,22 @@ TEST_F(SetListIdentityTest, BehindAnErrorCursor_NoComponentIsLookedAt)
     EXPECT_EQ(At("references").SetList(wanted), E_FAIL);
     EXPECT_EQ(calls.Take(), Calls{"move Owner.references[1] = B"});
     EXPECT_EQ(Reported(), (Records{Assertion("iObjects[i-1].Self()", "VYRCfdObjectAccess::SetList")}));
+    EXPECT_EQ(m_comparisons, 0);
+}
+/// Objects are fetched ahead in a list of some length; nothing else is different.
+TEST_F(SetListIdentityTest, AListOfFortyObjects_IsArrangedAsAShortOne)
+{
+    Names stored;
+    for (int i = 0; i < 40; ++i)
+        stored.push_back("P" + std::to_string(i));
+    Fill("references", stored);
+    EXPECT_EQ(At("references").SetList(Parts(stored)), S_FALSE);
+    Names wanted = stored;
+    std::rotate(wanted.begin() + 5, wanted.begin() + 30, wanted.begin() + 31);
+    CallRecorder calls;
+    EXPECT_EQ(At("references").SetList(Parts(wanted)), S_OK);
+    EXPECT_EQ(calls.Take(), Calls{"move Owner.references[6] = P30"});
+    EXPECT_EQ(Held("references"), wanted);
     EXPECT_EQ(m_comparisons, 0);
 }
 } // namespace

@@ -5,6 +5,7 @@
  */
 
 #include <algorithm>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -394,6 +395,18 @@ TEST_F(JsonReaders, OnBeginningsOfAFile_ReadAfterTheWhole_DoNotDiffer)
         EXPECT_TRUE(ReadBoth(whole));
         EXPECT_EQ(ReadBoth(whole.substr(0, size)), size + 3 >= whole.size()) << size;
     }
+}
+
+/// By its size alone: there would not be memory for all of it.
+TEST_F(JsonReaders, OfAFileOfATerabyte_RefuseItBeforeItIsRead)
+{
+    const TemporaryFolder folder;
+    const std::string file = folder.Write("file.json", "{}");
+    std::filesystem::resize_file(file, std::uintmax_t{1} << 40);
+    JSON::JIStream stream;
+    EXPECT_FALSE(stream.ParseFile(file.c_str(), true));
+    std::filesystem::resize_file(file, 2);
+    EXPECT_TRUE(stream.ParseFile(file.c_str(), true));
 }
 
 TEST_F(JsonReaders, OnFilesOfAllSizes_DoNotDiffer)

@@ -190,9 +190,9 @@ private:
             }
         if (duplicate == nullptr)
             return;
-        const auto unknown = OnlyUnknown(
-            [&](const Unknown& iOne) { return IsDoubtful(iOne) || iOne.finding.suggestion == duplicate->name; });
-        if (unknown == m_unknown.end())
+        // A slip of the very name is a mistake of its own, and so is a name to which one fits that nothing refers to.
+        const auto unknown = OnlyUnknown([&](const Unknown& iOne) { return IsDoubtful(iOne); });
+        if (unknown == m_unknown.end() || IsSlip(unknown->name, duplicate->name) || HasUnusedBeside(duplicate->name))
             return;
         m_missing = std::move(*unknown);
         m_run.ambiguous.insert(duplicate->name);
@@ -223,6 +223,13 @@ private:
     {
         return m_run.isWhole && iConfiguration.hiddenBy == nullptr && !iConfiguration.name.empty() &&
                m_used.count(iConfiguration.name) == 0 && m_run.wanted.count(iConfiguration.name) == 0;
+    }
+
+    bool HasUnusedBeside(const std::string& iName) const
+    {
+        const auto& all = m_run.source.Configurations();
+        return std::any_of(all.begin(), all.end(),
+                           [&](const SourceConfiguration& iOne) { return iOne.name != iName && IsUnused(iOne); });
     }
 
     /// "FILE:LINE and 2 others".

@@ -15,6 +15,7 @@
 #include "ShellCommands.h"
 #include "Unreadable.h"
 #include "VYRIMpaDefaultManagementProtected.h"
+#include "WholeNumber.h"
 #include "Wording.h"
 
 namespace Tool
@@ -49,7 +50,9 @@ void CheckReadable(const ORXICkeParm_var& iParm, const AttributeSnapshot& iAttri
     const ORXICkeParm_var spTrial =
         ORXCkeGlobalFunctions::GetVolatileFactory()->CreateParm(iParm->GetType(), ORXUnicodeString("trial"));
     spTrial->Valuate(ToOrx(iText));
-    if (spTrial->GetValue()->IsValuated() == 0)
+    // An integer at the head of a text is enough for the engine, which cuts the rest off.
+    const bool isCut = iAttribute.info.type == tk_integer && !IsWhole<int>(iText);
+    if (isCut || spTrial->GetValue()->IsValuated() == 0)
         throw Failure(Quoted(iPath) + ": " + WhyUnreadable(iAttribute.info, iText));
 }
 
