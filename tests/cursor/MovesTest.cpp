@@ -29,7 +29,7 @@ protected:
 };
 
 /// A move to an attribute, by key and by its name, which answer alike.
-struct Case
+struct MoveCase
 {
     const char* attribute;
     int index;
@@ -39,7 +39,7 @@ struct Case
 
 constexpr const char* Attribute = "attribute";
 
-constexpr Case Cases[] = {
+constexpr MoveCase Cases[] = {
     // A scalar value: the cursor stays at the attribute.
     {"relaxation", 0, Attribute},
     {"iterations", 0, Attribute},
@@ -75,7 +75,7 @@ constexpr Case Cases[] = {
 
 TEST_F(Moves, ByKeyAndByAttributeName_AnswerAlike)
 {
-    for (const Case& row : Cases)
+    for (const MoveCase& row : Cases)
     {
         SCOPED_TRACE(std::string(row.attribute) + ", " + std::to_string(row.index));
         const VYRCfdObjectAccess byKey = Part().Get(Key(row.attribute), row.index);
