@@ -368,6 +368,38 @@ TEST_F(CheckTest, APipeInPlaceOfAFile_IsTold_AndNobodyWaitsForIt)
                                    "file the engine reads no configuration at all [unreadable-file]\n");
 }
 
+TEST_F(CheckTest, ACatalogUnderAnotherName_IsTold_AndWhatItLacksIsNot)
+{
+    AddConfigurations(R"({"configurations": [{"name": "main", "config": [{"path": "nowhere", "default": "1"}]}]})");
+    const std::string folder = m_folder.Path("installation/catalogs/");
+    fs::rename(folder + "Rig.catalog.json", folder + "Rig.json");
+    m_folder.Write("installation/catalogs/notes.json", R"({"author": "nobody"})");
+    EXPECT_EQ(FindingsIn(Check()),
+              "catalogs/Rig.json:1:1: warning: the catalog \"Rig\" is sought in a file of another name; as "
+              "long as this catalog is not read, nothing is checked against types; did you mean \"Rig.catalog.json\"? "
+              "[ignored-file]\n");
+}
+
+TEST_F(CheckTest, APipeOrAFolderInPlaceOfACatalog_IsTold_AndNobodyWaitsForIt)
+{
+    AddConfigurations(R"({"configurations": [{"name": "main"}]})");
+    const std::string catalog = m_folder.Path("installation/catalogs/Rig.catalog.json");
+    m_folder.Write("installation/catalogs/User.catalog.json", R"({"catalog": "User", "uses": ["Rig"], "types": []})");
+    const auto findings = [](const std::string& iWhat) {
+        return "catalogs/Rig.catalog.json:1:1: error: " + iWhat +
+               "; as long as this catalog is not read, nothing is checked against types [unreadable-file]\n";
+    };
+    fs::remove(catalog);
+    ASSERT_EQ(mkfifo(catalog.c_str(), S_IRUSR | S_IWUSR), 0);
+    EXPECT_EQ(FindingsIn(Check()), findings("is a pipe or a device, not a file"));
+    fs::remove(catalog);
+    fs::create_symlink("/dev/null", catalog);
+    EXPECT_EQ(FindingsIn(Check()), findings("is a pipe or a device, not a file"));
+    fs::remove(catalog);
+    fs::create_directory(catalog);
+    EXPECT_EQ(FindingsIn(Check()), findings("is a folder, not a file"));
+}
+
 TEST_F(CheckTest, ACatalogThatIsNotThere_IsAFinding)
 {
     AddConfigurations(R"({"configurations": [{"name": "main"}]})");

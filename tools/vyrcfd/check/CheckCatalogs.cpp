@@ -1,5 +1,6 @@
 #include "CheckCatalogs.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <map>
 #include <set>
@@ -21,24 +22,49 @@ struct InstalledCatalogs
 {
     /// Files by the names of the catalogs: of two of one name the first is found.
     std::map<std::string, std::string> files;
+    /// What bears the name of a catalog's file and is none, by the names of the catalogs.
+    std::map<std::string, std::string> noFiles;
+    /// JSON files that do not bear the name of a catalog's file.
+    std::vector<std::string> others;
     /// Folders that cannot be read, and why. One that is not there is none of them: not every folder has catalogs.
     std::map<std::string, std::error_code> unreadable;
 };
 
+constexpr std::string_view CatalogSuffix = ".catalog.json";
+constexpr char NothingIsChecked[] = "; as long as this catalog is not read, nothing is checked against types";
+
+void AddEntry(const std::filesystem::path& iPath, InstalledCatalogs& ioCatalogs)
+{
+    const std::string name = iPath.filename().string();
+    const bool isFile = NoFileOf(iPath.string()).empty();
+    if (name.size() > CatalogSuffix.size() && name.ends_with(CatalogSuffix))
+        (isFile ? ioCatalogs.files : ioCatalogs.noFiles)
+            .try_emplace(name.substr(0, name.size() - CatalogSuffix.size()), iPath.string());
+    else if (isFile && iPath.extension() == ".json")
+        ioCatalogs.others.push_back(iPath.string());
+}
+
 void AddFrom(const std::string& iFolder, InstalledCatalogs& ioCatalogs)
 {
-    constexpr std::string_view suffix = ".catalog.json";
     std::error_code error;
     std::filesystem::directory_iterator entry(iFolder, error);
     for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error))
-    {
-        const std::string name = entry->path().filename().string();
-        std::error_code ignored;
-        if (name.size() > suffix.size() && name.ends_with(suffix) && entry->is_regular_file(ignored))
-            ioCatalogs.files.try_emplace(name.substr(0, name.size() - suffix.size()), entry->path().string());
-    }
+        AddEntry(entry->path(), ioCatalogs);
     if (error && error != std::errc::no_such_file_or_directory)
         ioCatalogs.unreadable.emplace(iFolder, error);
+}
+
+/// The name of the catalog in a file; empty where there is none.
+std::string CatalogIn(const std::string& iFile)
+{
+    try
+    {
+        return std::string(SourceFile(iFile).Root().TextOf("catalog"));
+    }
+    catch (const VYRStandalone::DocumentError&)
+    {
+        return "";
+    }
 }
 
 InstalledCatalogs CatalogsOf(const Installation& iInstallation)
@@ -92,12 +118,35 @@ CheckCatalogs::CheckCatalogs(const Installation& iInstallation, const std::vecto
                                 "; as long as the catalogs in this folder are not read, nothing is checked against "
                                 "types"));
     }
+    for (const auto& [name, file] : installed.noFiles)
+        if (installed.files.count(name) == 0)
+            AddMissing(
+                name,
+                FindingIn(file, {}, FindingKind::UnreadableFile, Severity::Error, NoFileOf(file) + NothingIsChecked),
+                ioRun);
+    for (const std::string& file : installed.others)
+        if (const std::string name = CatalogIn(file);
+            !name.empty() && installed.files.count(name) + names.count(name) == 0)
+        {
+            Finding finding =
+                FindingIn(file, SourceFile(file).Root().position, FindingKind::IgnoredFile, Severity::Warning,
+                          "the catalog " + Quoted(name) + " is sought in a file of another name" + NothingIsChecked);
+            finding.suggestion = name + std::string(CatalogSuffix);
+            AddMissing(name, std::move(finding), ioRun);
+        }
     for (const auto& [name, file] : installed.files)
         if (names.count(name) == 0)
             Declared(file, [&, &called = name] { DeclareInstalled(called, iInstallation); });
     AddErrors(folders, ioRun);
     // Now that all types are declared, and before anything is asked of an object.
     ChoiceManager::Register();
+}
+
+void CheckCatalogs::AddMissing(const std::string& iName, Finding iFinding, CheckRun& ioRun)
+{
+    m_haveFailed = true;
+    m_missing.push_back(iName);
+    ioRun.Add(std::move(iFinding));
 }
 
 template <class Declare> void CheckCatalogs::Declared(const std::string& iFile, Declare iDeclare)
@@ -118,11 +167,15 @@ void CheckCatalogs::AddErrors(const std::vector<std::string>& iFolders, CheckRun
 {
     for (const VYRStandalone::DocumentError& error : m_errors)
     {
+        // Who uses a catalog that is told already has made no mistake.
+        const bool isTold = std::any_of(m_missing.begin(), m_missing.end(), [&](const std::string& iName) {
+            return MessageOf(error).find("unknown catalog " + Quoted(iName)) != std::string::npos;
+        });
+        if (isTold)
+            continue;
         const DocumentFault fault = FaultOf(error, iFolders);
         Finding finding = FindingIn(error.File(), fault.position, FindingKind::UnreadableFile, Severity::Error,
-                                    MessageOf(error) + fault.remark +
-                                        "; as long as this catalog is not read, nothing is checked "
-                                        "against types");
+                                    MessageOf(error) + fault.remark + NothingIsChecked);
         finding.suggestion = fault.suggestion;
         ioRun.Add(std::move(finding));
     }

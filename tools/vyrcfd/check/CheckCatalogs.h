@@ -23,10 +23,13 @@ public:
 
 private:
     template <class Declare> void Declared(const std::string& iFile, Declare iDeclare);
+    /// Tells of a catalog of the installation that nobody finds.
+    void AddMissing(const std::string& iName, Finding iFinding, CheckRun& ioRun);
     void AddErrors(const std::vector<std::string>& iFolders, CheckRun& ioRun);
 
     std::vector<std::string> m_files;
     bool m_haveFailed = false;
+    std::vector<std::string> m_missing;
     std::vector<VYRStandalone::DocumentError> m_errors;
 };
 } // namespace Tool

@@ -1,6 +1,7 @@
 #include "MeantLists.h"
 
 #include <algorithm>
+#include <sstream>
 
 #include "KnownTypes.h"
 #include "Wording.h"
@@ -9,29 +10,41 @@ namespace Tool
 {
 namespace
 {
-/// The text with commas in place of a sign; of blanks, only of those inside an entry.
+/// The words between blanks, but for signs that stand alone between them.
+std::vector<std::string> WordsOf(const std::string& iEntry)
+{
+    std::istringstream text(iEntry);
+    std::vector<std::string> words;
+    for (std::string word; text >> word;)
+        if (word != "/" && word != "|" && word != "-")
+            words.push_back(word);
+    return words;
+}
+
+/// The text with commas in place of a sign. In place of blanks, only of those inside an entry, and of semicolons too.
 std::string WithCommas(const std::string& iText, char iSign)
 {
-    std::string text;
+    std::string text = iText;
+    std::replace(text.begin(), text.end(), iSign == ' ' ? ';' : iSign, ',');
     if (iSign != ' ')
-    {
-        text = iText;
-        std::replace(text.begin(), text.end(), iSign, ',');
         return text;
-    }
+    std::string parted;
     bool isFirst = true;
-    for (const std::string& entry : WrittenEntries(iText))
+    for (const std::string& entry : WrittenEntries(text))
     {
-        text += isFirst ? "" : ", ";
+        std::string before = isFirst ? "" : ", ";
         isFirst = false;
-        for (std::size_t at = 0; at < entry.size(); at = std::min(entry.find_first_not_of(' ', at), entry.size()))
+        const std::vector<std::string> words = WordsOf(entry);
+        // An entry without words stays, since that it is empty is to be told.
+        if (words.empty())
+            parted += before;
+        for (const std::string& word : words)
         {
-            const std::size_t end = std::min(entry.find(' ', at), entry.size());
-            text += (at == 0 ? "" : ", ") + entry.substr(at, end - at);
-            at = end;
+            parted += before + word;
+            before = ", ";
         }
     }
-    return text;
+    return parted;
 }
 
 /// A sign that seems to part entries: between texts where no comma does, or in front of a blank as a comma would be.

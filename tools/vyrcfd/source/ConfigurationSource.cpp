@@ -22,18 +22,6 @@ std::string RelativePath(const std::string& iName)
     return path + iName;
 }
 
-/// What bears the name of a file and is none, since the engine passes it over; empty for nothing.
-std::string NoFileOf(const std::string& iPath)
-{
-    std::error_code ignored;
-    const std::filesystem::file_status status = std::filesystem::symlink_status(iPath, ignored);
-    if (std::filesystem::is_directory(iPath, ignored))
-        return "is a folder, not a file";
-    if (std::filesystem::is_symlink(status))
-        return "is a link that leads to no file";
-    return std::filesystem::exists(status) ? "is a pipe or a device, not a file" : "";
-}
-
 UnreadableFile Missing(const std::string& iName, const Installation& iInstallation)
 {
     for (const std::string& folder : iInstallation.Folders())
@@ -54,6 +42,19 @@ UnreadableFile Unread(const std::string& iPath, const VYRStandalone::DocumentErr
     return {iPath, position, MessageOf(iError), false, ErrorLineOf(iError)};
 }
 } // namespace
+
+std::string NoFileOf(const std::string& iPath)
+{
+    std::error_code ignored;
+    if (std::filesystem::is_regular_file(iPath, ignored))
+        return "";
+    if (std::filesystem::is_directory(iPath, ignored))
+        return "is a folder, not a file";
+    if (std::filesystem::exists(iPath, ignored))
+        return "is a pipe or a device, not a file";
+    const bool isLink = std::filesystem::is_symlink(std::filesystem::symlink_status(iPath, ignored));
+    return isLink ? "is a link that leads to no file" : "";
+}
 
 std::vector<std::string> ConfigurationFileNames()
 {

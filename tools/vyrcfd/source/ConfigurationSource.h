@@ -86,6 +86,10 @@ private:
     std::unordered_map<std::string_view, const SourceConfiguration*> m_byName;
 };
 
+/// What bears the name of a file and is none, since the engine passes it over: "is a folder, not a file". Empty for a
+/// file, and for nothing.
+std::string NoFileOf(const std::string& iPath);
+
 /// The bare names that the engine looks for, in the order in which it reads the files: of a name that is defined twice
 /// the first definition holds.
 std::vector<std::string> ConfigurationFileNames();
