@@ -29,6 +29,7 @@ public:
     JIStream() noexcept = default;
     JIStream(const JIStream& iOther) noexcept;
     JIStream(JIStream&& ioOther) noexcept : m_object(std::exchange(ioOther.m_object, nullptr)) {}
+    /// To where the other stands, in its document.
     JIStream& operator=(JIStream iOther) noexcept
     {
         std::swap(m_object, iOther.m_object);
