@@ -32,6 +32,13 @@ bool IsObjectType(int iType)
         VYRCfdTraceManager::_Debug->TraPrint(140, "ERROR: %s\n", iError.CastToCharPtr());
 }
 
+/// Made once, since the walk of a path looks for it at each segment.
+const ORXUnicodeString& Separator()
+{
+    static const ORXUnicodeString separator("/");
+    return separator;
+}
+
 /// Cuts off the segment of a path that begins at a character. @param iSeparator where it ends; negative for at the
 /// path's end. @param oNext where the next one begins: at the path's end when nothing follows
 /// @return S_OK, there is no other answer
@@ -429,7 +436,7 @@ HRESULT VYRCfdObjectAccess::SplitPath(const ORXUnicodeString& iPath, ORXUnicodeS
     // The head is written last, so that a caller may pass its path as one of the two.
     ORXUnicodeString head;
     int next = 0;
-    const HRESULT status = CutSegment(iPath, 0, iPath.SearchSubString("/", 0, 1), head, next);
+    const HRESULT status = CutSegment(iPath, 0, iPath.SearchSubString(Separator(), 0, 1), head, next);
     if (next < iPath.GetLengthInChar())
         oTail = iPath.SubString(next, iPath.GetLengthInChar() - next);
     oHead = std::move(head);
@@ -532,7 +539,7 @@ VYRCfdObjectAccess VYRCfdObjectAccess::GetByPath(const ORXUnicodeString& iPath) 
             return VYRCfdObjectAccess("Null object");
         ORXUnicodeString head;
         int next = 0;
-        if (CutSegment(*path, begin, path->FindPosition("/", begin), head, next) < 0)
+        if (CutSegment(*path, begin, path->FindPosition(Separator(), begin), head, next) < 0)
             return VYRCfdObjectAccess("Invalid path: " + path->SubString(begin, path->GetLengthInChar() - begin));
         if (head.IsEmpty())
             return *current;

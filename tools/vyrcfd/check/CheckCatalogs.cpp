@@ -6,6 +6,7 @@
 #include <set>
 #include <system_error>
 
+#include "CatalogFile.h"
 #include "ChoiceManager.h"
 #include "DocumentFault.h"
 #include "DocumentMessage.h"
@@ -30,16 +31,14 @@ struct InstalledCatalogs
     std::map<std::string, std::error_code> unreadable;
 };
 
-constexpr std::string_view CatalogSuffix = ".catalog.json";
 constexpr char NothingIsChecked[] = "; as long as this catalog is not read, nothing is checked against types";
 
 void AddEntry(const std::filesystem::path& iPath, InstalledCatalogs& ioCatalogs)
 {
-    const std::string name = iPath.filename().string();
+    const std::string catalog = CatalogSoughtIn(iPath.filename().string());
     const bool isFile = NoFileOf(iPath.string()).empty();
-    if (name.size() > CatalogSuffix.size() && name.ends_with(CatalogSuffix))
-        (isFile ? ioCatalogs.files : ioCatalogs.noFiles)
-            .try_emplace(name.substr(0, name.size() - CatalogSuffix.size()), iPath.string());
+    if (!catalog.empty())
+        (isFile ? ioCatalogs.files : ioCatalogs.noFiles).try_emplace(catalog, iPath.string());
     else if (isFile && iPath.extension() == ".json")
         ioCatalogs.others.push_back(iPath.string());
 }
@@ -129,9 +128,9 @@ CheckCatalogs::CheckCatalogs(const Installation& iInstallation, const std::vecto
             !name.empty() && installed.files.count(name) + names.count(name) == 0)
         {
             Finding finding =
-                FindingIn(file, SourceFile(file).Root().position, FindingKind::IgnoredFile, Severity::Warning,
+                FindingIn(file, {}, FindingKind::IgnoredFile, Severity::Warning,
                           "the catalog " + Quoted(name) + " is sought in a file of another name" + NothingIsChecked);
-            finding.suggestion = name + std::string(CatalogSuffix);
+            finding.suggestion = CatalogFileOf(name);
             AddMissing(name, std::move(finding), ioRun);
         }
     for (const auto& [name, file] : installed.files)

@@ -191,7 +191,7 @@ private:
         if (duplicate == nullptr)
             return;
         // A slip of the very name is a mistake of its own, and so is a name to which one fits that nothing refers to.
-        const auto unknown = OnlyUnknown([&](const Unknown& iOne) { return IsDoubtful(iOne); });
+        const auto unknown = OnlyUnknown(IsDoubtful);
         if (unknown == m_unknown.end() || IsSlip(unknown->name, duplicate->name) || HasUnusedBeside(duplicate->name))
             return;
         m_missing = std::move(*unknown);

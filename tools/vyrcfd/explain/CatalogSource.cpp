@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "CatalogFile.h"
+
 namespace Tool
 {
 namespace
@@ -68,7 +70,7 @@ void CatalogSource::AddNamed(const SourceFile& iBy, std::string_view iKey)
         folders.insert(folders.end(), m_folders.begin(), m_folders.end());
         for (const fs::path& folder : folders)
         {
-            const fs::path file = folder / (name->text + ".catalog.json");
+            const fs::path file = folder / CatalogFileOf(name->text);
             std::error_code ignored;
             if (!fs::is_regular_file(file, ignored))
                 continue;

@@ -13,6 +13,7 @@
 #include "ObjectRemoval.h"
 #include "QuietDefaults.h"
 #include "ShellCommands.h"
+#include "SourceItem.h"
 #include "Unreadable.h"
 #include "VYRIMpaDefaultManagementProtected.h"
 #include "WholeNumber.h"
@@ -49,7 +50,7 @@ void CheckReadable(const ORXICkeParm_var& iParm, const AttributeSnapshot& iAttri
 {
     const ORXICkeParm_var spTrial =
         ORXCkeGlobalFunctions::GetVolatileFactory()->CreateParm(iParm->GetType(), ORXUnicodeString("trial"));
-    spTrial->Valuate(ToOrx(iText));
+    spTrial->Valuate(UnicodeOf(iText));
     // An integer at the head of a text is enough for the engine, which cuts the rest off.
     const bool isCut = iAttribute.info.type == tk_integer && !IsWhole<int>(iText);
     if (isCut || spTrial->GetValue()->IsValuated() == 0)
@@ -64,8 +65,8 @@ void SetDefault(ShellSession& ioSession, const Target& iTarget, const ShellArgum
     CheckReadable(ParameterOf(iTarget, attribute, path), attribute, iArguments[1], path);
     ioSession.Change(
         [&] {
-            ORXUnicodeString value = ToOrx(iArguments[1]);
-            if (spDefMgmt->SetCustomDefault(ToOrx(iTarget.attribute), value) < 0)
+            ORXUnicodeString value = UnicodeOf(iArguments[1]);
+            if (spDefMgmt->SetCustomDefault(UnicodeOf(iTarget.attribute), value) < 0)
                 throw Failure(Quoted(path) + " did not take the default");
         },
         ShellSession::Touches::CustomDefaults);
@@ -124,7 +125,7 @@ void ShellSet(ShellSession& ioSession, const ShellArguments& iArguments)
     }
     const ORXICkeParm_var spParm = ParameterOf(target, attribute, path);
     CheckReadable(spParm, attribute, iArguments[1], path);
-    ioSession.Change([&] { spParm->Valuate(ToOrx(iArguments[1])); });
+    ioSession.Change([&] { spParm->Valuate(UnicodeOf(iArguments[1])); });
 }
 
 void ShellUnset(ShellSession& ioSession, const ShellArguments& iArguments)
@@ -132,7 +133,7 @@ void ShellUnset(ShellSession& ioSession, const ShellArguments& iArguments)
     const Target target = ioSession.Attribute(iArguments[0]);
     const VYRIMpaDefaultManagementProtected_var spDefMgmt = DefaultManagementOf(target, iArguments[0]);
     ioSession.Change([&] {
-        if (spDefMgmt->Unset(ToOrx(target.attribute)) < 0)
+        if (spDefMgmt->Unset(UnicodeOf(target.attribute)) < 0)
             throw Failure(Quoted(iArguments[0]) + " could not be put back on its default");
     });
 }
@@ -166,7 +167,7 @@ void ShellAuto(ShellSession& ioSession, const ShellArguments& iArguments)
     if (iArguments[1] != "on" && iArguments[1] != "off")
         throw Failure(Quoted(iArguments[1]) + " is neither on nor off");
     ioSession.Change([&] {
-        if (spDefMgmt->SetIsAuto(ToOrx(target.attribute), iArguments[1] == "on" ? 1 : 0) < 0)
+        if (spDefMgmt->SetIsAuto(UnicodeOf(target.attribute), iArguments[1] == "on" ? 1 : 0) < 0)
             throw Failure(Quoted(iArguments[0]) + " did not take the flag");
     });
 }

@@ -11,6 +11,7 @@
 #include "ListNames.h"
 #include "QuietDefaults.h"
 #include "ShellCommands.h"
+#include "SourceItem.h"
 #include "VYRCfdObjectAccess.h"
 #include "VYRICfdChoice.h"
 #include "VYRICfdChoiceMgr.h"
@@ -24,7 +25,7 @@ using Texts = std::vector<ORXUnicodeString>;
 
 bool Contains(const Texts& iTexts, const std::string& iText)
 {
-    return std::find(iTexts.begin(), iTexts.end(), ToOrx(iText)) != iTexts.end();
+    return std::find(iTexts.begin(), iTexts.end(), UnicodeOf(iText)) != iTexts.end();
 }
 
 std::vector<std::string> ToStrings(const Texts& iTexts)
@@ -76,7 +77,7 @@ std::set<ORXUnicodeString> ChoicesIn(const ShellArguments& iArguments)
 {
     std::set<ORXUnicodeString> choices;
     for (auto choice = iArguments.begin() + 1; choice != iArguments.end(); ++choice)
-        choices.insert(ToOrx(*choice));
+        choices.insert(UnicodeOf(*choice));
     return choices;
 }
 
@@ -123,7 +124,7 @@ void ShellChoose(ShellSession& ioSession, const ShellArguments& iArguments)
         throw Failure(Quoted(choice) + " is none of the choices of " + Quoted(iArguments[0]) +
                       DidYouMean(choice, ToStrings(offered)));
     ioSession.Change([&] {
-        Succeed(spChoice->SetChoice(ToOrx(choice)), Quoted(iArguments[0]) + " did not take " + Quoted(choice));
+        Succeed(spChoice->SetChoice(UnicodeOf(choice)), Quoted(iArguments[0]) + " did not take " + Quoted(choice));
     });
 }
 

@@ -45,12 +45,6 @@ std::vector<std::string> ShellCommandNames();
 /// command and a wrong number of arguments
 void RunShellCommand(ShellSession& ioSession, const std::vector<std::string>& iWords);
 
-/// An argument as the module takes it.
-inline ORXUnicodeString ToOrx(const std::string& iText)
-{
-    return ORXUnicodeString(iText.data(), iText.size());
-}
-
 // By subject, one file each.
 void ShellList(ShellSession& ioSession, const ShellArguments& iArguments);
 void ShellRecords(ShellSession& ioSession, const ShellArguments& iArguments);

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <optional>
 
+#include "CatalogFile.h"
 #include "DocumentMessage.h"
 #include "MeantUnit.h"
 #include "SourceFile.h"
@@ -25,17 +26,13 @@ bool BeginsWith(std::string_view iText, std::string_view iBeginning)
 /// Names of the catalogs in folders.
 std::vector<std::string> CatalogNames(const std::vector<std::string>& iFolders)
 {
-    constexpr std::string_view suffix = ".catalog.json";
     std::vector<std::string> names{"VYRCfdBase"};
     for (const std::string& folder : iFolders)
     {
         std::error_code ignored;
         for (const fs::directory_entry& entry : fs::directory_iterator(folder, ignored))
-        {
-            const std::string name = entry.path().filename().string();
-            if (name.size() > suffix.size() && name.ends_with(suffix))
-                names.push_back(name.substr(0, name.size() - suffix.size()));
-        }
+            if (std::string name = CatalogSoughtIn(entry.path().filename().string()); !name.empty())
+                names.push_back(std::move(name));
     }
     std::sort(names.begin(), names.end());
     return names;
