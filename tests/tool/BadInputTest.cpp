@@ -100,11 +100,12 @@ const BadInput Models[] = {
      "nothing.model.json: cannot be opened: No such file or directory\n"},
     {"Folder", Nothing(), {"show", "samples"}, 1, "samples: is a folder, not a file\n"},
     {"Unreadable", Unreadable(Model), ShowModel, 1, Model + ": cannot be read: Input/output error\n"},
-    {"Empty", Written(Model, ""), ShowModel, 1, Model + ":1:1: The document is empty.\n"},
+    {"Empty", Written(Model, ""), ShowModel, 1,
+     Model + ":1:1: the file is empty; a document between { and } is wanted\n"},
     {"Truncated", Written(Model, "{\n    \"model\": 1,\n    "), ShowModel, 1,
-     Model + ":3:5: Missing a name for object member.\n"},
+     Model + ":3:5: the document ends, and the \"{\" at 1:1 is not closed by \"}\"\n"},
     {"NoUtf8", Written(Model, "{\n    \"model\": 1,\n    \"catalogs\": [ \"Fl\xFFow\" ] }"), Apply, 1,
-     Model + ":3:22: Invalid encoding in string.\n"},
+     Model + ":3:22: the byte 0xFF is no UTF-8: the file is saved in another encoding, or damaged; save it as UTF-8\n"},
     {"ArrayInPlaceOfObject", Written(Model, "[]"), ShowModel, 1, Model + ": must be an object, not an array\n"},
     {"ObjectsOfWrongShape", Written(Model, R"({"model": 1, "catalogs": [], "objects": {}})"), ShowModel, 1,
      Model + ":1:41: /objects: must be an array, not an object\n"},
@@ -139,10 +140,13 @@ const BadInput Catalogs[] = {
      "nothing.catalog.json: cannot be opened: No such file or directory\n"},
     {"Unreadable", Unreadable(Catalog), ShowModel, 1, Catalog + ": cannot be read: Input/output error\n"},
     {"Truncated", Written(Catalog, "{\n    \"catalog\": \"FlowCommon\",\n    \"types\": [ { \"name\": \"Flow"),
-     ShowModel, 1, Catalog + ":3:31: Missing a closing quotation mark in string.\n"},
+     ShowModel, 1,
+     Catalog + ":3:31: the document ends inside the text at 3:26: its closing quotation mark is missing\n"},
     {"NoUtf8",
      Written(Catalog, "{\n    \"catalog\": \"FlowCommon\",\n    \"types\": [ { \"name\": \"Sutherland\xC3\x28\" } ] }"),
-     ShowModel, 1, Catalog + ":3:37: Invalid encoding in string.\n"},
+     ShowModel, 1,
+     Catalog +
+         ":3:37: the byte 0xC3 is no UTF-8: the file is saved in another encoding, or damaged; save it as UTF-8\n"},
     {"WrongShape", Replaced(Catalog, "\"kind\": \"real\"", "\"kind\": 7"), ShowModel, 1,
      Catalog + ":9:52: /types/0/attributes/0/kind: must be a text, not an integer\n"},
     {"UnknownKind", Replaced(Catalog, "\"kind\": \"real\"", "\"kind\": \"rael\""), ShowModel, 1,
@@ -164,14 +168,17 @@ const BadInput ConfigurationFiles[] = {
      },
      List, 1,
      "reffiles/VYRCfdApp/solverConfig_Flow.json: no such file in the installation samples\n"
-     "samples/reffiles/VYRCfdApp/meshFYEConfig.json:1:2: Missing a name for object member.\n"},
+     "samples/reffiles/VYRCfdApp/meshFYEConfig.json:1:2: the document ends, and the \"{\" at 1:1 is not closed by "
+     "\"}\"\n"},
     {"Unreadable", Unreadable(Configuration), Apply, 1, Configuration + ": cannot be read: Input/output error\n"},
     {"Truncated", Written(Configuration, CutShort), ApplyAndSave, 1,
-     Configuration + ":2:44: Missing a closing quotation mark in string.\n"},
+     Configuration + ":2:44: the document ends inside the text at 2:35: its closing quotation mark is missing\n"},
     {"TruncatedInList", Written(Configuration, CutShort), List, 1,
-     Configuration + ":2:44: Missing a closing quotation mark in string.\n"},
+     Configuration + ":2:44: the document ends inside the text at 2:35: its closing quotation mark is missing\n"},
     {"NoUtf8", Written(Configuration, "{\n    \"configurations\": [ { \"name\": \"freestream\xE4ir\" } ] }"),
-     ApplyAndSave, 1, Configuration + ":2:46: Invalid encoding in string.\n"},
+     ApplyAndSave, 1,
+     Configuration +
+         ":2:46: the byte 0xE4 is no UTF-8: the file is saved in another encoding, or damaged; save it as UTF-8\n"},
     {"Folder",
      [](const TemporaryFolder& iFolder) {
          Removed(Configuration)(iFolder);
@@ -186,11 +193,11 @@ const BadInput ConfigurationFiles[] = {
      List, 1, Configuration + ": is a link that leads to no file\n"},
     {"EscapeThatIsNone", Written(Configuration, R"({"configurations": [{"name": "C:\data"}]})"), List, 1,
      Configuration +
-         R"(:1:33: Invalid escape character in string; behind a backslash stands one of " \ / b f n r t, or )"
-         R"(u and four digits, and a backslash itself is written \\)"
+         R"(:1:33: a backslash itself is written \\; otherwise behind a backslash stands one of " / b f n r t, or )"
+         R"(u and four digits)"
          "\n"},
     {"ByteOrderMark", Written(Configuration, "\xEF\xBB\xBF{}"), Apply, 1,
-     Configuration + ":1:1: A byte order mark has no place in JSON.\n"},
+     Configuration + ":1:1: a byte order mark has no place in JSON; save the file as UTF-8 without one\n"},
     {"NoObject", Written(Configuration, "[]"), Apply, 1,
      Configuration + ":1:1: a configuration file must be an object, not an array\n"},
 };

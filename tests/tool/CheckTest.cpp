@@ -319,7 +319,7 @@ TEST_F(CheckTest, Json_HoldsWhatIsWrongWithAFile)
       "configuration": null,
       "item": null,
       "key": null,
-      "message": "Invalid value; without this file the engine reads no configuration at all",
+      "message": "the \"[\" at 2:21 is not closed: \"]\" is missing in front of this \"}\", or this \"}\" is one too many; without this file the engine reads no configuration at all",
       "suggestion": null,
       "related": []
     }

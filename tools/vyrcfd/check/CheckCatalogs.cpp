@@ -157,7 +157,7 @@ template <class Declare> void CheckCatalogs::Declared(const std::string& iFile, 
     }
     catch (const VYRStandalone::DocumentError& error)
     {
-        m_errors.push_back(error);
+        m_errors.push_back(Retold(error));
     }
 }
 

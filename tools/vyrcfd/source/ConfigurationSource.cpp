@@ -39,7 +39,7 @@ UnreadableFile Unread(const std::string& iPath, const VYRStandalone::DocumentErr
 {
     const bool hasPlace = iError.Line() > 0;
     const SourcePosition position = hasPlace ? SourcePosition{iError.Line(), iError.Column()} : SourcePosition{};
-    return {iPath, position, MessageOf(iError), false, ErrorLineOf(iError)};
+    return {iPath, position, MessageOf(iError), false, OneLine(iError.what())};
 }
 } // namespace
 
@@ -113,7 +113,7 @@ void ConfigurationSource::Read(const std::string& iPath)
     }
     catch (const VYRStandalone::DocumentError& error)
     {
-        m_unreadable.push_back(Unread(iPath, error));
+        m_unreadable.push_back(Unread(iPath, Retold(error)));
     }
 }
 

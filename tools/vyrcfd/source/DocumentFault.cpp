@@ -140,10 +140,11 @@ DocumentFault FaultOf(const VYRStandalone::DocumentError& iError, const std::vec
 
 std::string PlacedLineOf(const VYRStandalone::DocumentError& iError, const std::vector<std::string>& iCatalogFolders)
 {
-    const DocumentFault fault = FaultOf(iError, iCatalogFolders);
-    std::string line = ErrorLineOf(iError);
-    const std::string file = OneLine(iError.File());
-    if (iError.Line() == 0 && fault.hasPlace && BeginsWith(line, file + ":"))
+    const VYRStandalone::DocumentError error = Retold(iError);
+    const DocumentFault fault = FaultOf(error, iCatalogFolders);
+    std::string line = OneLine(error.what());
+    const std::string file = OneLine(error.File());
+    if (error.Line() == 0 && fault.hasPlace && BeginsWith(line, file + ":"))
         line.insert(file.size(),
                     ":" + std::to_string(fault.position.line) + ":" + std::to_string(fault.position.column));
     line += fault.remark;

@@ -1,22 +1,26 @@
 #include "DocumentMessage.h"
 
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "SyntaxFault.h"
 #include "Wording.h"
 
 namespace Tool
 {
-namespace
+VYRStandalone::DocumentError Retold(const VYRStandalone::DocumentError& iError)
 {
-/// A message, or what ends in one, with what helps its reader.
-std::string Explained(std::string iText)
-{
-    if (iText.find("Invalid escape") == std::string::npos)
-        return iText;
-    if (iText.back() == '.')
-        iText.pop_back();
-    return iText + "; behind a backslash stands one of \" \\ / b f n r t, or u and four digits, and a backslash "
-                   "itself is written \\\\";
+    std::error_code ignored;
+    if (iError.Line() == 0 || !std::filesystem::is_regular_file(iError.File(), ignored))
+        return iError;
+    std::ifstream stream(iError.File(), std::ios::binary);
+    const std::string text{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+    const std::optional<SyntaxFault> fault = SyntaxFaultOf(text);
+    if (!fault)
+        return iError;
+    return VYRStandalone::DocumentError(iError.File(), fault->position.line, fault->position.column, fault->message);
 }
-} // namespace
 
 std::string MessageOf(const VYRStandalone::DocumentError& iError)
 {
@@ -31,11 +35,6 @@ std::string MessageOf(const VYRStandalone::DocumentError& iError)
         message.erase(0, place.size());
     if (!message.empty() && message.back() == '.')
         message.pop_back();
-    return Explained(std::move(message));
-}
-
-std::string ErrorLineOf(const VYRStandalone::DocumentError& iError)
-{
-    return Explained(OneLine(iError.what()));
+    return message;
 }
 } // namespace Tool

@@ -12,11 +12,12 @@
 
 namespace Tool
 {
-/// The message alone, without full stop, and with what there is to add to it.
-std::string MessageOf(const VYRStandalone::DocumentError& iError);
+/// Of a file that is no JSON the error with place and words for whoever has written it; any other error as it is. Reads
+/// the file again.
+VYRStandalone::DocumentError Retold(const VYRStandalone::DocumentError& iError);
 
-/// The whole line, with what there is to add to its message.
-std::string ErrorLineOf(const VYRStandalone::DocumentError& iError);
+/// The message alone, without full stop.
+std::string MessageOf(const VYRStandalone::DocumentError& iError);
 } // namespace Tool
 
 #endif
