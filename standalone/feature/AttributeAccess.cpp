@@ -252,7 +252,10 @@ HRESULT AttributeAccess::RemovePosition(ORXISpecAttrKey* iKey, int iIndex)
         return E_FAIL;
     ORXISpecObject_var gone;
     if (key->IsListOfObjects())
+    {
+        m_object.List(*key).SettleBorrowers();
         gone = GiveUp(*key, *EntryAt<FeatureObject*>(entries, iIndex));
+    }
     std::visit([&](auto& ioList) { ioList.erase(ioList.begin() + (iIndex - 1)); }, entries);
     m_object.Tell(*key, ObjectValue::OfList());
     return S_OK;
@@ -330,6 +333,7 @@ HRESULT AttributeAccess::SetObjectEntry(const FeatureKey& iKey, FeatureObject* i
     if (iObject == nullptr && *EntryAt<FeatureObject*>(m_object.List(iKey).entries, iIndex) == nullptr)
         return S_OK;
     Take(iKey, iObject);
+    m_object.List(iKey).SettleBorrowers();
     FeatureObject*& entry = *EntryAt<FeatureObject*>(m_object.List(iKey).entries, iIndex);
     const ORXISpecObject_var former = GiveUp(iKey, std::exchange(entry, iObject));
     m_object.Tell(iKey, ObjectValue::OfList());
@@ -408,6 +412,7 @@ void AttributeAccess::RemoveObject(ORXISpecAttrKey* iKey, const ORXISpecObject_v
     const Objects::iterator found = std::find(objects.begin(), objects.end(), object);
     if (found == objects.end())
         return;
+    m_object.List(*key).SettleBorrowers();
     objects.erase(found);
     const ORXISpecObject_var gone = GiveUp(*key, object);
     m_object.Tell(*key, ObjectValue::OfList());
@@ -422,15 +427,12 @@ ORXListValORXBaseUnknown_var* AttributeAccess::ListObjects(ORXISpecAttrKey* iKey
     if (key == nullptr || !key->IsListOfObjects())
         return list.release();
     const Objects& objects = std::get<Objects>(m_object.Entries(*key));
-    list->Reserve(static_cast<int>(objects.size()));
-    for (std::size_t i = 0; i < objects.size(); ++i)
-    {
-        // What a long list costs is waiting for the objects that are counted.
-        constexpr std::size_t Ahead = 16;
-        if (i + Ahead < objects.size())
-            __builtin_prefetch(objects[i + Ahead], 1);
-        list->Append(ORXBaseUnknown_var::Share(objects[i]));
-    }
+    // The objects of a start-up are not counted, and their slots are shared by all threads.
+    if (!m_object.IsPrototype())
+        list->Borrow(m_object.List(*key).borrowers, objects);
+    else
+        for (FeatureObject* const object : objects)
+            list->Append(ORXBaseUnknown_var::Share(object));
     return list.release();
 }
 

@@ -240,6 +240,7 @@ void FeatureObject::StoreObjects(const FeatureKey& iKey, const std::vector<Featu
             if (iKey.Owns())
                 Gained(*object, iKey);
         }
+    List(iKey).SettleBorrowers();
     former.swap(std::get<std::vector<FeatureObject*>>(List(iKey).entries));
     for (FeatureObject* const object : former)
         if (object != nullptr)
@@ -363,6 +364,7 @@ void FeatureObject::LeaveOwner()
         owner.StoreObject(key, nullptr);
         return;
     }
+    owner.List(key).SettleBorrowers();
     std::vector<FeatureObject*>& entries = std::get<std::vector<FeatureObject*>>(owner.List(key).entries);
     const auto kept = std::remove(entries.begin(), entries.end(), this);
     auto gone = entries.end() - kept;
@@ -407,7 +409,10 @@ void FeatureObject::TakeObjects(const FeatureKey& iKey, std::vector<FeatureObjec
         std::copy_if(entries.begin(), entries.end(), std::back_inserter(ioTaken),
                      [](const FeatureObject* iEntry) { return iEntry != nullptr; });
         if (!iKey.Owns())
+        {
+            List(iKey).SettleBorrowers();
             entries.clear();
+        }
     }
 }
 

@@ -9,6 +9,7 @@
 #include <variant>
 #include <vector>
 
+#include "ORXListValORXBaseUnknown_var.h"
 #include "ORXUnicodeString.h"
 
 namespace VYRStandalone
@@ -30,6 +31,11 @@ struct ObjectSlot
 struct ListSlot
 {
     ListEntries entries;
+    /// Lists for which these references hold the objects.
+    ORXListValORXBaseUnknown_var::Borrowers borrowers = nullptr;
+
+    /// Before one of the references goes.
+    void SettleBorrowers() const noexcept { ORXListValORXBaseUnknown_var::Settle(borrowers); }
 };
 } // namespace VYRStandalone
 

@@ -318,6 +318,145 @@ TEST_F(Lists, ListObjects_HoldsItsEntriesInTheirOrder)
     EXPECT_EQ(CountOf(Item('A')), before);
 }
 
+/// An attribute that holds A and B, which nobody else does.
+struct Listed
+{
+    ORXISpecAttrAccess_var access;
+    ORXISpecAttrKey_var key;
+    /// Has components, too.
+    ORXISpecObject_var other;
+
+    ORXISpecObject_var At(int iPosition) const
+    {
+        return ORXISpecObject_var::Adopt(access->GetSpecObject(key, iPosition));
+    }
+};
+
+/// Takes A and B out.
+struct ListEnd
+{
+    const char* name;
+    void (*end)(const Listed& iListed);
+};
+
+std::ostream& operator<<(std::ostream& ioStream, const ListEnd& iEnd)
+{
+    return ioStream << iEnd.name;
+}
+
+class ListedObjects : public Lists, public testing::WithParamInterface<ListEnd>
+{
+};
+
+TEST_P(ListedObjects, AreHeldByTheListsHoweverTheyLeaveTheAttribute)
+{
+    for (const char* attribute : {"refs", "parts"})
+    {
+        SCOPED_TRACE(attribute);
+        HostUnderTest::Model model;
+        Listed listed{{}, {}, m_object};
+        std::unique_ptr<const ORXListValORXBaseUnknown_var> first;
+        std::unique_ptr<const ORXListValORXBaseUnknown_var> second;
+        {
+            HostUnderTest::Model passing;
+            const ORXISpecObject_var owner = MakeIn(model, "ContractPlain", "Owner");
+            listed.access = owner;
+            listed.key = KeyOf(owner, attribute);
+            EXPECT_EQ(Insert(owner, attribute, MakeIn(passing, "ContractLeaf", "B"), 1), S_OK);
+            EXPECT_EQ(Insert(owner, attribute, MakeIn(passing, "ContractLeaf", "A"), 1), S_OK);
+            first.reset(listed.access->ListObjects(listed.key));
+            delete listed.access->ListObjects(listed.key);
+            second.reset(listed.access->ListObjects(listed.key));
+        }
+        GetParam().end(listed);
+        if (GetParam().name != std::string("all"))
+            EXPECT_EQ(listed.access->GetListSize(listed.key), 0);
+        listed = Listed{};
+        model.Close();
+        for (const auto* list : {first.get(), second.get()})
+        {
+            ASSERT_EQ(list->Size(), 2);
+            for (int i = 1; i <= 2; ++i)
+                EXPECT_EQ(CountOf((*list)[i]), 2u) << "one for each list";
+            EXPECT_EQ(Narrow(ORXISpecObject_var((*list)[1])->GetName()), "A");
+            EXPECT_EQ(Narrow(ORXISpecObject_var((*list)[2])->GetName()), "B");
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Lists, ListedObjects,
+                         testing::Values(ListEnd{"RemovePosition",
+                                                 [](const Listed& iListed) {
+                                                     for (const int position : {2, 1})
+                                                         iListed.access->RemovePosition(iListed.key, position);
+                                                 }},
+                                         ListEnd{"RemoveAll",
+                                                 [](const Listed& iListed) { iListed.access->RemoveAll(iListed.key); }},
+                                         ListEnd{"RemoveObject",
+                                                 [](const Listed& iListed) {
+                                                     for (int i = 0; i < 2; ++i)
+                                                         iListed.access->RemoveObject(iListed.key, iListed.At(1));
+                                                 }},
+                                         ListEnd{"SetSpecObject",
+                                                 [](const Listed& iListed) {
+                                                     for (const int position : {1, 2})
+                                                         iListed.access->SetSpecObject(iListed.key, NULL_var, position);
+                                                     for (const int position : {2, 1})
+                                                         iListed.access->RemovePosition(iListed.key, position);
+                                                 }},
+                                         ListEnd{"moved first",
+                                                 [](const Listed& iListed) {
+                                                     iListed.access->MoveInPosition(iListed.key, iListed.At(2), 1);
+                                                     iListed.access->RemoveAll(iListed.key);
+                                                 }},
+                                         ListEnd{"taken over by another owner",
+                                                 [](const Listed& iListed) {
+                                                     const ORXISpecAttrAccess_var access = iListed.other;
+                                                     const ORXISpecAttrKey_var key =
+                                                         ORXISpecAttrKey_var::Adopt(access->GetAttrKey("parts"));
+                                                     for (const int position : {2, 1})
+                                                         access->InsertAtPosition(key, iListed.At(position), 1);
+                                                     access->RemoveAll(key);
+                                                     iListed.access->RemoveAll(iListed.key);
+                                                 }},
+                                         ListEnd{"all", [](const Listed&) {}}));
+
+TEST_F(Lists, ListObjects_EachChangeOfTheCopyIsTheCopysAlone)
+{
+    using List = ORXListValORXBaseUnknown_var;
+    const std::vector<void (*)(List&)> changes = {
+        [](List& ioList) { ioList[1] = NULL_var; },
+        [](List& ioList) { ioList.RemovePosition(2); },
+        [](List& ioList) { ioList.InsertAt(1, ioList[2]); },
+        [](List& ioList) { ioList.Append(ioList[1]); },
+        [](List& ioList) { ioList.Append(ORXBaseUnknown_var(ioList[1])); },
+        [](List& ioList) { ioList = List(); },
+        [](List& ioList) { List().operator=(std::move(ioList)); },
+        [](List& ioList) { List(std::move(ioList)).RemovePosition(1); },
+        [](List& ioList) { List(ioList).RemovePosition(1); },
+    };
+    Fill("refs", "AB");
+    const ORXISpecAttrKey_var key = KeyOf(m_object, "refs");
+    const unsigned int count = CountOf(m_items[0]);
+    for (std::size_t i = 0; i < changes.size(); ++i)
+    {
+        SCOPED_TRACE(i);
+        const std::unique_ptr<List> other(m_access->ListObjects(key));
+        const std::unique_ptr<List> list(m_access->ListObjects(key));
+        const std::unique_ptr<List> last(m_access->ListObjects(key));
+        changes[i](*list);
+        EXPECT_EQ(m_access->GetListSize(key), 2);
+        for (const List* unchanged : {other.get(), last.get()})
+        {
+            ASSERT_EQ(unchanged->Size(), 2);
+            EXPECT_TRUE((*unchanged)[1] == m_items[0]);
+            EXPECT_TRUE((*unchanged)[2] == m_items[1]);
+        }
+    }
+    EXPECT_EQ(CountOf(m_items[0]), count) << "and nothing is counted too often or too rarely";
+    EXPECT_EQ(CountOf(m_items[1]), count);
+}
+
 TEST_F(Lists, OfComponents_MayHoldAnObjectTwiceAndOwnItUntilTheLastEntryGoes)
 {
     Fill("parts", "AA");
