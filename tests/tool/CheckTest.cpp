@@ -155,7 +155,9 @@ TEST(WrongFolders, HaveOneAtLeastForEveryKindOfFinding)
                                       "unknown-type",
                                       "default-not-in-choices",
                                       "default-invalid",
-                                      "default-reopens-differently"};
+                                      "default-reopens-differently",
+                                      "wrong-type",
+                                      "duplicate-entry"};
     std::set<std::string> found;
     for (const std::string& name : FoldersIn(Wrong))
     {

@@ -21,27 +21,28 @@ struct CheckArguments
     bool isStrict = false;
 };
 
-std::string SummaryText(const CheckRun& iRun)
+std::string SummaryText(const CheckRun& iRun, const ConfigurationSource& iWritten)
 {
     std::size_t items = 0;
-    for (const SourceConfiguration& configuration : iRun.source.Configurations())
+    for (const SourceConfiguration& configuration : iWritten.Configurations())
         items += configuration.items.size();
     return Counted(iRun.findings.Count(Severity::Error), "error") + ", " +
            Counted(iRun.findings.Count(Severity::Warning), "warning") + " and " +
            Counted(iRun.findings.Count(Severity::Note), "note") + " in " +
-           Counted(iRun.source.Configurations().size(), "configuration") + " with " + Counted(items, "item");
+           Counted(iWritten.Configurations().size(), "configuration") + " with " + Counted(items, "item");
 }
 
 /// What the configuration files say by themselves.
-void CheckTexts(CheckRun& ioRun)
+void CheckTexts(const ConfigurationSource& iWritten, CheckRun& ioRun)
 {
-    CheckKeys(ioRun);
+    CheckKeys(iWritten, ioRun);
     CheckRoles(ioRun);
     CheckNames(ioRun);
     CheckCycles(ioRun);
+    CheckPaths(ioRun);
     CheckConditionTexts(ioRun);
     CheckLists(ioRun);
-    CheckPaths(ioRun);
+    CheckRepeatedItems(ioRun);
     AddUnusedWithoutCatalogs(ioRun);
 }
 
@@ -51,23 +52,24 @@ void Check(const CommonOptions& iOptions, const CheckArguments& iArguments)
     std::optional<Progress> progress;
     progress.emplace("Checking the installation");
     const ConfigurationSource source(installation, ConfigurationSource::Faults::Keep);
-    CheckRun run{source};
-    CheckFiles(installation, run);
+    MeantSource meant(source);
+    CheckRun run(meant);
+    CheckFiles(installation, source, run);
     const CheckCatalogs catalogs(installation, iArguments.catalogs, run);
-    run.isWhole = source.Unreadable().empty() && !catalogs.HaveFailed() && !HasLostConfigurations(source);
+    run.isWhole = source.Unreadable().empty() && !catalogs.HaveFailed() && !meant.HasLostConfigurations();
     run.hasCatalogs = !catalogs.Files().empty();
-    CheckTexts(run);
+    CheckTexts(source, run);
     if (!catalogs.HaveFailed() && !catalogs.Files().empty())
         TypedCheck(run).Check(CatalogSource(installation, catalogs.Files()));
     CheckRepeatedDefaults(run);
 
     const std::vector<Finding> findings = run.findings.Sorted(source);
     progress.reset();
-    Print(iOptions.json ? FindingsJson(findings) : FindingsText(findings) + SummaryText(run) + "\n");
+    Print(iOptions.json ? FindingsJson(findings) : FindingsText(findings) + SummaryText(run, source) + "\n");
     const bool fails =
         run.findings.Count(Severity::Error) != 0 || (iArguments.isStrict && run.findings.Count(Severity::Warning) != 0);
     if (fails)
-        throw Failure("vyrcfd: the check found " + SummaryText(run));
+        throw Failure("vyrcfd: the check found " + SummaryText(run, source));
 }
 } // namespace
 
@@ -93,7 +95,7 @@ void AddCheckCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
         "unknown-config, unused-config, cycle, bad-condition, "
         "odd-condition, unequal-lists, swapped-lists, wrong-separator, blank-in-list, default-not-in-choices, "
         "default-invalid, "
-        "default-reopens-differently, path-nowhere, unknown-type."
+        "default-reopens-differently, path-nowhere, unknown-type, wrong-type, duplicate-entry."
         "\n\nExample:\n    vyrcfd --installation samples check --strict");
     command->callback(
         [&ioOptions, &oJob, arguments] { oJob = [&ioOptions, arguments] { Check(ioOptions, *arguments); }; });

@@ -6,13 +6,14 @@
  * The checks that need no catalog. Each looks at one kind of mistake, and adds what it finds.
  */
 
+#include <map>
 #include <set>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "ConfigurationSource.h"
 #include "FindingList.h"
+#include "MeantSource.h"
 #include "Suggestions.h"
 
 namespace Tool
@@ -20,6 +21,10 @@ namespace Tool
 /// What all checks of one run share.
 struct CheckRun
 {
+    explicit CheckRun(MeantSource& ioMeant) : meant(ioMeant), source(ioMeant.Source()) {}
+
+    MeantSource& meant;
+    /// What was meant.
     const ConfigurationSource& source;
     FindingList findings{};
     Suggestions suggestions{};
@@ -33,6 +38,9 @@ struct CheckRun
     /// Names with two definitions of which one was probably meant to have another, and it is not known which: nothing
     /// is said of what would follow from that.
     std::set<std::string, std::less<>> ambiguous{};
+
+    /// The configurations that catalogs mean by misspelt names.
+    std::map<std::string, std::string, std::less<>> meantByCatalogs{};
 
     /// Configurations that are applied from outside: a catalog says that they are for a type, or a reference that is
     /// misspelt means them.
@@ -58,13 +66,16 @@ struct CheckRun
 };
 
 /// Files that fail the engine's load, that it passes over, and that have nothing in them.
-void CheckFiles(const Installation& iInstallation, CheckRun& ioRun);
+void CheckFiles(const Installation& iInstallation, const ConfigurationSource& iWritten, CheckRun& ioRun);
 
 /// Keys that nothing reads, that stand twice, or whose value is of the wrong kind, everywhere in the files.
-void CheckKeys(CheckRun& ioRun);
+void CheckKeys(const ConfigurationSource& iWritten, CheckRun& ioRun);
 
 /// Items that do nothing, and keys that an item passes over in favour of others.
 void CheckRoles(CheckRun& ioRun);
+
+/// The words for the types of attributes with a default.
+const std::vector<std::string>& TypeWords();
 
 /// Configurations without a name, with a name that is taken, that nothing refers to, and references to none. A
 /// configuration that a catalog lists as meant for a type is referred to.
@@ -76,6 +87,9 @@ void CheckCycles(CheckRun& ioRun);
 
 /// Conditions that are none, and such as compare something else than they seem to, as far as the text shows.
 void CheckConditionTexts(CheckRun& ioRun);
+
+/// Items that stand twice in a configuration.
+void CheckRepeatedItems(CheckRun& ioRun);
 
 /// Comma lists: their lengths, their entries, and a default that is none of its choices.
 void CheckLists(CheckRun& ioRun);
@@ -90,9 +104,6 @@ void AddUnused(const SourceConfiguration& iConfiguration, const std::string& iWh
 /// Adds the one finding for all that nothing applies where there are no catalogs.
 void AddUnusedWithoutCatalogs(CheckRun& ioRun);
 
-/// Whether a file holds configurations that are not read, since their key is misspelt or they are no array.
-bool HasLostConfigurations(const ConfigurationSource& iSource);
-
 /// How much of a path the cursor follows: it stops, without an error, at the first name that is empty.
 std::size_t EndOfNames(std::string_view iPath);
 
@@ -100,8 +111,8 @@ std::size_t EndOfNames(std::string_view iPath);
 /// defaults come before.
 void CheckRepeatedDefaults(CheckRun& ioRun);
 
-/// Whether an item has a key that is unknown or of the wrong kind, which then says why the item does not do what it
-/// seems to.
+/// Whether an item has a key that is unknown or of the wrong kind, and it is not known what was meant. That says then
+/// why the item does not do what it seems to.
 bool HasWrongKey(const SourceValue& iItem);
 } // namespace Tool
 

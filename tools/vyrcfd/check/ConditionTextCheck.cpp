@@ -82,6 +82,8 @@ void CheckCondition(const SourceItem& iItem, const VYRCfdObjectAccess& iProbe, C
     Finding finding = FindingAt(iItem, "condition", FindingKind::OddCondition, Severity::Warning, oddity.message);
     finding.suggestion = oddity.suggestion;
     ioRun.Add(std::move(finding));
+    if (!oddity.suggestion.empty())
+        ioRun.meant.SetText(iItem, "condition", oddity.suggestion);
 }
 } // namespace
 
@@ -92,7 +94,8 @@ void CheckConditionTexts(CheckRun& ioRun)
     const VYRCfdObjectAccess probe{ORXBaseUnknown_var(model.Create("VYRCfdValues", "Probe"))};
     for (const SourceConfiguration& configuration : ioRun.source.Configurations())
         for (const SourceItem& item : ItemsOf(configuration))
-            if (item.role == ItemRole::Conditional)
+            if (item.role == ItemRole::Conditional ||
+                (item.role == ItemRole::Nothing && HasWrongKey(item.value) && !item.Text("condition").empty()))
                 CheckCondition(item, probe, ioRun);
 }
 } // namespace Tool

@@ -117,16 +117,21 @@ std::vector<std::string> TextsOf(const VYRCfdObjectAccess& iAttribute)
     return {};
 }
 
-bool CheckComparison(const SourceItem& iItem, const Trial& iTrial, const ConditionText& iParts,
+bool CheckComparison(const SourceItem& iItem, const Trial& iTrial, ConditionText& ioParts,
                      const VYRCfdObjectAccess& iAttribute, TrialFindings& oFindings)
 {
-    Oddity oddity = OddityOf(iParts, iAttribute);
+    Oddity oddity = OddityOf(ioParts, iAttribute);
     if (oddity.message.empty())
         return true;
     Finding finding = FindingAt(iItem, "condition", FindingKind::OddCondition, Severity::Warning,
                                 oddity.message + " (" + iTrial.Where() + ")");
     finding.suggestion = oddity.suggestion;
+    // By != hardly anything is left out, so that nothing is known of what is applied.
+    const bool isNear = ioParts.comparison == Comparison::Equal;
+    const std::string meant = isNear ? OnlySlip(oddity.unknown, oddity.known) : std::string();
+    if (!meant.empty())
+        ioParts.value = meant;
     oFindings.push_back({std::move(finding), std::move(oddity.unknown), std::move(oddity.known)});
-    return false;
+    return !meant.empty();
 }
 } // namespace Tool

@@ -117,7 +117,9 @@ void CheckCycles(CheckRun& ioRun)
         for (const std::size_t one : group)
             isDone[one] = true;
         const bool isDoubtful = std::any_of(chain.begin(), chain.end(), [&](const Reference* iOne) {
-            return ioRun.ambiguous.count(iOne->item.configuration.name) != 0;
+            // What leads back by a misspelt name may have been meant for something else.
+            return ioRun.ambiguous.count(iOne->item.configuration.name) != 0 ||
+                   ioRun.meant.HasOtherText(iOne->item.configuration, iOne->item.number, "config");
         });
         if (chain.empty() || isDoubtful)
             continue;

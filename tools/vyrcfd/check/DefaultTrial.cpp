@@ -2,6 +2,7 @@
 
 #include "AttributeReader.h"
 #include "ItemTrial.h"
+#include "MeantLists.h"
 #include "MeantUnit.h"
 #include "ORXISpecAttrKey.h"
 #include "ORXKeySetVYRCfdBase.h"
@@ -45,6 +46,43 @@ std::string KindOf(const VYRStandalone::AttributeInfo& iInfo)
     default:
         return "an object";
     }
+}
+
+/// What stands under "type" for an attribute; empty for such as have no default.
+std::string TypeWordOf(int iType)
+{
+    switch (iType)
+    {
+    case tk_double:
+        return "real";
+    case tk_integer:
+        return "integer";
+    case tk_boolean:
+        return "boolean";
+    case tk_enum:
+        return "enumeration";
+    case tk_string:
+        return "string";
+    default:
+        return {};
+    }
+}
+
+/// That a word is none at all is told already.
+void CheckTypeWord(const SourceItem& iItem, const Trial& iTrial, const std::string& iName, TrialFindings& oFindings)
+{
+    const std::string_view word = iItem.Text("type");
+    if (word.empty() || !Holds(TypeWords(), word))
+        return;
+    const VYRStandalone::AttributeInfo info = InfoOf(iTrial.object, iName);
+    std::string right = TypeWordOf(info.type);
+    if (right.empty() || right == word)
+        return;
+    Finding finding = FindingAt(iItem, "type", FindingKind::WrongType, Severity::Warning,
+                                Quoted(iName) + " is " + KindOf(info) + " " + iTrial.Where() + ", and no " +
+                                    std::string(word) + ": nothing but the record of the default keeps the word");
+    finding.suggestion = std::move(right);
+    oFindings.push_back({std::move(finding)});
 }
 
 /// The record that a default leaves with the model, alone in the list of them.
@@ -96,24 +134,18 @@ Value Reopened(const VYRIMpaDefaultManagementProtected_var& iManagement, const V
 
 void DefaultTrial::Check(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings)
 {
-    const std::string name(iItem.Text("path"));
     const std::string text(iItem.Text("default"));
-    if (name.empty() || name.find('/') != std::string::npos)
+    const std::string name = AttributeMeant(iItem, iTrial, oFindings);
+    if (name.empty())
         return;
-    if (!KeyOf(iTrial.object, name))
-    {
-        AddNowhere(iItem, iTrial, "path", name,
-                   {PathEnd::Kind::Nowhere, iTrial.object, iTrial.place, name, "No attribute " + name}, oFindings);
-        return;
-    }
-    if (IsOptional(iTrial.object, name))
-        AddOptional(iItem, iTrial, "path", Severity::Warning, name, "on any other the configuration fails here",
-                    oFindings);
     // What a Choice takes depends on what it offers at the moment.
     const std::tuple key(std::string(iTrial.object.GetType().View()), name, text);
     const auto known = IsChoice(iTrial.object) ? m_verdicts.end() : m_verdicts.find(key);
     const Verdict verdict = known != m_verdicts.end() ? known->second : Try(iTrial, name, text);
     m_verdicts.insert_or_assign(key, verdict);
+    // Where the default does not fit either, it is the attribute that is not the one that was meant, or the default.
+    if (verdict.kind != FindingKind::DefaultInvalid || verdict.isGood)
+        CheckTypeWord(iItem, iTrial, name, oFindings);
     if (verdict.isGood)
         return;
     oFindings.push_back({FindingAt(iItem, "default", verdict.kind,

@@ -48,10 +48,10 @@ bool AddsNothing(const SourceFile& iFile)
 
 /// Such files are what an installation has that needs no more, or one whose writer has forgotten what belongs there. So
 /// there is one finding for all of them.
-void CheckEmptyFiles(CheckRun& ioRun)
+void CheckEmptyFiles(const ConfigurationSource& iWritten, CheckRun& ioRun)
 {
     std::vector<const SourceFile*> empty;
-    for (const SourceFile& file : ioRun.source.Files())
+    for (const SourceFile& file : iWritten.Files())
         if (AddsNothing(file))
             empty.push_back(&file);
     if (empty.empty())
@@ -68,10 +68,10 @@ void CheckEmptyFiles(CheckRun& ioRun)
 }
 } // namespace
 
-void CheckFiles(const Installation& iInstallation, CheckRun& ioRun)
+void CheckFiles(const Installation& iInstallation, const ConfigurationSource& iWritten, CheckRun& ioRun)
 {
     std::vector<fs::path> strange = StrangeFiles(iInstallation);
-    for (const UnreadableFile& file : ioRun.source.Unreadable())
+    for (const UnreadableFile& file : iWritten.Unreadable())
     {
         Finding finding = UnreadableFinding(file);
         std::vector<std::string> names;
@@ -86,6 +86,6 @@ void CheckFiles(const Installation& iInstallation, CheckRun& ioRun)
     for (const fs::path& file : strange)
         ioRun.Add(FindingIn(file.string(), {}, FindingKind::IgnoredFile, Severity::Warning,
                             "the engine reads a fixed list of files, and none of this name"));
-    CheckEmptyFiles(ioRun);
+    CheckEmptyFiles(iWritten, ioRun);
 }
 } // namespace Tool

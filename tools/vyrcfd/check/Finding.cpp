@@ -49,9 +49,13 @@ const char* NameOf(FindingKind iKind)
     case FindingKind::PathNowhere:
         return "path-nowhere";
     case FindingKind::UnknownType:
+        return "unknown-type";
+    case FindingKind::WrongType:
+        return "wrong-type";
+    case FindingKind::DuplicateEntry:
         break;
     }
-    return "unknown-type";
+    return "duplicate-entry";
 }
 
 const char* NameOf(Severity iSeverity)
@@ -71,7 +75,7 @@ const char* NameOf(Severity iSeverity)
 Finding FindingIn(const std::string& iFile, const SourcePosition& iPosition, FindingKind iKind, Severity iSeverity,
                   std::string iMessage)
 {
-    return {iKind, iSeverity, OneLine(iFile), iPosition, nullptr, 0, {}, std::move(iMessage), {}, {}};
+    return {iKind, iSeverity, OneLine(iFile), iPosition, nullptr, 0, {}, std::move(iMessage), {}, {}, false};
 }
 
 Finding FindingAt(const SourceConfiguration& iConfiguration, std::string_view iKey, FindingKind iKind,

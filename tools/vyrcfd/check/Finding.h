@@ -36,7 +36,9 @@ enum class FindingKind
     DefaultInvalid,
     DefaultReopensDifferently,
     PathNowhere,
-    UnknownType
+    UnknownType,
+    WrongType,
+    DuplicateEntry
 };
 
 /// Such as "unknown-key".
@@ -77,6 +79,8 @@ struct Finding
     /// What was probably meant; empty where nothing is near.
     std::string suggestion;
     std::vector<RelatedPlace> related;
+    /// Of what was meant: another finding tells of what is written at the same place.
+    bool isBehind = false;
 };
 
 /// A finding at the value of a key of an item, or at the item where it has none.

@@ -25,7 +25,8 @@ std::string Shortened(std::string iText)
 
 FindingList::Identity FindingList::IdentityOf(const Finding& iFinding)
 {
-    return {iFinding.file, iFinding.position.line, iFinding.position.column, iFinding.kind, iFinding.key};
+    return {iFinding.file, iFinding.position.line, iFinding.position.column,
+            iFinding.kind, iFinding.key,           iFinding.isBehind};
 }
 
 void FindingList::Add(Finding iFinding)

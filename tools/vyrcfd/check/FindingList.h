@@ -31,7 +31,7 @@ public:
     bool Has(const Finding& iFinding) const;
 
 private:
-    using Identity = std::tuple<std::string, int, int, FindingKind, std::string>;
+    using Identity = std::tuple<std::string, int, int, FindingKind, std::string, bool>;
     static Identity IdentityOf(const Finding& iFinding);
 
     std::vector<Finding> m_findings;

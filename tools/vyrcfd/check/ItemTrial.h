@@ -42,6 +42,8 @@ struct TrialFinding
     std::vector<std::string> known{};
     /// A finding of the texts that is the same mistake, seen from elsewhere.
     std::optional<Finding> replaced{};
+    /// Of a path: what was meant is known, and leads on.
+    bool isMisspelt = false;
 };
 
 using TrialFindings = std::vector<TrialFinding>;
@@ -81,13 +83,18 @@ bool TryChoice(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFin
 /// The texts of the enumeration that an attribute is; empty for any other.
 std::vector<std::string> TextsOf(const VYRCfdObjectAccess& iAttribute);
 
-/// What a comparison with an attribute comes to. @return false where it is not the one that is meant
-bool CheckComparison(const SourceItem& iItem, const Trial& iTrial, const ConditionText& iParts,
+/// What a comparison with an attribute comes to. @param ioParts a misspelt choice becomes the one that was meant
+/// @return false where it is not known which one is meant
+bool CheckComparison(const SourceItem& iItem, const Trial& iTrial, ConditionText& ioParts,
                      const VYRCfdObjectAccess& iAttribute, TrialFindings& oFindings);
 
-/// Adds that a path of an item leads nowhere.
-void AddNowhere(const SourceItem& iItem, const Trial& iTrial, const char* iKey, const std::string& iPath,
-                const PathEnd& iEnd, TrialFindings& oFindings);
+/// Adds that a path of an item leads nowhere, unless there is no misstep on it.
+void AddMissteps(const SourceItem& iItem, const Trial& iTrial, const char* iKey, const std::string& iPath,
+                 const Missteps& iMissteps, TrialFindings& oFindings);
+
+/// Of an item whose path is the name of one attribute: that of the attribute, or the one that was meant, which is told.
+/// Empty where there is none.
+std::string AttributeMeant(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
 
 /// Adds that an attribute need not be there, and what comes of it.
 void AddOptional(const SourceItem& iItem, const Trial& iTrial, const char* iKey, Severity iSeverity,

@@ -10,15 +10,6 @@ namespace Tool
 namespace
 {
 using Kind = SourceValue::Kind;
-std::vector<std::string> NamesOf(const KindsByKey& iKeys)
-{
-    std::vector<std::string> names;
-    for (const auto& [name, kind] : iKeys)
-        if (name != "$schema")
-            names.push_back(name);
-    return names;
-}
-
 /// An object whose keys are looked at.
 struct KeyedObject
 {
@@ -41,13 +32,13 @@ public:
         CheckObject({iFile.Root(), FileKeys(), "a file", place});
     }
 
-    void CheckConfiguration(const SourceConfiguration& iConfiguration)
+    void CheckConfiguration(const SourceConfiguration& iConfiguration, const MeantSource::Written& iWritten)
     {
         const Finding place = FindingAt(iConfiguration, {}, FindingKind::WrongKind, Severity::Error, {});
-        CheckObject({*iConfiguration.value, ConfigurationKeys(), "a configuration", place});
+        CheckObject({*iWritten.definition, ConfigurationKeys(), "a configuration", place});
         for (const SourceItem& item : ItemsOf(iConfiguration))
-            CheckObject(
-                {item.value, ItemKeys(), "an item", FindingAt(item, {}, FindingKind::WrongKind, Severity::Error, {})});
+            CheckObject({*iWritten.items[item.number - 1], ItemKeys(), "an item",
+                         FindingAt(item, {}, FindingKind::WrongKind, Severity::Error, {})});
     }
 
 private:
@@ -103,24 +94,13 @@ private:
 };
 } // namespace
 
-void CheckKeys(CheckRun& ioRun)
+void CheckKeys(const ConfigurationSource& iWritten, CheckRun& ioRun)
 {
     KeyCheck check(ioRun);
-    for (const SourceFile& file : ioRun.source.Files())
+    for (const SourceFile& file : iWritten.Files())
         check.CheckFile(file);
     for (const SourceConfiguration& configuration : ioRun.source.Configurations())
-        check.CheckConfiguration(configuration);
-}
-
-bool HasLostConfigurations(const ConfigurationSource& iSource)
-{
-    const auto isLost = [](const SourceMember& iMember) {
-        return iMember.key == "configurations" ? !iMember.value->Is(Kind::Array)
-                                               : FileKeys().count(iMember.key) == 0 && iMember.value->Is(Kind::Array);
-    };
-    return std::any_of(iSource.Files().begin(), iSource.Files().end(), [&](const SourceFile& iFile) {
-        return std::any_of(iFile.Root().members.begin(), iFile.Root().members.end(), isLost);
-    });
+        check.CheckConfiguration(configuration, ioRun.meant.Definitions()[configuration.number]);
 }
 
 bool HasWrongKey(const SourceValue& iItem)

@@ -24,6 +24,16 @@ std::string BlanksOf(std::string_view iText)
     return {};
 }
 
+/// The first entry that stands there a second time; empty for none, and for empty ones, which are told already.
+std::string DoubledIn(const std::vector<std::string>& iEntries)
+{
+    std::set<std::string> seen;
+    for (const std::string& entry : iEntries)
+        if (!seen.insert(entry).second && !entry.empty())
+            return entry;
+    return {};
+}
+
 class ListCheck
 {
 public:
@@ -49,6 +59,10 @@ private:
         MeantEntries entries = MeantEntriesOf(iItem);
         Add(std::move(entries.findings));
         CheckEntries(iItem, "value", entries.text, "an entry of the list is empty");
+        const std::string doubled = DoubledIn(SplitTexts(entries.text));
+        if (!doubled.empty())
+            m_run.Add(FindingAt(iItem, "value", FindingKind::DuplicateEntry, Severity::Note,
+                                "the entry " + Quoted(doubled) + " stands twice in the list"));
     }
 
     void CheckChoices(const SourceItem& iItem)
@@ -98,14 +112,10 @@ private:
 
     void CheckDoubled(const SourceItem& iItem, const char* iKey, const std::vector<std::string>& iChoices)
     {
-        std::set<std::string> seen;
-        for (const std::string& choice : iChoices)
-            if (!seen.insert(choice).second)
-            {
-                m_run.Add(FindingAt(iItem, iKey, FindingKind::DoesNothing, Severity::Error,
-                                    "the choice " + Quoted(choice) + " stands twice, and can be selected only once"));
-                return;
-            }
+        const std::string doubled = DoubledIn(iChoices);
+        if (!doubled.empty())
+            m_run.Add(FindingAt(iItem, iKey, FindingKind::DoesNothing, Severity::Error,
+                                "the choice " + Quoted(doubled) + " stands twice, and can be selected only once"));
     }
 
     void CheckStartups(const SourceItem& iItem, const MeantLists& iLists, const std::vector<std::string>& iChoices,

@@ -59,16 +59,9 @@ void TryManager(const SourceItem& iItem, const Trial& iTrial, const VYRICfdChoic
 
 void TryValues(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings)
 {
-    const std::string name(iItem.Text("path"));
-    if (name.empty() || name.find('/') != std::string::npos)
+    const std::string name = AttributeMeant(iItem, iTrial, oFindings);
+    if (name.empty())
         return;
-    if (!KeyOf(iTrial.object, name))
-        return AddNowhere(iItem, iTrial, "path", name,
-                          {PathEnd::Kind::Nowhere, iTrial.object, iTrial.place, name, "No attribute " + name},
-                          oFindings);
-    if (IsOptional(iTrial.object, name))
-        AddOptional(iItem, iTrial, "path", Severity::Warning, name, "on any other the configuration fails here",
-                    oFindings);
     if (iTrial.object[UnicodeOf(name)].SetStrings(SplitList(iItem.Text("value"))) < 0)
         AddFailed(iItem, iTrial, "path", FindingKind::DefaultInvalid, Quoted(name) + " is no list of texts", oFindings);
 }

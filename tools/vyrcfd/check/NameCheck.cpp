@@ -65,9 +65,9 @@ public:
         for (const SourceConfiguration& configuration : m_run.source.Configurations())
             CheckReferences(configuration);
         // Of names that are as near the one that nothing refers to is the more likely.
-        std::stable_partition(m_known.begin(), m_known.end(), [&](const std::string& iName) {
-            return m_used.count(iName) == 0 && m_run.wanted.count(iName) == 0;
-        });
+        const auto referred = std::stable_partition(m_known.begin(), m_known.end(),
+                                                    [&](const std::string& iName) { return IsUnreferred(iName); });
+        m_unreferred.assign(m_known.begin(), referred);
         for (Unknown& unknown : m_unknown)
             Resolve(unknown);
         TakeForDuplicate();
@@ -84,6 +84,8 @@ private:
     {
         std::string name;
         Finding finding;
+        /// The items among these places.
+        std::vector<SourceItem> items{};
         /// Without the names that there are.
         std::string message{};
     };
@@ -98,7 +100,7 @@ private:
                                     "type " + Quoted(iMeant.type) + " is meant for a configuration " +
                                         Quoted(iMeant.configuration) + ", and there is none");
         finding.key = "configurations";
-        AddUnknown(std::move(finding), iMeant.configuration);
+        AddUnknown(std::move(finding), iMeant.configuration, nullptr);
     }
 
     void CheckReferences(const SourceConfiguration& iConfiguration)
@@ -113,7 +115,7 @@ private:
             if (m_run.source.Find(name) == nullptr)
                 AddUnknown(FindingAt(item, "config", FindingKind::UnknownConfig, Severity::Error,
                                      "there is no configuration " + Quoted(name)),
-                           name);
+                           name, &item);
             else if (name != iConfiguration.name)
                 m_used.emplace(name);
             // A definition that another one hides applies nothing as long as it has that name.
@@ -133,7 +135,8 @@ private:
             }
     }
 
-    void AddUnknown(Finding iFinding, std::string_view iName)
+    /// @param iItem null for what a catalog refers to
+    void AddUnknown(Finding iFinding, std::string_view iName, const SourceItem* iItem)
     {
         if (!m_run.isWhole || m_misspelt.count(std::string(iName)) != 0)
             return;
@@ -142,6 +145,8 @@ private:
             m_unknown.push_back({std::string(iName), std::move(iFinding)});
         else
             m_unknown[known->second].finding.related.push_back({iFinding.file, iFinding.position.line});
+        if (iItem != nullptr)
+            m_unknown[known->second].items.push_back(*iItem);
     }
 
     void Resolve(Unknown& ioUnknown)
@@ -152,8 +157,35 @@ private:
                                (finding.related.size() == 1 ? " refers" : " refer") + " as well";
         ioUnknown.message = finding.message;
         m_run.suggestions.Complete(finding, ioUnknown.name, m_known);
-        if (!finding.suggestion.empty())
+        // Nobody means a configuration to apply itself.
+        const bool isOwn = std::any_of(ioUnknown.items.begin(), ioUnknown.items.end(), [&](const SourceItem& iItem) {
+            return iItem.configuration.name == finding.suggestion;
+        });
+        if (!isOwn && !IsDoubtful(ioUnknown) && finding.suggestion == MeantBy(ioUnknown.name))
+            TakeAsMeant(ioUnknown, finding.suggestion);
+        else if (!finding.suggestion.empty())
             TakeAsUsed(finding.suggestion);
+    }
+
+    /// The name that must have been meant; empty where that is not known. Of several only one that nothing refers to.
+    std::string MeantBy(const std::string& iName)
+    {
+        std::string unused = m_run.suggestions.OnlySlipOf(iName, m_unreferred);
+        return unused.empty() ? m_run.suggestions.OnlySlipOf(iName, m_known) : unused;
+    }
+
+    /// From now on all that refers to it refers to what was meant.
+    void TakeAsMeant(const Unknown& iUnknown, const std::string& iName)
+    {
+        for (const SourceItem& item : iUnknown.items)
+        {
+            m_run.meant.SetText(item, "config", iName);
+            m_used.insert(iName);
+        }
+        if (m_run.wanted.count(iUnknown.name) == 0)
+            return;
+        m_run.meantByCatalogs.emplace(iUnknown.name, iName);
+        m_run.wanted.insert(iName);
     }
 
     /// What was probably meant is used, for what is not known.
@@ -219,10 +251,15 @@ private:
         TakeAsUsed(unused->name);
     }
 
+    bool IsUnreferred(const std::string& iName) const
+    {
+        return m_used.count(iName) == 0 && m_run.wanted.count(iName) == 0;
+    }
+
     bool IsUnused(const SourceConfiguration& iConfiguration) const
     {
         return m_run.isWhole && iConfiguration.hiddenBy == nullptr && !iConfiguration.name.empty() &&
-               m_used.count(iConfiguration.name) == 0 && m_run.wanted.count(iConfiguration.name) == 0;
+               IsUnreferred(iConfiguration.name);
     }
 
     bool HasUnusedBeside(const std::string& iName) const
@@ -283,6 +320,8 @@ private:
 
     CheckRun& m_run;
     std::vector<std::string> m_known;
+    /// Those of them that nothing refers to.
+    std::vector<std::string> m_unreferred;
     std::vector<VYRStandalone::MeantConfiguration> m_meant;
     std::unordered_set<std::string> m_used;
     /// Names that stand behind misspelt keys.

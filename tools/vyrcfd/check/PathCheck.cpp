@@ -63,6 +63,10 @@ void CheckNames(const SourceItem& iItem, const char* iKey, std::string_view iPat
     else if (!meant.empty())
         finding.message += "; " + Quoted(meant) + " has none";
     ioRun.Add(std::move(finding));
+    if (meant.empty())
+        return;
+    std::string text(iItem.Text(iKey));
+    ioRun.meant.SetText(iItem, iKey, text.replace(0, iPath.size(), meant));
 }
 } // namespace
 

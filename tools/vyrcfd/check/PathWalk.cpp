@@ -10,6 +10,7 @@
 #include "PathNames.h"
 #include "ScratchObjects.h"
 #include "SourceItem.h"
+#include "Suggestions.h"
 
 namespace Tool
 {
@@ -51,7 +52,16 @@ PathEnd Open()
 
 PathEnd Nowhere(const PathEnd& iFrom, const std::string& iName, std::string iReason)
 {
-    return {PathEnd::Kind::Nowhere, iFrom.access, iFrom.place, iName, std::move(iReason)};
+    PathEnd end{PathEnd::Kind::Nowhere, iFrom.access, iFrom.place};
+    end.missteps.push_back(MisstepAt(iFrom.access, iFrom.place, iName, std::move(iReason)));
+    return end;
+}
+
+/// What was found on the way to a place belongs to all ends that are reached from there.
+PathEnd Behind(const PathEnd& iFrom, PathEnd iEnd)
+{
+    iEnd.missteps.insert(iEnd.missteps.begin(), iFrom.missteps.begin(), iFrom.missteps.end());
+    return iEnd;
 }
 
 /// A choice with a startup that is no type has no data object, and that is told already.
@@ -72,11 +82,30 @@ ObjectPlace PlaceOfType(const VYRCfdObjectAccess& iObject)
 }
 } // namespace
 
-void PathWalk::Restrict(const VYRCfdObjectAccess& iChoice, const ConditionText& iParts, const std::string& iCondition)
+Misstep MisstepAt(const VYRCfdObjectAccess& iAccess, const ObjectPlace& iPlace, std::string iName, std::string iReason)
+{
+    return {std::move(iName), std::move(iReason), iPlace, NamesOn(iAccess)};
+}
+
+std::string MeantPath(const std::string& iPath, const Missteps& iMissteps)
+{
+    std::string path;
+    auto step = iMissteps.begin();
+    for (const std::string& name : NamesIn(iPath))
+    {
+        const bool isMeant = step != iMissteps.end() && step->name == name;
+        path += (path.empty() ? "" : "/") + (isMeant ? step->meant : name);
+        if (isMeant)
+            ++step;
+    }
+    return path;
+}
+
+void PathWalk::Restrict(const VYRCfdObjectAccess& iChoice, const ConditionText& iParts)
 {
     m_restricted = iChoice.Self();
     m_parts = iParts;
-    m_condition = iCondition;
+    m_condition = iParts.path + iParts.sign + iParts.value;
 }
 
 std::vector<PathEnd> PathWalk::Follow(const std::string& iPath) const
@@ -96,13 +125,31 @@ void PathWalk::Step(const PathEnd& iFrom, const Names& iNames, std::size_t iNext
     const bool leadsOn = iFrom.kind == PathEnd::Kind::Object || iFrom.kind == PathEnd::Kind::Attribute;
     const bool isLast = iNext == iNames.size();
     if (iFrom.kind == PathEnd::Kind::Unheld && !isLast)
-        oEnds.push_back(Open());
-    else if (!leadsOn || isLast)
-        oEnds.push_back(iFrom);
-    else if (iFrom.kind == PathEnd::Kind::Object && iNames[iNext] == "Data" && IsChoice(iFrom.access))
-        StepToData(iFrom, iNames, iNext + 1, oEnds);
+        return oEnds.push_back(Behind(iFrom, Open()));
+    if (!leadsOn || isLast)
+        return oEnds.push_back(iFrom);
+    if (iFrom.kind == PathEnd::Kind::Object && iNames[iNext] == "Data" && IsChoice(iFrom.access))
+        return StepToData(iFrom, iNames, iNext + 1, oEnds);
+    PathEnd next = Next(iFrom, iNames[iNext]);
+    if (next.kind == PathEnd::Kind::Nowhere)
+        StepAside(iFrom, std::move(next), iNames, iNext, oEnds);
     else
-        Step(Next(iFrom, iNames[iNext]), iNames, iNext + 1, oEnds);
+        Step(Behind(iFrom, std::move(next)), iNames, iNext + 1, oEnds);
+}
+
+/// Goes on with the name that was meant, if there is one.
+void PathWalk::StepAside(const PathEnd& iFrom, PathEnd iNowhere, const Names& iNames, std::size_t iNext,
+                         std::vector<PathEnd>& oEnds) const
+{
+    Misstep& step = iNowhere.missteps.back();
+    step.meant = iFrom.kind == PathEnd::Kind::Object ? OnlySlip(step.name, step.known) : std::string();
+    if (step.meant.empty())
+        return oEnds.push_back(Behind(iFrom, std::move(iNowhere)));
+    Names names = iNames;
+    names[iNext] = step.meant;
+    PathEnd from = iFrom;
+    from.missteps.push_back(std::move(step));
+    Step(from, names, iNext, oEnds);
 }
 
 PathEnd PathWalk::Next(const PathEnd& iFrom, const std::string& iName) const
@@ -118,8 +165,9 @@ void PathWalk::StepToData(const PathEnd& iFrom, const Names& iNames, std::size_t
                           std::vector<PathEnd>& oEnds) const
 {
     if (ChoicesOf(iFrom.access).empty() || m_tried > MostTried)
-        return oEnds.push_back(Open());
+        return oEnds.push_back(Behind(iFrom, Open()));
     std::vector<PathEnd> failed;
+    std::vector<PathEnd> misspelt;
     for (const std::string& choice : Candidates(iFrom.access))
     {
         ++m_tried;
@@ -130,21 +178,30 @@ void PathWalk::StepToData(const PathEnd& iFrom, const Names& iNames, std::size_t
         if (data.IsNull())
         {
             if (HasStartup(iFrom.access, choice))
-                failed.push_back(Open());
+                failed.push_back(Behind(iFrom, Open()));
             continue;
         }
         std::vector<PathEnd> ends;
-        Step({PathEnd::Kind::Object, data, PlaceOfType(data), {}, {}, iFrom.optional}, iNames, iNext, ends);
+        Step({PathEnd::Kind::Object, data, PlaceOfType(data), iFrom.optional, iFrom.missteps}, iNames, iNext, ends);
         for (PathEnd& end : ends)
-            (end.kind == PathEnd::Kind::Nowhere ? failed : oEnds).push_back(std::move(end));
+            (end.kind == PathEnd::Kind::Nowhere            ? failed
+             : end.missteps.size() > iFrom.missteps.size() ? misspelt
+                                                           : oEnds)
+                .push_back(std::move(end));
     }
     // A way on that some of the data objects have is one.
+    // The name that is meant may lead on for several of them.
+    if (oEnds.empty())
+        for (PathEnd& end : misspelt)
+            if (end.missteps.back().meant == misspelt.front().missteps.back().meant)
+                oEnds.push_back(std::move(end));
     if (oEnds.empty() && !failed.empty())
         oEnds.push_back(failed.front());
     else if (oEnds.empty())
-        oEnds.push_back(Nowhere(iFrom, "Data",
-                                IsRestricted(iFrom.access) ? "No choice that meets the condition has a data object"
-                                                           : "No choice has a data object"));
+        oEnds.push_back(
+            Behind(iFrom, Nowhere(iFrom, "Data",
+                                  IsRestricted(iFrom.access) ? "No choice that meets the condition has a data object"
+                                                             : "No choice has a data object")));
 }
 
 bool PathWalk::IsRestricted(const VYRCfdObjectAccess& iChoice) const

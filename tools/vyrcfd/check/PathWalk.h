@@ -15,6 +15,22 @@
 
 namespace Tool
 {
+/// A name in a path that does not lead on.
+struct Misstep
+{
+    std::string name;
+    /// What the cursor says of it.
+    std::string reason;
+    /// Of the object where it stands.
+    ObjectPlace place;
+    /// What leads on from there.
+    std::vector<std::string> known{};
+    /// The one of these that must have been meant, with which the path goes on; empty where that is not known.
+    std::string meant{};
+};
+
+using Missteps = std::vector<Misstep>;
+
 /// Where a path leads to.
 struct PathEnd
 {
@@ -31,16 +47,21 @@ struct PathEnd
     };
 
     Kind kind = Kind::Nowhere;
-    /// At the object or the attribute; for a path that leads nowhere, at the object where it ends.
+    /// At the object or the attribute.
     VYRCfdObjectAccess access{};
     /// Of the object, or of the one that has the attribute.
     ObjectPlace place{};
-    /// Of a path that leads nowhere: the name that did not lead on, and what the cursor says of it.
-    std::string name{};
-    std::string reason{};
     /// The first attribute on the way that an object need not have; empty where all have all.
     std::string optional{};
+    /// On the way, which ends there if nothing is meant by the last.
+    Missteps missteps{};
 };
+
+/// @param iAccess where the name stands
+Misstep MisstepAt(const VYRCfdObjectAccess& iAccess, const ObjectPlace& iPlace, std::string iName, std::string iReason);
+
+/// The path with what was meant.
+std::string MeantPath(const std::string& iPath, const Missteps& iMissteps);
 
 /**
  * Walks paths as the cursor does, name by name, and asks it at each. Where a path goes through the data object of a
@@ -53,7 +74,7 @@ public:
     PathWalk(const VYRCfdObjectAccess& iStart, ObjectPlace iPlace) : m_start(iStart), m_place(std::move(iPlace)) {}
 
     /// From now on only such values of a Choice are selected as fulfil a condition on its value.
-    void Restrict(const VYRCfdObjectAccess& iChoice, const ConditionText& iParts, const std::string& iCondition);
+    void Restrict(const VYRCfdObjectAccess& iChoice, const ConditionText& iParts);
 
     /// At least one end. An end is good only until the next call.
     std::vector<PathEnd> Follow(const std::string& iPath) const;
@@ -62,6 +83,8 @@ private:
     using Names = std::vector<std::string>;
 
     void Step(const PathEnd& iFrom, const Names& iNames, std::size_t iNext, std::vector<PathEnd>& oEnds) const;
+    void StepAside(const PathEnd& iFrom, PathEnd iNowhere, const Names& iNames, std::size_t iNext,
+                   std::vector<PathEnd>& oEnds) const;
     void StepToData(const PathEnd& iFrom, const Names& iNames, std::size_t iNext, std::vector<PathEnd>& oEnds) const;
     PathEnd Next(const PathEnd& iFrom, const std::string& iName) const;
     PathEnd StepOnObject(const PathEnd& iFrom, const std::string& iName) const;

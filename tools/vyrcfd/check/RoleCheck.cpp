@@ -102,9 +102,9 @@ void CheckUnread(const SourceItem& iItem, CheckRun& ioRun)
 }
 
 /// The engine keeps the word with the record and reads it never, so that a wrong one stays for good.
-void CheckTypeWord(const SourceItem& iItem, CheckRun& ioRun)
+void CheckWord(const SourceItem& iItem, CheckRun& ioRun)
 {
-    static const std::vector<std::string> words{"real", "integer", "boolean", "enumeration", "string"};
+    const std::vector<std::string>& words = TypeWords();
     const std::string_view word = iItem.Text("type");
     if (SetsDefault(iItem.role) && !word.empty() && std::find(words.begin(), words.end(), word) == words.end())
         ioRun.Add(FindingAt(iItem, "type", FindingKind::UnknownType, Severity::Warning,
@@ -129,13 +129,19 @@ void CheckEmpty(const SourceItem& iItem, CheckRun& ioRun)
 }
 } // namespace
 
+const std::vector<std::string>& TypeWords()
+{
+    static const std::vector<std::string> words{"real", "integer", "boolean", "enumeration", "string"};
+    return words;
+}
+
 void CheckRoles(CheckRun& ioRun)
 {
     for (const SourceConfiguration& configuration : ioRun.source.Configurations())
         for (const SourceItem& item : ItemsOf(configuration))
         {
             CheckEmpty(item, ioRun);
-            CheckTypeWord(item, ioRun);
+            CheckWord(item, ioRun);
             const bool isIdle = item.role == ItemRole::ValueWithoutList || item.role == ItemRole::Nothing;
             // What a key that is wrong was to say may be what the others belong to.
             if (!isIdle && !HasWrongKey(item.value))

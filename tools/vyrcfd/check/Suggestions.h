@@ -25,9 +25,16 @@ public:
     /// Enters the name that is most like into the finding; where none is, lists the known ones in its message.
     void Complete(Finding& ioFinding, std::string_view iUnknown, const std::vector<std::string>& iKnown);
 
+    /// The same as `OnlySlip` of many names.
+    std::string OnlySlipOf(std::string_view iUnknown, const std::vector<std::string>& iKnown);
+
 private:
     std::size_t m_comparisonsLeft = 1'000'000;
 };
+
+/// The known name that an unknown one differs from by a slip of the hand, and that must be the one; empty where none is
+/// that near, or several are.
+std::string OnlySlip(std::string_view iUnknown, const std::vector<std::string>& iKnown);
 } // namespace Tool
 
 #endif

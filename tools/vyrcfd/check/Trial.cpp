@@ -1,6 +1,5 @@
-#include <algorithm>
-
 #include "ItemTrial.h"
+#include "MeantLists.h"
 #include "ScratchObjects.h"
 #include "Wording.h"
 
@@ -11,17 +10,46 @@ std::string Trial::Where() const
     return "on " + place.Shown() + (isGuessed ? ", the type that most of the configuration's paths fit" : "");
 }
 
-void AddNowhere(const SourceItem& iItem, const Trial& iTrial, const char* iKey, const std::string& iPath,
-                const PathEnd& iEnd, TrialFindings& oFindings)
+void AddMissteps(const SourceItem& iItem, const Trial& iTrial, const char* iKey, const std::string& iPath,
+                 const Missteps& iMissteps, TrialFindings& oFindings)
 {
-    std::string message = Quoted(iPath) + " leads nowhere " + iTrial.Where() + ": " + OneLine(iEnd.reason);
-    if (!(iEnd.place == iTrial.place))
-        message += " on " + iEnd.place.Shown();
-    const std::vector<std::string> known = NamesOn(iEnd.access);
+    if (iMissteps.empty())
+        return;
+    const Misstep& first = iMissteps.front();
+    std::string message = Quoted(iPath) + " leads nowhere " + iTrial.Where() + ": " + OneLine(first.reason);
+    if (!(first.place == iTrial.place))
+        message += " on " + first.place.Shown();
+    for (auto next = iMissteps.begin() + 1; next != iMissteps.end(); ++next)
+        message += "; behind it: " + OneLine(next->reason) + " on " + next->place.Shown();
     // What is there and leads nowhere all the same is not misspelt.
-    const bool isThere = std::find(known.begin(), known.end(), iEnd.name) != known.end();
+    const bool isThere = Holds(first.known, first.name);
+    const bool isWholeMeant = iMissteps.size() > 1 && !iMissteps.back().meant.empty();
     oFindings.push_back({FindingAt(iItem, iKey, FindingKind::PathNowhere, iTrial.Worst(), std::move(message)),
-                         isThere ? std::string() : iEnd.name, known});
+                         isThere || isWholeMeant ? std::string() : first.name, first.known});
+    if (isWholeMeant)
+        oFindings.back().finding.suggestion = MeantPath(iPath, iMissteps);
+    oFindings.back().isMisspelt = !first.meant.empty();
+}
+
+std::string AttributeMeant(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings)
+{
+    std::string name(iItem.Text("path"));
+    if (name.empty() || name.find('/') != std::string::npos)
+        return {};
+    if (!KeyOf(iTrial.object, name))
+    {
+        Misstep step = MisstepAt(iTrial.object, iTrial.place, name, "No attribute " + name);
+        // What a Choice offers is no attribute.
+        step.meant = OnlySlip(name, step.known);
+        if (!step.meant.empty() && !KeyOf(iTrial.object, step.meant))
+            step.meant.clear();
+        AddMissteps(iItem, iTrial, "path", name, {step}, oFindings);
+        name = step.meant;
+    }
+    if (!name.empty() && IsOptional(iTrial.object, name))
+        AddOptional(iItem, iTrial, "path", Severity::Warning, name, "on any other the configuration fails here",
+                    oFindings);
+    return name;
 }
 
 void AddOptional(const SourceItem& iItem, const Trial& iTrial, const char* iKey, Severity iSeverity,

@@ -19,21 +19,21 @@ namespace
 bool IsPathNowhere(const TrialFinding& iOne)
 {
     return iOne.finding.kind == FindingKind::PathNowhere && iOne.finding.key == "path" &&
-           iOne.finding.severity != Severity::Note;
+           iOne.finding.severity != Severity::Note && !iOne.isMisspelt;
 }
 
 /// Where a configuration names little of what an object has, it is not its paths that are wrong, but that it is applied
-/// there.
-void BlameReference(const SourceItem& iOrigin, const SourceConfiguration& iConfiguration, const ObjectPlace& iPlace,
-                    TrialFindings& ioFindings)
+/// there. @param iFewest paths that must lead nowhere @return whether that is so
+bool BlameReference(const SourceItem& iOrigin, const SourceConfiguration& iConfiguration, const ObjectPlace& iPlace,
+                    std::ptrdiff_t iFewest, TrialFindings& ioFindings)
 {
     const std::vector<SourceItem> items = ItemsOf(iConfiguration);
     const auto wanted = std::count_if(items.begin(), items.end(), [](const SourceItem& iItem) {
         return iItem.role != ItemRole::Choice && !iItem.Text("path").empty();
     });
     const auto astray = std::count_if(ioFindings.begin(), ioFindings.end(), IsPathNowhere);
-    if (astray < 2 || astray * 3 < wanted * 2)
-        return;
+    if (astray < iFewest || astray * 3 < wanted * 2)
+        return false;
     const auto first = std::find_if(ioFindings.begin(), ioFindings.end(), IsPathNowhere);
     Finding blamed = FindingAt(iOrigin, "config", FindingKind::PathNowhere, first->finding.severity,
                                Quoted(iConfiguration.name) + " is hardly meant for " + iPlace.Shown() + ": of " +
@@ -44,6 +44,7 @@ void BlameReference(const SourceItem& iOrigin, const SourceConfiguration& iConfi
             blamed.related.push_back({one.finding.file, one.finding.position.line});
     ioFindings.erase(std::remove_if(ioFindings.begin(), ioFindings.end(), IsPathNowhere), ioFindings.end());
     ioFindings.push_back({std::move(blamed)});
+    return true;
 }
 } // namespace
 
@@ -54,7 +55,11 @@ void TypedCheck::Check(const CatalogSource& iCatalogs)
     CheckTypeNames();
     CheckCatalogStartups(iCatalogs, m_objects, m_run);
     for (const VYRStandalone::MeantConfiguration& meant : VYRStandalone::MeantConfigurations())
-        Put(meant.configuration, {nullptr, {meant.type}, false, false});
+    {
+        const auto other = m_run.meantByCatalogs.find(meant.configuration);
+        Put(other != m_run.meantByCatalogs.end() ? other->second : meant.configuration,
+            {nullptr, {meant.type}, false, false});
+    }
     WorkOff();
     SpreadUnclear();
     // What files that are missing would lead to is not known.
@@ -77,10 +82,26 @@ void TypedCheck::WorkOff()
     {
         const Task task = m_tasks.front();
         m_tasks.pop_front();
+        const std::size_t tasks = m_tasks.size();
         TrialFindings findings = Try(task);
-        if (task.origin)
-            BlameReference(*task.origin, *task.configuration, task.place, findings);
-        Report(std::move(findings));
+        const bool isBlamed = task.origin && BlameReference(*task.origin, *task.configuration, task.place,
+                                                            task.isSupposed ? 1 : 2, findings);
+        // Then this is not what was meant by what is misspelt.
+        if (isBlamed && task.isSupposed)
+            TakeBack(tasks);
+        else
+            Report(std::move(findings));
+    }
+}
+
+/// Forgets all tasks but the first ones.
+void TypedCheck::TakeBack(std::size_t iTasks)
+{
+    for (; m_tasks.size() > iTasks; m_tasks.pop_back())
+    {
+        const Task& task = m_tasks.back();
+        m_run.unclear.insert(task.configuration->name);
+        m_known.erase({task.configuration, task.place.type, task.place.path});
     }
 }
 
@@ -188,7 +209,7 @@ void TypedCheck::TryItems(const Task& iTask, const Trial& iTrial, TrialFindings&
             isSpoilt = TryChoice(item, iTrial, oFindings) || isSpoilt;
             isBroken = isBroken || IsBrokenChoice(item, oFindings.size() != found);
         }
-        else if (Refers(item.role) && (isBroken || HasWrongKey(item.value)))
+        else if (Refers(item.role) && isBroken)
             m_run.unclear.emplace(item.Text("config"));
         else
             TryItem(item, iTrial, oFindings);
@@ -217,6 +238,19 @@ void TypedCheck::TryItem(const SourceItem& iItem, const Trial& iTrial, TrialFind
         TryValues(iItem, iTrial, oFindings);
     else if (Refers(iItem.role))
         TryReference(iItem, iTrial, oFindings);
+    else if (iItem.value.Is(SourceValue::Kind::Object))
+        TryPathAlone(iItem, iTrial, oFindings);
+}
+
+/// Of an item that does nothing, or not what is written, for a mistake that is told.
+void TypedCheck::TryPathAlone(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings)
+{
+    PathWalk walk(iTrial.object, iTrial.place);
+    if (!iItem.Text("condition").empty())
+        TryCondition(iItem, iTrial, walk, oFindings);
+    const std::string path(iItem.Text("path"));
+    for (const PathEnd& end : walk.Follow(path))
+        AddMissteps(iItem, iTrial, "path", path, end.missteps, oFindings);
 }
 
 void TypedCheck::TryReference(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings)
@@ -226,8 +260,8 @@ void TypedCheck::TryReference(const SourceItem& iItem, const Trial& iTrial, Tria
     const std::size_t found = oFindings.size();
     Guard guard = iItem.role == ItemRole::Conditional ? TryCondition(iItem, iTrial, walk, oFindings) : Guard::Clear;
     // Under which condition it is to be applied is not known. One that is empty is told already.
-    if (iItem.role == ItemRole::Nested && iItem.value.Has("condition"))
-        guard = Guard::Odd;
+    if (HasWrongKey(iItem.value) || (iItem.role == ItemRole::Nested && iItem.value.Has("condition")))
+        guard = guard == Guard::None ? guard : Guard::Odd;
     else if (m_presentData.Try(iItem, iTrial, oFindings))
         guard = Guard::Odd;
     // What such a path was to lead to is not known.
@@ -239,10 +273,11 @@ void TypedCheck::TryReference(const SourceItem& iItem, const Trial& iTrial, Tria
         m_followsReferences = follows;
     }
     const bool isClear = guard == Guard::Clear && EndOfNames(path) == path.size();
-    const bool leadsNowhere = std::any_of(
-        oFindings.begin() + static_cast<std::ptrdiff_t>(found), oFindings.end(), [](const TrialFinding& iOne) {
-            return iOne.finding.kind == FindingKind::PathNowhere && iOne.finding.severity != Severity::Note;
-        });
+    const bool leadsNowhere = std::any_of(oFindings.begin() + static_cast<std::ptrdiff_t>(found), oFindings.end(),
+                                          [](const TrialFinding& iOne) {
+                                              return iOne.finding.kind == FindingKind::PathNowhere &&
+                                                     iOne.finding.severity != Severity::Note && !iOne.isMisspelt;
+                                          });
     if (!isClear || leadsNowhere)
         m_run.unclear.emplace(iItem.Text("config"));
 }
@@ -261,8 +296,7 @@ void TypedCheck::ReportPresentData()
 TypedCheck::Guard TypedCheck::TryCondition(const SourceItem& iItem, const Trial& iTrial, PathWalk& ioWalk,
                                            TrialFindings& oFindings)
 {
-    const std::string text(iItem.Text("condition"));
-    const std::optional<ConditionText> parts = PartsOf(text);
+    std::optional<ConditionText> parts = PartsOf(iItem.Text("condition"));
     if (!parts)
         return Guard::None;
     // Such a path is told already.
@@ -270,13 +304,13 @@ TypedCheck::Guard TypedCheck::TryCondition(const SourceItem& iItem, const Trial&
         EndOfNames(parts->path) != parts->path.size())
         return Guard::None;
     const PathEnd end = ioWalk.Follow(parts->path).front();
+    AddMissteps(iItem, iTrial, "condition", parts->path, end.missteps, oFindings);
     if (end.kind == PathEnd::Kind::Nowhere)
-    {
-        AddNowhere(iItem, iTrial, "condition", parts->path, end, oFindings);
         return Guard::None;
-    }
     if (end.kind == PathEnd::Kind::Open)
         return Guard::Clear;
+    if (!end.missteps.empty())
+        parts->path = MeantPath(parts->path, end.missteps);
     if (!end.optional.empty())
         AddOptional(iItem, iTrial, "condition", Severity::Note, end.optional, "on any other the condition never holds",
                     oFindings);
@@ -288,44 +322,71 @@ TypedCheck::Guard TypedCheck::TryCondition(const SourceItem& iItem, const Trial&
         return Guard::Clear;
     if (!isMeant)
         return Guard::Odd;
-    ioWalk.Restrict(owner, *parts, text);
+    ioWalk.Restrict(owner, *parts);
     return Guard::Clear;
 }
 
 void TypedCheck::TryTarget(const SourceItem& iItem, const Trial& iTrial, const PathEnd& iEnd, TrialFindings& oFindings)
 {
     const std::string path(iItem.Text("path"));
-    if (iEnd.kind != PathEnd::Kind::Nowhere && !iEnd.optional.empty())
-        AddOptional(iItem, iTrial, "path", Severity::Note, iEnd.optional, "on any other nothing is applied", oFindings);
+    const bool isSupposed = !iEnd.missteps.empty();
+    AddMissteps(iItem, iTrial, "path", path, iEnd.missteps, oFindings);
     if (iEnd.kind == PathEnd::Kind::Nowhere)
-        AddNowhere(iItem, iTrial, "path", path, iEnd, oFindings);
-    else if (iEnd.kind == PathEnd::Kind::Attribute)
+        return;
+    if (!iEnd.optional.empty())
+    {
+        AddOptional(iItem, iTrial, "path", Severity::Note, iEnd.optional, "on any other nothing is applied", oFindings);
+        oFindings.back().finding.isBehind = isSupposed;
+    }
+    const bool isObject = iEnd.kind == PathEnd::Kind::Object;
+    const bool hasDefaults = isObject && !!VYRIMpaDefaultManagementProtected_var(iEnd.access.Self());
+    if (hasDefaults && m_followsReferences)
+        Put(iItem.Text("config"),
+            {nullptr, iEnd.place, iTrial.isGuessed, iTrial.isConditional || iItem.role == ItemRole::Conditional, iItem,
+             isSupposed || m_run.meant.HasOtherText(iItem.configuration, iItem.number, "config")});
+    // Where what is misspelt leads to nothing of use, something else was meant.
+    if (isSupposed)
+        return;
+    if (iEnd.kind == PathEnd::Kind::Attribute)
         oFindings.push_back({FindingAt(iItem, "path", FindingKind::PathNowhere, iTrial.Worst(),
                                        Quoted(path) + " leads to an attribute and to no object " + iTrial.Where() +
                                            ": the configuration would be applied to the object that has it")});
-    else if (iEnd.kind == PathEnd::Kind::Object && !VYRIMpaDefaultManagementProtected_var(iEnd.access.Self()))
+    else if (isObject && !hasDefaults)
         oFindings.push_back({FindingAt(iItem, "path", FindingKind::PathNowhere, iTrial.Worst(),
                                        Quoted(path) + " leads to an object that cannot be configured " +
                                            iTrial.Where() + ": a " + Quoted(iEnd.access.GetType().View()))});
-    else if (iEnd.kind == PathEnd::Kind::Object && m_followsReferences)
-        Put(iItem.Text("config"), {nullptr, iEnd.place, iTrial.isGuessed,
-                                   iTrial.isConditional || iItem.role == ItemRole::Conditional, iItem});
 }
 
 void TypedCheck::CheckTypeNames()
 {
     for (const SourceConfiguration& configuration : m_run.source.Configurations())
         for (const SourceItem& item : ItemsOf(configuration))
-        {
-            if (item.role != ItemRole::Choice || !item.value.Has("Startups"))
-                continue;
-            const MeantLists lists = MeantListsOf(item);
-            for (const std::string& startup : SplitTexts(lists.startups))
-                if (!startup.empty() && !IsKnownType(startup))
-                    m_run.Add(FindingAt(item, lists.startupsKey, FindingKind::UnknownType, Severity::Error,
-                                        "the startup " + Quoted(startup) + " is no type of the catalogs"),
-                              startup, KnownTypes());
-        }
+            if (item.role == ItemRole::Choice && item.value.Has("Startups"))
+                CheckTypeNames(item);
+}
+
+void TypedCheck::CheckTypeNames(const SourceItem& iItem)
+{
+    const MeantLists lists = MeantListsOf(iItem);
+    std::vector<std::string> startups = SplitTexts(lists.startups);
+    bool isMisspelt = false;
+    for (std::string& startup : startups)
+    {
+        if (startup.empty() || IsKnownType(startup))
+            continue;
+        m_run.Add(FindingAt(iItem, lists.startupsKey, FindingKind::UnknownType, Severity::Error,
+                            "the startup " + Quoted(startup) + " is no type of the catalogs"),
+                  startup, KnownTypes());
+        const std::string meant = m_run.suggestions.OnlySlipOf(startup, KnownTypes());
+        isMisspelt = isMisspelt || !meant.empty();
+        startup = meant.empty() ? startup : meant;
+    }
+    if (!isMisspelt || !lists.findings.empty())
+        return;
+    std::string text;
+    for (const std::string& startup : startups)
+        text += (text.empty() && &startup == &startups.front() ? "" : ", ") + startup;
+    m_run.meant.SetText(iItem, "Startups", std::move(text));
 }
 
 void TypedCheck::Report(TrialFindings iFindings)
@@ -334,6 +395,10 @@ void TypedCheck::Report(TrialFindings iFindings)
     {
         if (one.replaced)
             m_run.findings.Remove(*one.replaced);
+        const Finding& finding = one.finding;
+        one.finding.isBehind =
+            finding.isBehind || (finding.configuration != nullptr &&
+                                 m_run.meant.HasOtherText(*finding.configuration, finding.item, finding.key));
         if (m_run.findings.Has(one.finding))
             m_run.findings.Raise(one.finding);
         else

@@ -40,8 +40,11 @@ private:
         bool isConditional;
         /// The item that leads there; nothing for what a catalog says.
         std::optional<SourceItem> origin{};
+        /// Something misspelt leads there, so that it may have been meant for something else.
+        bool isSupposed = false;
     };
 
+    void TakeBack(std::size_t iTasks);
     void Put(std::string_view iConfiguration, Task iTask);
     void WorkOff();
     void GuessRest();
@@ -51,6 +54,7 @@ private:
     void TryItems(const Task& iTask, const Trial& iTrial, TrialFindings& oFindings);
     bool IsBrokenChoice(const SourceItem& iItem, bool iHasFailed) const;
     void TryItem(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
+    void TryPathAlone(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
     void TryReference(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
     enum class Guard
     {
@@ -64,6 +68,7 @@ private:
     Guard TryCondition(const SourceItem& iItem, const Trial& iTrial, PathWalk& ioWalk, TrialFindings& oFindings);
     void TryTarget(const SourceItem& iItem, const Trial& iTrial, const PathEnd& iEnd, TrialFindings& oFindings);
     void CheckTypeNames();
+    void CheckTypeNames(const SourceItem& iItem);
     void ReportPresentData();
     void Report(TrialFindings iFindings);
 

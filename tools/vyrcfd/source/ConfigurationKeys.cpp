@@ -43,6 +43,15 @@ const KindsByKey& ItemKeys()
     return keys;
 }
 
+std::vector<std::string> NamesOf(const KindsByKey& iKeys)
+{
+    std::vector<std::string> names;
+    for (const auto& [name, kind] : iKeys)
+        if (name != "$schema")
+            names.push_back(name);
+    return names;
+}
+
 std::string WrongKindText(const std::string& iWhat, SourceValue::Kind iWanted, const SourceValue& iValue)
 {
     return iWhat + " must be " + WantedText(iWanted) + ", not " + iValue.KindText();

@@ -8,6 +8,7 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 #include "SourceValue.h"
 
@@ -19,6 +20,9 @@ using KindsByKey = std::map<std::string, SourceValue::Kind, std::less<>>;
 const KindsByKey& FileKeys();
 const KindsByKey& ConfigurationKeys();
 const KindsByKey& ItemKeys();
+
+/// But for the one that only editors read.
+std::vector<std::string> NamesOf(const KindsByKey& iKeys);
 
 /// Such as `"list" must be true or false, not a text`.
 std::string WrongKindText(const std::string& iWhat, SourceValue::Kind iWanted, const SourceValue& iValue);

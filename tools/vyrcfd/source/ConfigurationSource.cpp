@@ -1,5 +1,6 @@
 #include "ConfigurationSource.h"
 
+#include <cstdint>
 #include <filesystem>
 
 #include "ConfigurationKeys.h"
@@ -33,6 +34,16 @@ UnreadableFile Missing(const std::string& iName, const Installation& iInstallati
     const std::string relative = RelativePath(iName);
     const std::string why = "no such file in the installation " + OneLine(iInstallation.Path());
     return {ConfigurationFolder(iInstallation.Folders().front()) + iName, {}, why, true, relative + ": " + why};
+}
+
+/// Where the engine's reader gives up without a word. What is no file has no size, and is told by whoever reads it.
+void RefuseTooLarge(const std::string& iPath)
+{
+    constexpr std::uintmax_t Most = std::uintmax_t{512} << 20U;
+    std::error_code none;
+    const std::uintmax_t size = std::filesystem::file_size(iPath, none);
+    if (!none && size > Most)
+        throw VYRStandalone::DocumentError(iPath, "", "is too large: the engine reads no file above 512 MB");
 }
 
 UnreadableFile Unread(const std::string& iPath, const VYRStandalone::DocumentError& iError)
@@ -104,12 +115,15 @@ void ConfigurationSource::Read(const std::string& iPath)
 {
     try
     {
+        RefuseTooLarge(iPath);
         SourceFile file(iPath);
         const SourceValue& root = file.Root();
         if (!root.Is(SourceValue::Kind::Object))
             throw VYRStandalone::DocumentError(iPath, root.position.line, root.position.column,
                                                WrongKindText("a configuration file", SourceValue::Kind::Object, root));
-        Add(m_files.emplace_back(std::move(file)));
+        m_files.push_back(std::move(file));
+        for (const SourceValue* value : m_files.back().Root().ElementsOf("configurations"))
+            Add(m_files.back(), *value, value->ElementsOf("config"));
     }
     catch (const VYRStandalone::DocumentError& error)
     {
@@ -117,21 +131,27 @@ void ConfigurationSource::Read(const std::string& iPath)
     }
 }
 
-void ConfigurationSource::Add(const SourceFile& iFile)
+void ConfigurationSource::Add(const SourceFile& iFile, const SourceValue& iDefinition,
+                              const std::vector<const SourceValue*>& iItems)
 {
-    for (const SourceValue* value : iFile.Root().ElementsOf("configurations"))
-    {
-        SourceConfiguration& configuration = m_configurations.emplace_back();
-        configuration.name = value->TextOf("name");
-        configuration.file = &iFile;
-        const SourceMember* name = value->Find("name");
-        configuration.position = name != nullptr ? name->value->position : value->position;
-        configuration.value = value;
-        configuration.items = value->ElementsOf("config");
-        const auto [first, isFirst] = m_byName.try_emplace(configuration.name, &configuration);
-        if (!isFirst)
-            configuration.hiddenBy = first->second;
-    }
+    const std::size_t number = m_configurations.size();
+    SourceConfiguration& configuration = m_configurations.emplace_back();
+    configuration.number = number;
+    configuration.name = iDefinition.TextOf("name");
+    configuration.file = &iFile;
+    const SourceMember* name = iDefinition.Find("name");
+    configuration.position = name != nullptr ? name->value->position : iDefinition.position;
+    configuration.value = &iDefinition;
+    configuration.items = iItems;
+    const auto [first, isFirst] = m_byName.try_emplace(configuration.name, &configuration);
+    if (!isFirst)
+        configuration.hiddenBy = first->second;
+}
+
+void ConfigurationSource::Replace(const SourceConfiguration& iConfiguration, std::size_t iNumber,
+                                  const SourceValue& iItem)
+{
+    m_configurations[iConfiguration.number].items[iNumber - 1] = &iItem;
 }
 
 const SourceConfiguration* ConfigurationSource::Find(std::string_view iName) const

@@ -32,6 +32,8 @@ struct SourceConfiguration
     std::vector<const SourceValue*> items;
     /// The earlier definition of the name, which holds in place of this one; null where this one holds.
     const SourceConfiguration* hiddenBy = nullptr;
+    /// Among all definitions, from 0.
+    std::size_t number = 0;
 };
 
 /// A file that fails the engine's load: it is missing, cannot be read, or is no JSON object.
@@ -61,6 +63,9 @@ public:
      */
     explicit ConfigurationSource(const Installation& iInstallation, Faults iFaults = Faults::Throw);
 
+    /// Without files, of which definitions are added one by one.
+    ConfigurationSource() = default;
+
     ConfigurationSource(const ConfigurationSource&) = delete;
     ConfigurationSource& operator=(const ConfigurationSource&) = delete;
 
@@ -74,10 +79,13 @@ public:
     /// The definition that holds; borrowed, null for an unknown name.
     const SourceConfiguration* Find(std::string_view iName) const;
 
+    /// Adds a definition behind all others. @param iItems what is taken for its items
+    void Add(const SourceFile& iFile, const SourceValue& iDefinition, const std::vector<const SourceValue*>& iItems);
+    /// From now on something else is taken for an item. @param iNumber from 1
+    void Replace(const SourceConfiguration& iConfiguration, std::size_t iNumber, const SourceValue& iItem);
+
 private:
     void Read(const std::string& iPath);
-    void Add(const SourceFile& iFile);
-
     std::vector<std::string> m_paths;
     std::vector<UnreadableFile> m_unreadable;
     std::deque<SourceFile> m_files;
