@@ -349,7 +349,8 @@ const FailingScript FailingCases[] = {
     {"IntegerWithAnExponent", Small, "set Case.1/iterations 1e3", "\"Case.1/iterations\": \"1e3\" is no integer"},
     {"DefaultWithTextBehind", Small, "default Case.1/iterations 7xyz", "\"Case.1/iterations\": \"7xyz\" is no integer"},
     {"TestOfNoCondition", Small, "test Case.1 title", "Bad condition: title"},
-    {"TestWithoutObject", Small, "test iterations>5", "no top-level object \"iterations>5\""},
+    {"TestWithoutObject", Small, "test iterations>5",
+     "no top-level object \"iterations>5\"; there are \"ConfigItem\", \"Case.1\", \"Mesh\" and \"list\""},
     {"ApplyOfNothing", Flow, "apply Flow.1 turbulents",
      "no configuration \"turbulents\"; did you mean \"turbulent\"?\n"
      "failed call: GetConfigurationObject(iConfigName, configObjectJSON) in VYRCfdConfigurator::ApplyConfiguration, "
@@ -368,7 +369,7 @@ const FailingScript FailingCases[] = {
      "\"Case.1/scheme\": \"Upwind\" is none of \"upwind\", \"central\"; did you mean \"upwind\"?"},
     {"SetOfList", Small, "set Case.1/monitors lift",
      "\"Case.1/monitors\" is a list of string, which is changed by insert and delete"},
-    {"SetOfReference", Small, "set Case.1/mesh Mash", "no top-level object \"Mash\""},
+    {"SetOfReference", Small, "set Case.1/mesh Mash", "no top-level object \"Mash\"; did you mean \"Mesh\"?"},
     {"SetOfReferenceToAttribute", Small, "set Case.1/mesh Mesh/cells", "\"Mesh/cells\" is an attribute, no object"},
     {"SetOfComponentToItsOwner", Small, "set Case.1/spare Case.1", "\"Case.1/spare\" did not take \"Case.1\""},
     {"SetOfDefaultManagement", Small, "set Case.1/defaultManagement Mesh",
@@ -389,7 +390,7 @@ const FailingScript FailingCases[] = {
     {"ChoicesOfNoChoice", Flow, "choices Flow.1", "\"Flow.1\" is no Choice, but of type Flow"},
     {"ChooseOfNoChoice", Flow, "choose Flow.1 direct", "\"Flow.1\" is no Choice, but of type Flow"},
     {"ChooseOfNotOffered", Flow, "choose Flow.1/solver \"conjugate gradient\"",
-     "\"conjugate gradient\" is none of the choices of \"Flow.1/solver\""},
+     "\"conjugate gradient\" is none of the choices of \"Flow.1/solver\"; there are \"direct\" and \"gmres\""},
     {"ChooseMisspelt", Flow, "choose Flow.1/solver gmress",
      "\"gmress\" is none of the choices of \"Flow.1/solver\"; did you mean \"gmres\"?"},
     {"ProhibitWithoutManager", Flow, "prohibit Flow.1/energy on",

@@ -135,7 +135,7 @@ TEST_F(ShellJsonTest, Failures_AreAnsweredToo_AndNamedOnStandardErrorWithTheirPl
     const std::string told =
         "stdin:1: \"Mesh\" has no default management, and cannot be configured\n"
         "assertion: spDefMgmt != NULL_var in VYRCfdConfigurator::ApplyConfiguration, status 0x80004005\n";
-    const std::string answer = Line("apply Mesh cavity", "[]", Said("failure", why) + ", " + assertion, "failed");
+    const std::string answer = Line("apply Mesh cavity", "null", Said("failure", why) + ", " + assertion, "failed");
     const ToolRun stopped = Json(Small, script);
     EXPECT_EQ(Outcome(stopped), Outcome(1, told));
     EXPECT_EQ(stopped.output, answer);
@@ -156,9 +156,12 @@ TEST_F(ShellJsonTest, Terminal_AnswersInJsonToo)
     ToolRun run = Run({"shell", Small, "--json"}, settings);
     std::erase(run.output, '\r');
     EXPECT_EQ(Outcome(run), Outcome(0, ""));
-    EXPECT_EQ(run.output,
-              "vyrcfd> get Case.1/relaxation\n" + Line("get Case.1/relaxation", "0.5") + "vyrcfd> get nothing\n" +
-                  Line("get nothing", "null", Said("failure", "no top-level object \\\"nothing\\\""), "failed") +
-                  "vyrcfd> \n");
+    EXPECT_EQ(run.output, "vyrcfd> get Case.1/relaxation\n" + Line("get Case.1/relaxation", "0.5") +
+                              "vyrcfd> get nothing\n" +
+                              Line("get nothing", "null",
+                                   Said("failure", "no top-level object \\\"nothing\\\"; there are \\\"ConfigItem\\\", "
+                                                   "\\\"Case.1\\\", \\\"Mesh\\\" and \\\"list\\\""),
+                                   "failed") +
+                              "vyrcfd> \n");
 }
 } // namespace

@@ -16,7 +16,10 @@ TEST_F(ShellTest, Script_PassesOverCommentsAndEmptyLines)
                                       "  get\tCase.1/iterations\t\n"
                                       "get Case.1/note#not\n");
     // In the middle of a word it is a character like others.
-    EXPECT_EQ(Outcome(run), Outcome(1, "stdin:6: \"Case.1/note#not\" leads nowhere: No attribute note#not\n"));
+    EXPECT_EQ(Outcome(run),
+              Outcome(1, "stdin:6: \"Case.1/note#not\" leads nowhere: No attribute note#not; there are \"title\", "
+                         "\"note\", \"author\", \"relaxation\", \"tolerance\", \"iterations\", \"scheme\", \"steady\", "
+                         "\"monitors\", \"weights\", \"order\", \"probe\" and 5 more\n"));
     EXPECT_EQ(run.output, "0.5\n500\n");
 }
 
@@ -148,7 +151,10 @@ TEST_F(ShellTest, ScriptFile_IsRunInPlaceOfStandardInput_AndNamedWithItsLine)
     ToolSettings settings;
     settings.input = "get Case.1/iterations\n";
     const ToolRun run = Run({"shell", Small, "-f", "script.txt"}, settings);
-    EXPECT_EQ(Outcome(run), Outcome(1, "script.txt:3: \"Case.1/nothing\" leads nowhere: No attribute nothing\n"));
+    EXPECT_EQ(Outcome(run),
+              Outcome(1, "script.txt:3: \"Case.1/nothing\" leads nowhere: No attribute nothing; there are \"title\", "
+                         "\"note\", \"author\", \"relaxation\", \"tolerance\", \"iterations\", \"scheme\", \"steady\", "
+                         "\"monitors\", \"weights\", \"order\", \"probe\" and 5 more\n"));
     EXPECT_EQ(run.output, "0.5\n");
 }
 
@@ -172,7 +178,8 @@ TEST_F(ShellTest, KeepGoing_GoesOnBehindFailures_AndCountsThem)
                         "save\n");
     const ToolRun run = Run({"shell", Small, "-f", "script.txt", "--keep-going"});
     EXPECT_EQ(Outcome(run),
-              Outcome(1, "script.txt:1: no top-level object \"nothing\"\n"
+              Outcome(1, "script.txt:1: no top-level object \"nothing\"; there are \"ConfigItem\", \"Case.1\", "
+                         "\"Mesh\" and \"list\"\n"
                          "script.txt:3: \"Mesh\" has no default management, and cannot be configured\n"
                          "assertion: spDefMgmt != NULL_var in VYRCfdConfigurator::ApplyConfiguration, status "
                          "0x80004005\n"

@@ -38,10 +38,11 @@ TEST_F(ShellTest, Terminal_GoesOnAfterAFailure_AndTellsNoLine)
 {
     const ToolRun run = Session(Small, {"get nothing\r", "apply Mesh cavity\r", "get Case.1/relaxation\r", "errors\r"});
     EXPECT_EQ(Outcome(run),
-              Outcome(0, "no top-level object \"nothing\"\n"
-                         "\"Mesh\" has no default management, and cannot be configured\n"
-                         "assertion: spDefMgmt != NULL_var in VYRCfdConfigurator::ApplyConfiguration, status "
-                         "0x80004005\n"));
+              Outcome(0,
+                      "no top-level object \"nothing\"; there are \"ConfigItem\", \"Case.1\", \"Mesh\" and \"list\"\n"
+                      "\"Mesh\" has no default management, and cannot be configured\n"
+                      "assertion: spDefMgmt != NULL_var in VYRCfdConfigurator::ApplyConfiguration, status "
+                      "0x80004005\n"));
     EXPECT_TRUE(Contains(run.output, "\n0.5\n"));
     EXPECT_TRUE(Contains(run.output, "\nassertion: spDefMgmt != NULL_var"));
 }

@@ -132,12 +132,25 @@ struct Start
     int terminal;
 };
 
+/// Fills a pipe whose writer has ended when somebody reads it.
+void PipeIn(const std::string& iText)
+{
+    int ends[2] = {-1, -1};
+    if (pipe(ends) != 0 || write(ends[1], iText.data(), iText.size()) != static_cast<ssize_t>(iText.size()))
+        _exit(126);
+    close(ends[1]);
+    dup2(ends[0], STDIN_FILENO);
+    close(ends[0]);
+}
+
 /// In the new process.
 [[noreturn]] void Become(const Start& iStart)
 {
     if (chdir(iStart.settings.folder.c_str()) != 0)
         _exit(126);
-    if (iStart.settings.typed.empty())
+    if (iStart.settings.pipedInput)
+        PipeIn(iStart.settings.input);
+    else if (iStart.settings.typed.empty())
         Redirect(STDIN_FILENO, iStart.input, O_RDONLY);
     else
         dup2(iStart.terminal, STDIN_FILENO);

@@ -38,6 +38,8 @@ struct ToolSettings
     bool terminal = false;
     /// What stands on standard input.
     std::string input;
+    /// It comes through a pipe, and not from a file: less than the 64 kB that a pipe holds.
+    bool pipedInput = false;
     /// Keys that somebody types: standard input and standard output are a terminal, and each text is typed at a prompt,
     /// one after the other. At a prompt for which nothing is left, Ctrl-D is.
     std::vector<std::string> typed;

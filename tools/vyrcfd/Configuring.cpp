@@ -18,7 +18,11 @@ std::string Why(const ORXISpecObject_var& iObject, const Configuring& iConfiguri
     const std::vector<std::string>& known = iConfiguring.known;
     const bool hasFile = !iConfiguring.file.empty();
     if (std::find(known.begin(), known.end(), name) == known.end())
-        return (hasFile ? "vyrcfd: no configuration " : "no configuration ") + Quoted(name) + DidYouMean(name, known);
+    {
+        const std::string meant = DidYouMean(name, known);
+        return (hasFile ? "vyrcfd: no configuration " : "no configuration ") + Quoted(name) +
+               (meant.empty() ? "; see vyrcfd list" : meant);
+    }
     const std::string file = hasFile ? OneLine(iConfiguring.file) + ": " : "";
     if (!VYRIMpaDefaultManagementProtected_var(iObject))
         return file + Quoted(iConfiguring.object) + " has no default management, and cannot be configured";

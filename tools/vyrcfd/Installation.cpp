@@ -5,6 +5,7 @@
 
 #include "ChoiceManager.h"
 #include "Failure.h"
+#include "InputFile.h"
 #include "ORXEnvironment.h"
 #include "Progress.h"
 #include "VYRStandaloneCatalog.h"
@@ -57,11 +58,20 @@ Installation::Installation(const CommonOptions& iOptions) : m_path(ChosenPath(iO
     VYRStandalone::SetOfficialVariable(PathVariable, m_path);
 }
 
+void Installation::LoadCatalogs() const
+{
+    for (const std::string& catalog : m_catalogs)
+    {
+        AdmitInput(catalog);
+        VYRStandalone::LoadCatalog(catalog, m_catalogFolders);
+    }
+}
+
 VYRStandalone::Model Installation::LoadModel(const std::string& iFile) const
 {
+    AdmitInput(iFile);
     const Progress progress("Loading " + OneLine(iFile));
-    for (const std::string& catalog : m_catalogs)
-        VYRStandalone::LoadCatalog(catalog, m_catalogFolders);
+    LoadCatalogs();
     VYRStandalone::Model model = VYRStandalone::Model::Load(iFile, m_catalogFolders);
     // Now that all types are declared, and before anything is asked of an object.
     ChoiceManager::Register();

@@ -36,6 +36,9 @@ public:
     /// At least one, in their order.
     const std::vector<std::string>& Folders() const noexcept { return m_folders; }
 
+    /// Declares the catalogs of the options. @throws VYRStandalone::DocumentError
+    void LoadCatalogs() const;
+
     /// The catalogs of the options are declared, and those that the model names are sought beside it and in the
     /// installation. Types that ask for a manager of Choices get the tool's. @throws VYRStandalone::DocumentError
     VYRStandalone::Model LoadModel(const std::string& iFile) const;

@@ -84,7 +84,9 @@ void AddListCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
         "\n\nExample:\n    vyrcfd --installation samples list");
     command->callback([&ioOptions, &oJob] {
         oJob = [&ioOptions] {
-            const std::vector<ConfigurationFile> files = ReadConfigurationFiles(Installation(ioOptions));
+            const Installation installation(ioOptions);
+            installation.LoadCatalogs();
+            const std::vector<ConfigurationFile> files = ReadConfigurationFiles(installation);
             if (const std::string note = OddityNote(files); !note.empty())
                 PrintError(note);
             Print(ioOptions.json ? ListJson(files) : ListText(files));

@@ -19,14 +19,33 @@ const char ObjectPathHelp[] =
 
 namespace
 {
-std::vector<std::string> KnownNames(const VYRStandalone::Model& iModel)
+/// By which paths can begin with an object: its display name and its name, or else its type.
+std::vector<std::string> NamesOf(const ORXISpecObject_var& iObject)
 {
     std::vector<std::string> names;
-    for (const ORXISpecObject_var& object : iModel.Objects())
-        for (const std::string& name : {TextOf(object->GetName()), AliasOf(object)})
-            if (!name.empty())
-                names.push_back(name);
+    for (const std::string& name : {AliasOf(iObject), TextOf(iObject->GetName())})
+        if (!name.empty() && name.find('/') == std::string::npos)
+            names.push_back(name);
+    if (names.empty())
+        names.push_back(TextOf(iObject->GetType()));
     return names;
+}
+
+/// What to name in place of an object that is not there.
+std::string InPlaceOf(std::string_view iName, const VYRStandalone::Model& iModel)
+{
+    std::vector<std::string> known;
+    std::vector<std::string> first;
+    for (const ORXISpecObject_var& object : iModel.Objects())
+    {
+        const std::vector<std::string> names = NamesOf(object);
+        known.insert(known.end(), names.rbegin(), names.rend());
+        first.push_back(names.back());
+    }
+    const std::string meant = DidYouMean(iName, known);
+    if (!meant.empty())
+        return meant;
+    return iModel.Objects().empty() ? "; the model has no objects" : ThereAre(first);
 }
 
 [[noreturn]] void Fail(const std::string& iFile, const std::string& iMessage)
@@ -68,7 +87,7 @@ Target FollowPath(const VYRStandalone::Model& iModel, const std::string& iFile, 
     VYRCfdObjectAccess::SplitPath(ORXUnicodeString(iPath.data(), iPath.size()), head, rest);
     const ORXISpecObject_var spObject = head.IsEmpty() ? ORXISpecObject_var() : iModel.Find(head);
     if (!spObject)
-        Fail(iFile, "no top-level object " + Quoted(head.View()) + DidYouMean(head.View(), KnownNames(iModel)));
+        Fail(iFile, "no top-level object " + Quoted(head.View()) + InPlaceOf(head.View(), iModel));
 
     const VYRCfdObjectAccess access = Walk(spObject, rest, iFile, iPath);
     const ORXISpecObject_var spTarget = access.Self();

@@ -29,6 +29,16 @@ ORXISpecAttrKey_var KeyNamed(const VYRCfdObjectAccess& iFrom, const std::string&
     return ORXISpecAttrKey_var::Adopt(iFrom.Access()->GetAttrKey(ORXUnicodeString(iName.data(), iName.size())));
 }
 
+/// What to name in place of what is not there. Nobody looks for the default management who does not name it.
+std::string Instead(const std::string& iName, std::vector<std::string> iKnown)
+{
+    const std::string meant = DidYouMean(iName, iKnown);
+    if (!meant.empty())
+        return meant;
+    std::erase(iKnown, "defaultManagement");
+    return ThereAre(iKnown);
+}
+
 /// What a Choice has; empty for any other object.
 std::string ValueOf(const VYRCfdObjectAccess& iObject)
 {
@@ -87,7 +97,7 @@ std::string WhyNowhere(const VYRCfdObjectAccess& iStart, const ORXUnicodeString&
         {
             // What is there and leads nowhere all the same is not misspelt.
             const bool isThere = !IsAttribute(cursor) && (!!KeyNamed(cursor, name) || ValueOf(cursor) == name);
-            return isThere ? why : why + DidYouMean(name, NamesFrom(cursor));
+            return isThere ? why : why + Instead(name, NamesFrom(cursor));
         }
         cursor = cursor.Get(head);
         rest = tail;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <numeric>
+#include <set>
 
 namespace Tool
 {
@@ -191,5 +192,30 @@ std::string DidYouMean(std::string_view iUnknown, const std::vector<std::string>
 {
     const std::string nearest = Nearest(iUnknown, iKnown);
     return nearest.empty() ? nearest : "; did you mean " + Quoted(nearest) + "?";
+}
+
+std::string ThereAre(const std::vector<std::string>& iKnown)
+{
+    constexpr std::size_t MostNamed = 12;
+    std::set<std::string_view> seen;
+    std::vector<std::string_view> names;
+    for (const std::string& known : iKnown)
+        if (seen.insert(known).second)
+            names.push_back(known);
+    std::string list;
+    for (std::size_t i = 0; i < std::min(names.size(), MostNamed); ++i)
+    {
+        const bool isLast = i > 0 && i + 1 == names.size();
+        list += (i == 0 ? "" : isLast ? " and " : ", ") + Quoted(names[i]);
+    }
+    if (names.size() > MostNamed)
+        list += " and " + std::to_string(names.size() - MostNamed) + " more";
+    return names.empty() ? list : std::string("; there ") + (names.size() == 1 ? "is " : "are ") + list;
+}
+
+std::string DidYouMeanOneOf(std::string_view iUnknown, const std::vector<std::string>& iKnown)
+{
+    const std::string meant = DidYouMean(iUnknown, iKnown);
+    return meant.empty() ? ThereAre(iKnown) : meant;
 }
 } // namespace Tool

@@ -38,6 +38,13 @@ bool IsSlip(std::string_view iUnknown, std::string_view iKnown);
 /// What to say behind an unknown name: the known one that it is most like, as `; did you mean "wall"?`. Empty when
 /// nothing is like it.
 std::string DidYouMean(std::string_view iUnknown, const std::vector<std::string>& iKnown);
+
+/// What to say where nothing is like it: the names that there are, each once, as `; there are "a" and "b"`, or the
+/// first dozen of them. Empty where there are none.
+std::string ThereAre(const std::vector<std::string>& iKnown);
+
+/// The known name that an unknown one is most like, else those that there are.
+std::string DidYouMeanOneOf(std::string_view iUnknown, const std::vector<std::string>& iKnown);
 } // namespace Tool
 
 #endif

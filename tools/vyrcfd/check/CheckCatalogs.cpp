@@ -10,6 +10,7 @@
 #include "ChoiceManager.h"
 #include "DocumentFault.h"
 #include "DocumentMessage.h"
+#include "InputFile.h"
 #include "JsonWriter.h"
 #include "VYRStandaloneCatalog.h"
 #include "Wording.h"
@@ -105,6 +106,7 @@ CheckCatalogs::CheckCatalogs(const Installation& iInstallation, const std::vecto
     named.insert(named.end(), iNamed.begin(), iNamed.end());
     for (const std::string& file : named)
         Declared(file, [&] {
+            AdmitInput(file);
             VYRStandalone::LoadCatalog(file, folders);
             names.emplace(SourceFile(file).Root().TextOf("catalog"));
         });

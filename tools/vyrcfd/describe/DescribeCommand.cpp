@@ -18,7 +18,9 @@ struct DescribeArguments
 
 void Describe(const CommonOptions& iOptions, const DescribeArguments& iArguments)
 {
-    const ConfigurationSource source{Installation(iOptions)};
+    const Installation installation(iOptions);
+    installation.LoadCatalogs();
+    const ConfigurationSource source(installation);
     const SourceConfiguration& configuration = KnownConfiguration(source, iArguments.configuration);
     Print((iOptions.json ? DescriptionJson : DescriptionText)(configuration, source, iArguments.isNested));
 }

@@ -42,7 +42,9 @@ std::string Objection(const std::string& iFile)
 
 void RunGraph(const CommonOptions& iOptions, const GraphArguments& iArguments)
 {
-    const ConfigurationSource source{Installation(iOptions)};
+    const Installation installation(iOptions);
+    installation.LoadCatalogs();
+    const ConfigurationSource source(installation);
     GraphExtent extent;
     extent.isAll = iArguments.isAll;
     if (iArguments.isNamed)

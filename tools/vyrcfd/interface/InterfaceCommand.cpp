@@ -32,7 +32,7 @@ std::string InterfaceText(const CommandDescription& iProgram, const InterfaceArg
 }
 } // namespace
 
-void AddInterfaceCommand(CLI::App& ioApp, CommonOptions&, Job& oJob)
+void AddInterfaceCommand(CLI::App& ioApp, CommonOptions& ioOptions, Job& oJob)
 {
     CLI::App* command = ioApp.add_subcommand("interface", "Prints the manual page, or the completion of a shell");
     // For the build and for shells; not offered among what people work with.
@@ -45,7 +45,9 @@ void AddInterfaceCommand(CLI::App& ioApp, CommonOptions&, Job& oJob)
         ->check(CLI::IsMember({"man", "bash", "zsh", "fish", "complete"}));
     command->add_option("WORD", arguments->words, "Words of a command line, the last of which is to be completed");
     command->footer("Example:\n    source <(vyrcfd interface bash)");
-    command->callback([&ioApp, &oJob, arguments] {
+    command->callback([&ioApp, &ioOptions, &oJob, arguments] {
+        if (ioOptions.json)
+            throw CLI::ValidationError("--json", "what interface prints is for shells and for man, and never JSON");
         oJob = [&ioApp, arguments] { Print(InterfaceText(DescriptionOf(ioApp), *arguments)); };
     });
 }

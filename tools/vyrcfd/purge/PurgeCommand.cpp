@@ -4,6 +4,7 @@
 
 #include "Command.h"
 #include "Failure.h"
+#include "InputFile.h"
 #include "JsonWriter.h"
 #include "ModelText.h"
 #include "Output.h"
@@ -115,6 +116,8 @@ void RunPurge(const CommonOptions& iOptions, const PurgeArguments& iArguments)
 {
     const Installation installation(iOptions);
     const VYRStandalone::Model model = installation.LoadModel(iArguments.model);
+    if (iArguments.isMeant && iArguments.output.empty() && IsFromPipe(iArguments.model))
+        throw Failure(OneLine(iArguments.model) + ": is a pipe, which nothing is saved to; --output names a file");
     Purge purge{CountRecords(model), ""};
     const std::vector<UnreferencedRecord>& records = purge.census.unreferenced;
     // The model itself is left alone where there is nothing to remove; a copy that was asked for is made.

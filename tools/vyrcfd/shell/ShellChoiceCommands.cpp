@@ -122,7 +122,7 @@ void ShellChoose(ShellSession& ioSession, const ShellArguments& iArguments)
     const std::string& choice = iArguments[1];
     if (!Contains(offered, choice))
         throw Failure(Quoted(choice) + " is none of the choices of " + Quoted(iArguments[0]) +
-                      DidYouMean(choice, ToStrings(offered)));
+                      DidYouMeanOneOf(choice, ToStrings(offered)));
     ioSession.Change([&] {
         Succeed(spChoice->SetChoice(UnicodeOf(choice)), Quoted(iArguments[0]) + " did not take " + Quoted(choice));
     });

@@ -6,6 +6,7 @@
 #include "ConfigurationFiles.h"
 #include "EntryList.h"
 #include "Failure.h"
+#include "InputFile.h"
 #include "Rebase.h"
 #include "Uninterrupted.h"
 #include "Wording.h"
@@ -46,7 +47,10 @@ void ShellSession::Change(const std::function<void()>& iWork, Touches iTouches)
         failure = std::current_exception();
     }
     std::string text = TextOrPutBack();
-    const bool hasChanged = SayChanges() || text != m_text;
+    const bool saysChanges = SayChanges();
+    const bool hasChanged = saysChanges || text != m_text;
+    if (failure != nullptr && !saysChanges)
+        m_answer = {};
     if (hasChanged || (iTouches == Touches::CustomDefaults && failure == nullptr))
         m_history.Add(m_command, m_text, text);
     m_text = std::move(text);
@@ -135,6 +139,8 @@ const std::vector<std::string>& ShellSession::Configurations()
 std::string ShellSession::Save(const std::string& iFile)
 {
     const std::string& file = iFile.empty() ? m_file : iFile;
+    if (IsFromPipe(file))
+        throw Failure(OneLine(file) + ": is a pipe, which nothing is saved to; save FILE names a file");
     const Uninterrupted save(file);
     m_model.Save(file);
     m_savedText = m_text;
