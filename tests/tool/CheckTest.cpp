@@ -360,6 +360,14 @@ TEST_F(CheckTest, FilesOfAllFoldersOfAnInstallation_AreLookedAt)
               "and none of this name [ignored-file]\n");
 }
 
+TEST_F(CheckTest, AnInstallationWithoutAnyFile_IsOneError)
+{
+    fs::remove_all(m_folder.Path("installation/reffiles"));
+    const std::string expected = "1:1: error: none of the 16 configuration files is in the installation installation, "
+                                 "and the engine reads none at all [unreadable-file]\n";
+    EXPECT_EQ(FindingsIn(Check()), ":" + expected);
+}
+
 TEST_F(CheckTest, APipeInPlaceOfAFile_IsTold_AndNobodyWaitsForIt)
 {
     AddConfigurations(R"({"configurations": [{"name": "main"}]})");

@@ -39,6 +39,11 @@ struct CheckRun
     /// is said of what would follow from that.
     std::set<std::string, std::less<>> ambiguous{};
 
+    /// What the only item that applies its own configuration was probably meant to apply; empty where that is not known.
+    std::string meantInsteadOfItself{};
+    /// Items by which configurations lead back to themselves, each as its configuration and number.
+    std::set<std::pair<const SourceConfiguration*, std::size_t>> closing{};
+
     /// The configurations that catalogs mean by misspelt names.
     std::map<std::string, std::string, std::less<>> meantByCatalogs{};
 

@@ -77,6 +77,9 @@ void AddCycle(const Chain& iChain, CheckRun& ioRun)
             const Finding place = FindingAt(reference->item, "config", FindingKind::Cycle, Severity::Warning, {});
             finding.related.push_back({place.file, place.position.line});
         }
+    if (iChain.size() == 1)
+        finding.suggestion = ioRun.meantInsteadOfItself;
+    ioRun.closing.emplace(&iChain.back()->item.configuration, iChain.back()->item.number);
     ioRun.Add(std::move(finding));
 }
 

@@ -66,10 +66,27 @@ void CheckEmptyFiles(const ConfigurationSource& iWritten, CheckRun& ioRun)
             finding.related.push_back({OneLine(file->Path()), file->Root().position.line});
     ioRun.Add(std::move(finding));
 }
+
+/// Where none of the files is there it is the folder that is missing, or the installation that is another one.
+bool CheckFolder(const Installation& iInstallation, const ConfigurationSource& iWritten, CheckRun& ioRun)
+{
+    const std::vector<UnreadableFile>& files = iWritten.Unreadable();
+    const bool areMissing =
+        files.size() == iWritten.Paths().size() &&
+        std::all_of(files.begin(), files.end(), [](const UnreadableFile& iOne) { return iOne.isMissing; });
+    if (areMissing)
+        ioRun.Add(FindingIn(ConfigurationFolder(iInstallation.Folders().front()), {}, FindingKind::UnreadableFile,
+                            Severity::Error,
+                            "none of the " + Counted(files.size(), "configuration file") + " is in the installation " +
+                                OneLine(iInstallation.Path()) + ", and the engine reads none at all"));
+    return areMissing;
+}
 } // namespace
 
 void CheckFiles(const Installation& iInstallation, const ConfigurationSource& iWritten, CheckRun& ioRun)
 {
+    if (CheckFolder(iInstallation, iWritten, ioRun))
+        return;
     std::vector<fs::path> strange = StrangeFiles(iInstallation);
     for (const UnreadableFile& file : iWritten.Unreadable())
     {

@@ -51,6 +51,9 @@ std::string WithCommas(const std::string& iText, char iSign)
 /// A bar may as well stand around a name.
 char SeparatorIn(const std::string& iText)
 {
+    // In an address these are signs like any other.
+    if (iText.find("://") != std::string::npos)
+        return ',';
     const bool hasComma = iText.find(',') != std::string::npos;
     if (iText.find(hasComma ? "; " : ";") != std::string::npos)
         return ';';
@@ -65,6 +68,27 @@ struct Reading
     std::string startups;
 };
 
+/// What is taken for a comma in each of them; a comma itself for nothing else.
+struct Signs
+{
+    char choices;
+    char startups;
+};
+
+/// The less a pair differs from what is right, the earlier it comes; a blank parts more than it was meant to.
+const std::vector<Signs>& AllSigns()
+{
+    static const std::vector<Signs> all = [] {
+        std::vector<Signs> signs;
+        for (const char sign : {';', '|', '.'})
+            signs.insert(signs.end(), {{sign, ','}, {',', sign}, {sign, sign}});
+        signs.insert(signs.end(), {{';', '|'}, {'|', ';'}, {';', '.'}, {'.', ';'}, {'|', '.'}, {'.', '|'}});
+        signs.insert(signs.end(), {{' ', ','}, {',', ' '}, {' ', ' '}, {' ', '|'}, {'|', ' '}});
+        return signs;
+    }();
+    return all;
+}
+
 class ListsReader
 {
 public:
@@ -78,6 +102,8 @@ public:
     {
         MeantLists lists;
         lists.hasStartups = m_hasStartups;
+        TakeWhiteOut("choices", m_written.choices, lists.findings);
+        TakeWhiteOut("Startups", m_written.startups, lists.findings);
         Reading reading = Parted(lists.findings);
         if (m_hasStartups && AreSwapped(SplitTexts(reading.choices), SplitTexts(reading.startups), m_default))
         {
@@ -86,12 +112,50 @@ public:
             lists.findings.push_back(
                 FindingAt(m_item, "choices", FindingKind::SwappedLists, Severity::Error, SwappedText));
         }
+        TakeEmptyOut(lists.choicesKey, reading, lists.findings);
         lists.choices = std::move(reading.choices);
         lists.startups = std::move(reading.startups);
         return lists;
     }
 
 private:
+    /// The engine takes blanks out of entries, but no other white space.
+    void TakeWhiteOut(const char* iKey, std::string& ioText, std::vector<Finding>& oFindings) const
+    {
+        const auto isWhite = [](char iOne) { return iOne == '\t' || iOne == '\r' || iOne == '\n'; };
+        for (const std::string& entry : SplitTexts(ioText))
+            if (std::any_of(entry.begin(), entry.end(), isWhite))
+            {
+                oFindings.push_back(FindingAt(m_item, iKey, FindingKind::BlankInList, Severity::Warning,
+                                              "white space other than blanks stays in the entry " + Quoted(entry)));
+                std::replace_if(ioText.begin(), ioText.end(), isWhite, ' ');
+                return;
+            }
+    }
+
+    /// An empty choice beside which a startup is missing is one comma too much.
+    void TakeEmptyOut(const char* iKey, Reading& ioReading, std::vector<Finding>& oFindings) const
+    {
+        std::vector<std::string> choices = SplitTexts(ioReading.choices);
+        const std::size_t startups = SplitTexts(ioReading.startups).size();
+        const std::size_t all = choices.size();
+        if (!m_hasStartups || all == startups)
+            return;
+        choices.erase(std::remove(choices.begin(), choices.end(), ""), choices.end());
+        if (choices.size() != startups || all == startups)
+            return;
+        std::string text;
+        for (const std::string& choice : choices)
+            text += (text.empty() ? "" : ", ") + choice;
+        Finding finding =
+            FindingAt(m_item, iKey, FindingKind::BlankInList, Severity::Error,
+                      "an entry of \"choices\" is empty, and is a choice without a name: " + Counted(all, "choice") +
+                          " and " + Counted(startups, "startup") + " make the item fail");
+        finding.suggestion = text;
+        oFindings.push_back(std::move(finding));
+        ioReading.choices = std::move(text);
+    }
+
     /// Whether the engine refuses the lists, or the default that stands beside them is none of them.
     bool Fails(const Reading& iReading) const
     {
@@ -106,23 +170,23 @@ private:
     {
         const bool fails = Fails(m_written);
         if (fails)
-            for (const char sign : {';', '|', ' '})
+            for (const Signs& signs : AllSigns())
             {
-                const Reading parted{WithCommas(m_written.choices, sign), WithCommas(m_written.startups, sign)};
-                for (const Reading& reading :
-                     {Reading{parted.choices, m_written.startups}, Reading{m_written.choices, parted.startups}, parted})
-                    if (!Fails(reading))
-                        return Told(reading, sign, fails, oFindings);
+                const Reading reading{
+                    signs.choices == ',' ? m_written.choices : WithCommas(m_written.choices, signs.choices),
+                    signs.startups == ',' ? m_written.startups : WithCommas(m_written.startups, signs.startups)};
+                if (!Fails(reading))
+                    return Told(reading, signs, fails, oFindings);
             }
         const char inChoices = SeparatorIn(m_written.choices);
         const char inStartups = SeparatorIn(m_written.startups);
         if (inChoices != ',' || inStartups != ',')
             return Told({WithCommas(m_written.choices, inChoices), WithCommas(m_written.startups, inStartups)},
-                        inChoices != ',' ? inChoices : inStartups, fails, oFindings);
+                        {inChoices, inStartups}, fails, oFindings);
         return m_written;
     }
 
-    Reading Told(const Reading& iReading, char iSign, bool iFails, std::vector<Finding>& oFindings) const;
+    Reading Told(const Reading& iReading, const Signs& iSigns, bool iFails, std::vector<Finding>& oFindings) const;
 
     const SourceItem& m_item;
     Reading m_written;
@@ -144,16 +208,21 @@ Finding WrongSeparator(const SourceItem& iItem, const char* iKey, const std::str
     return finding;
 }
 
-Reading ListsReader::Told(const Reading& iReading, char iSign, bool iFails, std::vector<Finding>& oFindings) const
+Reading ListsReader::Told(const Reading& iReading, const Signs& iSigns, bool iFails,
+                          std::vector<Finding>& oFindings) const
 {
+    const Severity severity = iFails ? Severity::Error : Severity::Warning;
     const bool isInChoices = iReading.choices != m_written.choices;
-    Finding finding = isInChoices ? WrongSeparator(m_item, "choices", m_written.choices, iReading.choices, iSign,
-                                                   iFails ? Severity::Error : Severity::Warning)
-                                  : WrongSeparator(m_item, "Startups", m_written.startups, iReading.startups, iSign,
-                                                   iFails ? Severity::Error : Severity::Warning);
-    if (isInChoices && iReading.startups != m_written.startups)
-        finding.message += "; nor in \"Startups\"";
-    oFindings.push_back(std::move(finding));
+    const bool isInStartups = iReading.startups != m_written.startups;
+    const bool isSame = isInChoices && iSigns.choices == iSigns.startups;
+    if (isInChoices)
+        oFindings.push_back(
+            WrongSeparator(m_item, "choices", m_written.choices, iReading.choices, iSigns.choices, severity));
+    if (isInStartups && isSame)
+        oFindings.back().message += "; nor in \"Startups\"";
+    else if (isInStartups)
+        oFindings.push_back(
+            WrongSeparator(m_item, "Startups", m_written.startups, iReading.startups, iSigns.startups, severity));
     return iReading;
 }
 } // namespace

@@ -59,6 +59,11 @@ std::optional<SourceValue> WithKind(const SourceMember& iMember, Kind iWanted)
         meant.isTrue = value.text == "true";
         return meant;
     }
+    if (iMember.key == "config" && iWanted == Kind::Array && value.Is(Kind::Object))
+    {
+        meant.elements.push_back(&value);
+        return meant;
+    }
     std::optional<std::string> text = iWanted == Kind::Text ? TextFor(iMember.key, value) : std::nullopt;
     if (!text)
         return std::nullopt;

@@ -13,8 +13,9 @@ namespace Tool
 {
 /**
  * The configurations as their writers have probably meant them, so that a mistake that is told does not hide those
- * behind it. Only what is beyond doubt is read in another way than it is written: a misspelt key that is like one
- * alone, and a number in place of a text. Whoever finds more adds it. Places are those of what is written.
+ * behind it. Only what is beyond doubt is read in another way than it is written: a key that is a slip of another one,
+ * a number in place of a text, one item in place of an array of items. Whoever finds more adds it. Places are those of
+ * what is written.
  */
 class MeantSource
 {

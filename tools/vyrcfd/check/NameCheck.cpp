@@ -63,7 +63,10 @@ public:
         for (const VYRStandalone::MeantConfiguration& meant : m_meant)
             CheckMeant(meant);
         for (const SourceConfiguration& configuration : m_run.source.Configurations())
+        {
             CheckReferences(configuration);
+            TakeMentioned(configuration);
+        }
         // Of names that are as near the one that nothing refers to is the more likely.
         const auto referred = std::stable_partition(m_known.begin(), m_known.end(),
                                                     [&](const std::string& iName) { return IsUnreferred(iName); });
@@ -71,6 +74,7 @@ public:
         for (Unknown& unknown : m_unknown)
             Resolve(unknown);
         TakeForDuplicate();
+        TakeForNameless();
         TakeForUnused();
         for (Unknown& unknown : m_unknown)
             m_run.Add(std::move(unknown.finding));
@@ -118,9 +122,31 @@ private:
                            name, &item);
             else if (name != iConfiguration.name)
                 m_used.emplace(name);
+            else
+                ++m_ownReferences;
             // A definition that another one hides applies nothing as long as it has that name.
             if (iConfiguration.hiddenBy != nullptr)
                 m_run.unclear.emplace(name);
+        }
+    }
+
+    /// What items refer to that are not read, since something else stands in place of their array, is used, for what is
+    /// not known.
+    void TakeMentioned(const SourceConfiguration& iConfiguration)
+    {
+        const SourceMember* const items = iConfiguration.value->Find("config");
+        if (items != nullptr && items->value->Is(SourceValue::Kind::Array))
+            return;
+        std::vector<const SourceValue*> open{iConfiguration.value};
+        while (!open.empty())
+        {
+            const SourceValue& value = *open.back();
+            open.pop_back();
+            open.insert(open.end(), value.elements.begin(), value.elements.end());
+            for (const SourceMember& member : value.members)
+                open.push_back(member.value);
+            if (&value != iConfiguration.value && m_run.source.Find(value.TextOf("config")) != nullptr)
+                TakeAsUsed(std::string(value.TextOf("config")));
         }
     }
 
@@ -198,7 +224,7 @@ private:
     /// Whether no known name is so near that it must be the one.
     static bool IsDoubtful(const Unknown& iOne)
     {
-        return iOne.finding.suggestion.empty() || !IsSlip(iOne.name, iOne.finding.suggestion);
+        return iOne.finding.suggestion.empty() || !IsSingleSlip(iOne.name, iOne.finding.suggestion);
     }
 
     /// The only unknown name that fits; past the end for none or several.
@@ -232,7 +258,20 @@ private:
         m_unknown.erase(unknown);
     }
 
-    /// A name that nothing has and nothing resembles is probably that of the only one that nothing refers to.
+    /// The only definition without a name that can be read is probably the one that is missing.
+    void TakeForNameless()
+    {
+        const auto unknown = OnlyUnknown(IsDoubtful);
+        const auto& all = m_run.source.Configurations();
+        const auto nameless = std::count_if(all.begin(), all.end(), [](const SourceConfiguration& iOne) {
+            return iOne.name.empty() && iOne.value->Is(SourceValue::Kind::Object);
+        });
+        if (unknown != m_unknown.end() && nameless == 1)
+            m_unknown.erase(unknown);
+    }
+
+    /// A name that nothing has and nothing resembles is probably that of the only one that nothing refers to. So is the
+    /// name of the only one that applies itself.
     void TakeForUnused()
     {
         const auto unknown = OnlyUnknown(IsDoubtful);
@@ -244,8 +283,14 @@ private:
                     return;
                 unused = &configuration;
             }
-        if (unknown == m_unknown.end() || unused == nullptr || !m_run.knowsWanted)
+        if (unused == nullptr || !m_run.knowsWanted)
             return;
+        if (unknown == m_unknown.end())
+        {
+            if (m_ownReferences == 1)
+                TakeAsUsed(m_run.meantInsteadOfItself = unused->name);
+            return;
+        }
         unknown->finding.message = unknown->message + "; nothing refers to " + Quoted(unused->name);
         unknown->finding.suggestion = unused->name;
         TakeAsUsed(unused->name);
@@ -324,6 +369,8 @@ private:
     std::vector<std::string> m_unreferred;
     std::vector<VYRStandalone::MeantConfiguration> m_meant;
     std::unordered_set<std::string> m_used;
+    /// Items that apply the configuration in which they stand.
+    std::size_t m_ownReferences = 0;
     /// Names that stand behind misspelt keys.
     std::unordered_set<std::string> m_misspelt;
     std::vector<Unknown> m_unknown;

@@ -1,6 +1,7 @@
 #include "Suggestions.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "Wording.h"
 
@@ -26,12 +27,25 @@ std::string WithoutDigits(std::string_view iText)
     return text;
 }
 
-/// Names that differ in their digits alone are different names.
-bool IsMereSlip(std::string_view iUnknown, std::string_view iKnown)
+/// What is left of two texts without what they begin and end with alike.
+std::pair<std::string_view, std::string_view> Differing(std::string_view iLeft, std::string_view iRight)
 {
-    const std::size_t longer = std::max(iUnknown.size(), iKnown.size());
-    return longer - std::min(iUnknown.size(), iKnown.size()) <= std::max<std::size_t>(1, iUnknown.size() / 6) &&
-           IsSlip(iUnknown, iKnown) && WithoutDigits(iUnknown) != WithoutDigits(iKnown);
+    const auto begin = std::mismatch(iLeft.begin(), iLeft.end(), iRight.begin(), iRight.end());
+    iLeft.remove_prefix(static_cast<std::size_t>(begin.first - iLeft.begin()));
+    iRight.remove_prefix(static_cast<std::size_t>(begin.second - iRight.begin()));
+    const auto end = std::mismatch(iLeft.rbegin(), iLeft.rend(), iRight.rbegin(), iRight.rend());
+    iLeft.remove_suffix(static_cast<std::size_t>(end.first - iLeft.rbegin()));
+    iRight.remove_suffix(static_cast<std::size_t>(end.second - iRight.rbegin()));
+    return {iLeft, iRight};
+}
+
+std::string InSmallLetters(std::string_view iText)
+{
+    std::string text(iText);
+    for (char& one : text)
+        if (one >= 'A' && one <= 'Z')
+            one = static_cast<char>(one + ('a' - 'A'));
+    return text;
 }
 } // namespace
 
@@ -43,12 +57,21 @@ std::string Suggestions::OnlySlipOf(std::string_view iUnknown, const std::vector
     return OnlySlip(iUnknown, iKnown);
 }
 
+bool IsSingleSlip(std::string_view iUnknown, std::string_view iKnown)
+{
+    const auto [left, right] = Differing(iUnknown, iKnown);
+    const bool isSwapped = left.size() == 2 && right.size() == 2 && left[0] == right[1] && left[1] == right[0];
+    const bool isNear = isSwapped || std::max(left.size(), right.size()) <= 1 ||
+                        (left.size() == right.size() && InSmallLetters(left) == InSmallLetters(right));
+    return isNear && WithoutDigits(iUnknown) != WithoutDigits(iKnown);
+}
+
 std::string OnlySlip(std::string_view iUnknown, const std::vector<std::string>& iKnown)
 {
     const std::string nearest = Nearest(iUnknown, iKnown);
-    if (nearest.empty() || !IsMereSlip(iUnknown, nearest))
+    if (nearest.empty() || !IsSingleSlip(iUnknown, nearest))
         return {};
-    const auto isAnother = [&](const std::string& iOne) { return iOne != nearest && IsMereSlip(iUnknown, iOne); };
+    const auto isAnother = [&](const std::string& iOne) { return iOne != nearest && IsSingleSlip(iUnknown, iOne); };
     return std::any_of(iKnown.begin(), iKnown.end(), isAnother) ? std::string() : nearest;
 }
 

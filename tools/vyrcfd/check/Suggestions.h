@@ -32,8 +32,12 @@ private:
     std::size_t m_comparisonsLeft = 1'000'000;
 };
 
-/// The known name that an unknown one differs from by a slip of the hand, and that must be the one; empty where none is
-/// that near, or several are.
+/// Whether an unknown name differs from a known one by a single slip of the hand, and in more than its digits: a letter
+/// too much, too little or wrong, two that are swapped, or capital letters.
+bool IsSingleSlip(std::string_view iUnknown, std::string_view iKnown);
+
+/// The known name that an unknown one differs from by a single slip, and that must be the one; empty where none is that
+/// near, or several are.
 std::string OnlySlip(std::string_view iUnknown, const std::vector<std::string>& iKnown);
 } // namespace Tool
 

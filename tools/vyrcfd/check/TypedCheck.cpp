@@ -199,6 +199,7 @@ void TypedCheck::TryItems(const Task& iTask, const Trial& iTrial, TrialFindings&
 {
     m_overlap = ConditionOverlap(m_run.source);
     m_presentData.Begin(iTrial);
+    m_unoffered.clear();
     bool isSpoilt = false;
     bool isBroken = false;
     for (const SourceItem& item : ItemsOf(*iTask.configuration))
@@ -208,6 +209,7 @@ void TypedCheck::TryItems(const Task& iTask, const Trial& iTrial, TrialFindings&
         {
             isSpoilt = TryChoice(item, iTrial, oFindings) || isSpoilt;
             isBroken = isBroken || IsBrokenChoice(item, oFindings.size() != found);
+            TakeUnofferedDefault(item);
         }
         else if (Refers(item.role) && isBroken)
             m_run.unclear.emplace(item.Text("config"));
@@ -218,6 +220,30 @@ void TypedCheck::TryItems(const Task& iTask, const Trial& iTrial, TrialFindings&
     }
     if (isSpoilt)
         m_objects.Spoil(iTask.place.type);
+}
+
+void TypedCheck::TakeUnofferedDefault(const SourceItem& iItem)
+{
+    if (m_run.findings.Has(FindingAt(iItem, "default", FindingKind::DefaultNotInChoices, Severity::Error, {})))
+        m_unoffered.emplace(iItem.Text("default"), std::string::npos);
+}
+
+/// Where a condition compares with a text that is told not to be offered, its finding goes into that one.
+/// @param iFound findings in front of those of the condition
+void TypedCheck::MergeUnoffered(const SourceItem& iItem, std::size_t iFound, TrialFindings& ioFindings)
+{
+    if (ioFindings.size() == iFound || ioFindings.back().unknown.empty())
+        return;
+    const auto [first, isFirst] = m_unoffered.try_emplace(ioFindings.back().unknown, ioFindings.size() - 1);
+    if (isFirst)
+        return;
+    const Finding merged = std::move(ioFindings.back().finding);
+    ioFindings.pop_back();
+    if (first->second >= ioFindings.size())
+        return;
+    Finding& finding = ioFindings[first->second].finding;
+    finding.message += (finding.related.empty() ? "; it also stands in item " : ", item ") + std::to_string(iItem.number);
+    finding.related.push_back({merged.file, merged.position.line});
 }
 
 /// Whether the Choice does not offer what the item means it to, so that nothing can be said of what depends on it.
@@ -314,7 +340,9 @@ TypedCheck::Guard TypedCheck::TryCondition(const SourceItem& iItem, const Trial&
     if (!end.optional.empty())
         AddOptional(iItem, iTrial, "condition", Severity::Note, end.optional, "on any other the condition never holds",
                     oFindings);
+    const std::size_t found = oFindings.size();
     const bool isMeant = CheckComparison(iItem, iTrial, *parts, end.access, oFindings);
+    MergeUnoffered(iItem, found, oFindings);
     if (isMeant)
         m_overlap.Enter(iItem, iTrial, *parts, end.access, oFindings);
     const VYRCfdObjectAccess owner{end.access.Self()};
@@ -340,7 +368,9 @@ void TypedCheck::TryTarget(const SourceItem& iItem, const Trial& iTrial, const P
     }
     const bool isObject = iEnd.kind == PathEnd::Kind::Object;
     const bool hasDefaults = isObject && !!VYRIMpaDefaultManagementProtected_var(iEnd.access.Self());
-    if (hasDefaults && m_followsReferences)
+    // What comes of a circle is the circle's mistake.
+    const bool isClosing = m_run.closing.count({&iItem.configuration, iItem.number}) != 0;
+    if (hasDefaults && m_followsReferences && !isClosing)
         Put(iItem.Text("config"),
             {nullptr, iEnd.place, iTrial.isGuessed, iTrial.isConditional || iItem.role == ItemRole::Conditional, iItem,
              isSupposed || m_run.meant.HasOtherText(iItem.configuration, iItem.number, "config")});

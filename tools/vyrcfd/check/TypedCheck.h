@@ -2,6 +2,7 @@
 #define TypedCheck_H
 
 #include <deque>
+#include <map>
 #include <optional>
 #include <set>
 #include <string>
@@ -52,6 +53,8 @@ private:
     void Guess(const SourceConfiguration& iConfiguration);
     TrialFindings Try(const Task& iTask);
     void TryItems(const Task& iTask, const Trial& iTrial, TrialFindings& oFindings);
+    void TakeUnofferedDefault(const SourceItem& iItem);
+    void MergeUnoffered(const SourceItem& iItem, std::size_t iFound, TrialFindings& ioFindings);
     bool IsBrokenChoice(const SourceItem& iItem, bool iHasFailed) const;
     void TryItem(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
     void TryPathAlone(const SourceItem& iItem, const Trial& iTrial, TrialFindings& oFindings);
@@ -79,6 +82,9 @@ private:
     /// Of the configuration that is being tried.
     ConditionOverlap m_overlap;
     PresentData m_presentData;
+    /// Texts that the Choice does not offer, each with the finding that tells so, among those of the trial; past the
+    /// end where that is one of the texts. Where one of them stands again it is the same mistake.
+    std::map<std::string, std::size_t, std::less<>> m_unoffered;
     std::deque<Task> m_tasks;
     std::set<std::tuple<const SourceConfiguration*, std::string, std::string>> m_known;
     std::unordered_set<const SourceConfiguration*> m_tried;
