@@ -175,8 +175,11 @@ void CheckCatalogs::AddErrors(const std::vector<std::string>& iFolders, CheckRun
         if (isTold)
             continue;
         const DocumentFault fault = FaultOf(error, iFolders);
+        std::string message = MessageOf(error);
+        if (!fault.unknownKey.empty())
+            message.insert(message.find("key") + 3, " " + Quoted(fault.unknownKey));
         Finding finding = FindingIn(error.File(), fault.position, FindingKind::UnreadableFile, Severity::Error,
-                                    MessageOf(error) + fault.remark + NothingIsChecked);
+                                    message + fault.remark + NothingIsChecked);
         finding.suggestion = fault.suggestion;
         ioRun.Add(std::move(finding));
     }

@@ -4,6 +4,7 @@
 #include "CheckCatalogs.h"
 #include "CheckRun.h"
 #include "Command.h"
+#include "ConditionSuggestions.h"
 #include "Failure.h"
 #include "FindingText.h"
 #include "Output.h"
@@ -62,6 +63,7 @@ void Check(const CommonOptions& iOptions, const CheckArguments& iArguments)
     if (!catalogs.HaveFailed() && !catalogs.Files().empty())
         TypedCheck(run).Check(CatalogSource(installation, catalogs.Files()));
     CheckRepeatedDefaults(run);
+    CompleteConditions(run.findings);
 
     const std::vector<Finding> findings = run.findings.Sorted(source);
     progress.reset();

@@ -38,8 +38,13 @@ Oddity OfReal(const ConditionText& iParts)
     if (VYRCfdUtilityMethods::ConvertToDouble(UnicodeOf(iParts.value), number) < 0)
         return {Quoted(iParts.path) + " is a real, and is compared with no number: the condition never holds"};
     if (!IsWhole<double>(iParts.value))
+    {
+        std::string withPoint = iParts.value;
+        std::replace(withPoint.begin(), withPoint.end(), ',', '.');
         return {Quoted(iParts.path) + " is a real, and of " + Quoted(iParts.value) +
-                " only the number at its head is compared, in SI units"};
+                    " only the number at its head is compared, in SI units",
+                IsWhole<double>(withPoint) ? iParts.path + iParts.sign + withPoint : std::string()};
+    }
     return {};
 }
 

@@ -36,6 +36,11 @@ void FindingList::Add(Finding iFinding)
         m_findings.push_back(std::move(iFinding));
 }
 
+void FindingList::SetSuggestion(std::size_t iNumber, std::string iText)
+{
+    m_findings[iNumber].suggestion = std::move(iText);
+}
+
 void FindingList::Raise(const Finding& iFinding)
 {
     // Of one kind only, since each call looks through all findings.

@@ -23,6 +23,9 @@ public:
     const std::vector<Finding>& All() const noexcept { return m_findings; }
     std::size_t Count(Severity iSeverity) const;
 
+    /// @param iNumber of the finding in `All`
+    void SetSuggestion(std::size_t iNumber, std::string iText);
+
     /// Of a list with an empty entry that is known: takes over what is worse, as it turned out on an object.
     void Raise(const Finding& iFinding);
     /// Takes the finding of the kind at the same place, under the same key, out again, if there is one.

@@ -5,6 +5,29 @@
 
 namespace Tool
 {
+namespace
+{
+/// A path whose names are parted by other signs, with slashes; empty where there is no sign behind a name that is
+/// known.
+std::string WithSlashes(const std::string& iPath, const Misstep& iMisstep)
+{
+    constexpr char Signs[] = ".\\:>";
+    std::string names = iMisstep.name;
+    const std::size_t end = names.find_first_of(Signs);
+    const std::size_t at = iPath.find(iMisstep.name);
+    if (end == std::string::npos || at == std::string::npos)
+        return {};
+    const std::string first = OnlySlip(names.substr(0, end), iMisstep.known);
+    const std::string head = Holds(iMisstep.known, names.substr(0, end)) ? names.substr(0, end) : first;
+    if (head.empty())
+        return {};
+    std::replace_if(
+        names.begin(), names.end(),
+        [&](char iSign) { return std::string_view(Signs).find(iSign) != std::string_view::npos; }, '/');
+    return iPath.substr(0, at) + head + names.substr(end) + iPath.substr(at + iMisstep.name.size());
+}
+} // namespace
+
 std::string Trial::Where() const
 {
     return "on " + place.Shown() + (isGuessed ? ", the type that most of the configuration's paths fit" : "");
@@ -28,6 +51,11 @@ void AddMissteps(const SourceItem& iItem, const Trial& iTrial, const char* iKey,
                          isThere || isWholeMeant ? std::string() : first.name, first.known});
     if (isWholeMeant)
         oFindings.back().finding.suggestion = MeantPath(iPath, iMissteps);
+    else if (const std::string meant = WithSlashes(iPath, first); !meant.empty())
+    {
+        oFindings.back().finding.suggestion = meant;
+        oFindings.back().unknown.clear();
+    }
     oFindings.back().isMisspelt = !first.meant.empty();
 }
 

@@ -18,6 +18,8 @@ namespace
 {
 namespace fs = std::filesystem;
 
+constexpr std::string_view UnknownKey = "unknown key";
+
 bool BeginsWith(std::string_view iText, std::string_view iBeginning)
 {
     return iText.substr(0, iBeginning.size()) == iBeginning;
@@ -74,7 +76,7 @@ std::string FirstQuoted(std::string_view iMessage)
 
 DocumentFault OfUnit(const MeantUnit& iMeant)
 {
-    return {{}, true, iMeant.text, iMeant.Remark()};
+    return {{}, true, iMeant.text, {}, iMeant.Remark()};
 }
 
 /// Without position. @param iMember what is written at the place that the error tells
@@ -100,7 +102,7 @@ DocumentFault MeantAt(const SourceMember& iMember, const std::string& iMessage, 
 
 bool IsOfKey(const std::string& iMessage)
 {
-    return BeginsWith(iMessage, "unknown key") ||
+    return BeginsWith(iMessage, UnknownKey) ||
            (BeginsWith(iMessage, "type ") && iMessage.find(" has no attribute ") != std::string::npos);
 }
 
@@ -135,6 +137,8 @@ DocumentFault FaultOf(const VYRStandalone::DocumentError& iError, const std::vec
     const bool isOfKey = IsOfKey(message) && !member.key.empty();
     DocumentFault fault = MeantAt(member, message, *file, iCatalogFolders);
     fault.position = isOfKey ? member.keyPosition : member.value->position;
+    if (BeginsWith(message, UnknownKey))
+        fault.unknownKey = member.key;
     return fault;
 }
 

@@ -22,6 +22,8 @@ struct DocumentFault
     bool hasPlace = false;
     /// In place of what is written there; empty where nothing is like it, and where the error says so itself.
     std::string suggestion{};
+    /// The key that is unknown, where the message says that one is, and not which.
+    std::string unknownKey{};
     /// What else there is to say, to be put behind the message.
     std::string remark{};
 };

@@ -32,6 +32,18 @@ bool IsOfName(char iByte)
     constexpr std::string_view between = " \t./*^()+-0123456789";
     return between.find(iByte) == std::string_view::npos;
 }
+/// The number with a point in place of its only comma; empty for one without, or where the comma stands otherwise.
+std::string WithPoint(std::string_view iNumber)
+{
+    constexpr std::string_view digits = "0123456789";
+    const std::size_t comma = iNumber.find(',');
+    if (comma == std::string_view::npos || comma == 0 || iNumber.find(',', comma + 1) != std::string_view::npos ||
+        iNumber.find_first_not_of("+-0123456789") != comma || iNumber.find_first_of(digits, comma + 1) != comma + 1)
+        return {};
+    std::string number(iNumber);
+    number[comma] = '.';
+    return number;
+}
 } // namespace
 
 std::string MeantUnit::Remark() const
@@ -61,6 +73,11 @@ MeantUnit MeantUnitOf(std::string_view iUnit)
 
 MeantUnit MeantQuantityOf(std::string_view iNumberWithUnit)
 {
+    if (std::string withPoint = WithPoint(iNumberWithUnit); !withPoint.empty())
+    {
+        const MeantUnit meant = MeantQuantityOf(withPoint);
+        return meant.text.empty() ? MeantUnit{std::move(withPoint)} : meant;
+    }
     const std::size_t end = iNumberWithUnit.find_first_not_of("+-.0123456789eE");
     const std::size_t unit = iNumberWithUnit.find_first_not_of(' ', std::min(end, iNumberWithUnit.size()));
     if (end == 0 || unit == std::string_view::npos)
