@@ -21,6 +21,14 @@ SCHEMA = json.loads((ROOT / "docs" / "configuration.schema.json").read_text())
 WRONG = Path(__file__).resolve().parent / "data" / "wrong"
 CHECKED = ROOT / "tests" / "tool" / "data" / "check"
 
+# Of what `vyrcfd check` finds, what needs no other item and no catalog to be found, beside wrong keys.
+TOLD_BY_TEXT = (
+    "autokey-empty", "blank-before-operator", "blanks-behind-operator", "condition-with-operator-of-another-language",
+    "condition-with-operator-turned-round", "condition-in-words", "conditions-joined", "config-beside-default",
+    "default-beside-value", "list-beside-default", "path-begins-with-slash", "path-beside-choices",
+    "path-of-condition-begins-with-slash", "path-with-two-slashes", "tab-in-choice", "two-operators", "type-unknown",
+    "type-unknown-of-automatic-default", "value-beside-choices", "value-in-quotation-marks")
+
 
 def errors_in(document):
     """The innermost errors: of alternatives that all fail the schema tells only that they do."""
@@ -72,6 +80,11 @@ class SchemaTest(unittest.TestCase):
                 self.assertTrue(any(errors_in(read(file)) for file in configuration_files(folder)))
                 refused += 1
         self.assertGreaterEqual(refused, 10)
+
+    def test_what_the_text_of_a_key_tells_is_refused_as_the_tool_finds_it(self):
+        for name in TOLD_BY_TEXT:
+            with self.subTest(folder=name):
+                self.assertTrue(any(errors_in(read(file)) for file in configuration_files(CHECKED / "wrong" / name)))
 
     def test_every_key_is_explained(self):
         definitions = SCHEMA["definitions"]
