@@ -9,6 +9,7 @@
 #include "ORXSimBCInitializeServices.h"
 #include "ORXTypeCode.h"
 #include "ScratchObjects.h"
+#include "VYRCfdUtilityMethods.h"
 #include "VYRIMpaDefaultManagementProtected.h"
 #include "VYRStandaloneCatalog.h"
 #include "WholeNumber.h"
@@ -66,6 +67,19 @@ std::string TypeWordOf(int iType)
     default:
         return {};
     }
+}
+
+bool FitsTypeWord(std::string_view iWord, const std::string& iText)
+{
+    bool truth = false;
+    if (iWord == "real")
+        return IsWhole<double>(iText);
+    if (iWord == "integer")
+        return IsWhole<int>(iText);
+    if (iWord == "boolean")
+        return VYRCfdUtilityMethods::ConvertToBoolean(UnicodeOf(iText), truth,
+                                                      VYRCfdUtilityMethods::VYRCfdEmptyIsInvalid) >= 0;
+    return true;
 }
 
 /// That a word is none at all is told already.
@@ -143,8 +157,8 @@ void DefaultTrial::Check(const SourceItem& iItem, const Trial& iTrial, TrialFind
     const auto known = IsChoice(iTrial.object) ? m_verdicts.end() : m_verdicts.find(key);
     const Verdict verdict = known != m_verdicts.end() ? known->second : Try(iTrial, name, text);
     m_verdicts.insert_or_assign(key, verdict);
-    // Where the default does not fit either, it is the attribute that is not the one that was meant, or the default.
-    if (verdict.kind != FindingKind::DefaultInvalid || verdict.isGood)
+    // Where the default fits the word alone, it is the attribute that is not the one that was meant.
+    if (verdict.isGood || verdict.kind != FindingKind::DefaultInvalid || !FitsTypeWord(iItem.Text("type"), text))
         CheckTypeWord(iItem, iTrial, name, oFindings);
     if (verdict.isGood)
         return;

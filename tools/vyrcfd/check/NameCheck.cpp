@@ -270,30 +270,34 @@ private:
             m_unknown.erase(unknown);
     }
 
-    /// A name that nothing has and nothing resembles is probably that of the only one that nothing refers to. So is the
-    /// name of the only one that applies itself.
+    /// As many names that nothing has and nothing resembles as there are configurations that nothing refers to are
+    /// probably meant for these. So are items that apply their own configuration.
     void TakeForUnused()
     {
-        const auto unknown = OnlyUnknown(IsDoubtful);
-        const SourceConfiguration* unused = nullptr;
+        // Of more nobody could tell which belong together.
+        constexpr std::size_t Most = 5;
+        std::vector<std::string> unused;
         for (const SourceConfiguration& configuration : m_run.source.Configurations())
-            if (IsUnused(configuration))
+            if (IsUnused(configuration) && unused.size() <= Most)
+                unused.push_back(configuration.name);
+        const auto unknown = std::count_if(m_unknown.begin(), m_unknown.end(), IsDoubtful);
+        const bool isEven = unused.size() == static_cast<std::size_t>(unknown) + m_ownReferences;
+        if (unused.empty() || unused.size() > Most || !isEven || !m_run.knowsWanted)
+            return;
+        const bool isOne = unused.size() == 1;
+        std::string names;
+        for (const std::string& name : unused)
+            names += (names.empty() ? "" : ", ") + Quoted(name);
+        for (Unknown& one : m_unknown)
+            if (IsDoubtful(one))
             {
-                if (unused != nullptr)
-                    return;
-                unused = &configuration;
+                one.finding.message = one.message + "; nothing refers to " + names;
+                one.finding.suggestion = isOne ? unused.front() : "";
             }
-        if (unused == nullptr || !m_run.knowsWanted)
-            return;
-        if (unknown == m_unknown.end())
-        {
-            if (m_ownReferences == 1)
-                TakeAsUsed(m_run.meantInsteadOfItself = unused->name);
-            return;
-        }
-        unknown->finding.message = unknown->message + "; nothing refers to " + Quoted(unused->name);
-        unknown->finding.suggestion = unused->name;
-        TakeAsUsed(unused->name);
+        if (isOne && unknown == 0)
+            m_run.meantInsteadOfItself = unused.front();
+        for (const std::string& name : unused)
+            TakeAsUsed(name);
     }
 
     bool IsUnreferred(const std::string& iName) const

@@ -68,6 +68,12 @@ void CheckNames(const SourceItem& iItem, const char* iKey, std::string_view iPat
     std::string text(iItem.Text(iKey));
     ioRun.meant.SetText(iItem, iKey, text.replace(0, iPath.size(), meant));
 }
+/// Whether the item was meant to apply something that it does not name.
+bool IsLostReference(const SourceItem& iItem)
+{
+    return iItem.role == ItemRole::Nothing && !iItem.value.Has("default") && !iItem.value.Has("value") &&
+           !iItem.Text("path").empty();
+}
 } // namespace
 
 std::size_t EndOfNames(std::string_view iPath)
@@ -87,9 +93,9 @@ void CheckPaths(CheckRun& ioRun)
         {
             if ((SetsDefault(item.role) || item.role == ItemRole::Values) && HasReadablePath(item))
                 CheckName(item, ioRun);
-            else if (Refers(item.role))
+            else if (Refers(item.role) || IsLostReference(item))
                 CheckNames(item, "path", item.Text("path"), ioRun);
-            if (item.role == ItemRole::Conditional)
+            if (item.role == ItemRole::Conditional || IsLostReference(item))
                 if (const auto parts = PartsOf(item.Text("condition")))
                     CheckNames(item, "condition", parts->path, ioRun);
         }

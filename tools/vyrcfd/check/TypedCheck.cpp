@@ -242,7 +242,8 @@ void TypedCheck::MergeUnoffered(const SourceItem& iItem, std::size_t iFound, Tri
     if (first->second >= ioFindings.size())
         return;
     Finding& finding = ioFindings[first->second].finding;
-    finding.message += (finding.related.empty() ? "; it also stands in item " : ", item ") + std::to_string(iItem.number);
+    finding.message +=
+        (finding.related.empty() ? "; it also stands in item " : ", item ") + std::to_string(iItem.number);
     finding.related.push_back({merged.file, merged.position.line});
 }
 
@@ -291,7 +292,7 @@ void TypedCheck::TryReference(const SourceItem& iItem, const Trial& iTrial, Tria
     else if (m_presentData.Try(iItem, iTrial, oFindings))
         guard = Guard::Odd;
     // What such a path was to lead to is not known.
-    if (guard != Guard::None && EndOfNames(path) == path.size())
+    if (EndOfNames(path) == path.size())
     {
         const bool follows = std::exchange(m_followsReferences, m_followsReferences && guard == Guard::Clear);
         for (const PathEnd& end : walk.Follow(path))
