@@ -1,6 +1,8 @@
 #include "CatalogCheck.h"
 
 #include <algorithm>
+#include <map>
+#include <string_view>
 
 #include "KnownTypes.h"
 #include "MeantLists.h"
@@ -21,8 +23,29 @@ public:
         const bool isOfChoice = iStartup.Has("choices") || iStartup.Has("Startups") || iStartup.Has("value");
         if (isOfChoice && IsChoice(m_objects.At(iPlace)))
             CheckChoice(iFile, iStartup, iPlace);
+        if (const SourceMember* const choices = isOfChoice ? iStartup.Find("choices") : nullptr)
+            CheckDoubled(iFile, *choices, FindingKind::DoesNothing, Severity::Error, "can be selected only once");
         for (const SourceMember& member : iStartup.members)
             Check(iFile, *member.value, iPlace.Component(member.key));
+    }
+
+    /// Tells of the first text that an array has a second time.
+    void CheckDoubled(const SourceFile& iFile, const SourceMember& iTexts, FindingKind iKind, Severity iSeverity,
+                      const std::string& iConsequence)
+    {
+        std::map<std::string_view, const SourceValue*> seen;
+        for (const SourceValue* text : iTexts.value->elements)
+        {
+            const auto [first, isFirst] = seen.try_emplace(text->text, text);
+            if (isFirst || text->text.empty())
+                continue;
+            Finding finding = FindingIn(iFile.Path(), text->position, iKind, iSeverity,
+                                        Quoted(text->text) + " stands twice, and " + iConsequence);
+            finding.key = iTexts.key;
+            finding.related.push_back({finding.file, first->second->position.line});
+            m_run.Add(std::move(finding));
+            return;
+        }
     }
 
 private:
@@ -82,7 +105,12 @@ void CheckCatalogStartups(const CatalogSource& iCatalogs, ScratchObjects& ioObje
 {
     CatalogCheck check(ioObjects, ioRun);
     for (const CatalogSource::Declaration& declaration : iCatalogs.Declarations())
+    {
         if (const SourceMember* startup = declaration.value->Find("startup"))
             check.Check(*declaration.file, *startup->value, {std::string(declaration.type)});
+        if (const SourceMember* configurations = declaration.value->Find("configurations"))
+            check.CheckDoubled(*declaration.file, *configurations, FindingKind::DuplicateEntry, Severity::Warning,
+                               "is meant for the type once");
+    }
 }
 } // namespace Tool

@@ -42,6 +42,9 @@ void TryManager(const SourceItem& iItem, const Trial& iTrial, const VYRICfdChoic
             if (Holds(declared, chosen) && Nearest(choice, declared) == chosen)
                 oFindings.back().replaced =
                     FindingAt(iItem, "default", FindingKind::DefaultNotInChoices, Severity::Error, {});
+            // Neither is a blank in it.
+            else if (!Holds(WrittenEntries(iLists.choices), choice))
+                oFindings.back().replaced = FindingAt(iItem, "choices", FindingKind::BlankInList, Severity::Error, {});
             return;
         }
     const std::string_view chosen = iItem.Text("default");
