@@ -91,6 +91,12 @@ TEST_F(InputTest, NamedPipe_IsRefused_AndNotWaitedFor)
     EXPECT_EQ(output.substr(0, output.find(';')), "pipe:1:1: error: is a named pipe, not a file");
 }
 
+TEST_F(InputTest, EmptyName_IsNoFile)
+{
+    for (const InputArguments& arguments : {InputArguments{"show", ""}, {"check", ""}, {"list", "--catalog", ""}})
+        EXPECT_EQ(Outcome(Run(arguments)), Outcome(1, "\"\" names no file\n")) << arguments.front();
+}
+
 TEST_F(InputTest, Device_IsRefused)
 {
     for (const char* device : {"/dev/zero", "/dev/null"})

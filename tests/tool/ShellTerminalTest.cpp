@@ -3,6 +3,8 @@
  * The shell at a terminal: prompts, errors that end nothing, the warning before changes are lost, history, completion.
  */
 
+#include <sstream>
+
 #include "ShellTest.h"
 
 namespace
@@ -32,6 +34,22 @@ TEST_F(ShellTest, Terminal_ShowsPromptsAndAnswers)
                           "vyrcfd> \n"
                           "vyrcfd> # nothing\n"
                           "vyrcfd> quit\n");
+}
+
+TEST_F(ShellTest, Terminal_WrapsTheListOfCommandsToItsWidth_WithTheirHelpBesideThem)
+{
+    constexpr std::size_t Columns = 72;
+    ToolSettings settings;
+    settings.typed = {"help\r"};
+    settings.environment = {{"TERM", "dumb"}, {"NO_COLOR", "1"}, {"VYRCFD_HISTORY", ""}};
+    settings.columns = Columns;
+    const ToolRun run = SessionWith(Small, settings);
+    EXPECT_TRUE(Contains(run.output, "\nset PATH VALUE                gives an attribute a value; an enumeration\n"
+                                     "                              takes its text, an object attribute a path\n"))
+        << run.output;
+    std::istringstream lines(run.output);
+    for (std::string line; std::getline(lines, line);)
+        EXPECT_LE(line.size(), Columns) << line;
 }
 
 TEST_F(ShellTest, Terminal_GoesOnAfterAFailure_AndTellsNoLine)

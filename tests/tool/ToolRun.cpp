@@ -7,6 +7,7 @@
 #include <iterator>
 #include <optional>
 #include <stdexcept>
+#include <sys/ioctl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -77,6 +78,13 @@ public:
     ~Terminal() { close(m_descriptor); }
     Terminal(const Terminal&) = delete;
     Terminal& operator=(const Terminal&) = delete;
+
+    void SetWidth(unsigned short iColumns) const
+    {
+        winsize size = {};
+        size.ws_col = iColumns;
+        ioctl(m_descriptor, TIOCSWINSZ, &size);
+    }
 
     const char* Path() const { return m_path.c_str(); }
 
@@ -184,6 +192,8 @@ ToolRun RunTool(const std::vector<std::string>& iArguments, const ToolSettings& 
     if (iSettings.terminal || !iSettings.typed.empty())
         terminal.emplace();
     // The terminal ends when its last writer does, so one has to be there before the first read.
+    if (terminal)
+        terminal->SetWidth(iSettings.columns);
     const int writer = terminal ? open(terminal->Path(), O_RDWR | O_NOCTTY | O_CLOEXEC) : -1;
 
     const pid_t child = fork();

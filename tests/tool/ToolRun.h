@@ -43,6 +43,8 @@ struct ToolSettings
     /// Keys that somebody types: standard input and standard output are a terminal, and each text is typed at a prompt,
     /// one after the other. At a prompt for which nothing is left, Ctrl-D is.
     std::vector<std::string> typed;
+    /// Columns of the terminal; 0 where it does not say how many it has.
+    unsigned short columns = 0;
     /// No file may become longer; 0 for any length.
     unsigned long longestFile = 0;
 };

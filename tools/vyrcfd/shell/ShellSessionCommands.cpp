@@ -7,8 +7,10 @@
 
 #include "Failure.h"
 #include "Outcome.h"
+#include "Paragraphs.h"
 #include "ShellCommands.h"
 #include "Table.h"
+#include "TerminalWidth.h"
 #include "Wording.h"
 
 namespace Tool
@@ -20,7 +22,17 @@ std::string CommandsText()
     std::vector<std::vector<std::string>> rows;
     for (const ShellCommand& command : ShellCommands())
         rows.push_back({command.usage, command.help});
-    return TableText(rows, {});
+    const std::string table = TableText(rows, {});
+    // Narrower, a second column has no room.
+    constexpr std::size_t Narrowest = 60;
+    const std::size_t width = TerminalWidth();
+    if (width < Narrowest)
+        return table;
+    std::istringstream lines(table);
+    std::string text;
+    for (std::string line; std::getline(lines, line);)
+        text += WrappedLine(line, width);
+    return text;
 }
 
 std::string CommandText(const ShellCommand& iCommand)

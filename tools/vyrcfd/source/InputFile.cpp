@@ -10,6 +10,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "Failure.h"
 #include "Progress.h"
 #include "VYRStandaloneErrors.h"
 #include "Wording.h"
@@ -105,6 +106,8 @@ void KeepPipe(const std::string& iFile, int iDescriptor)
 
 void AdmitInput(const std::string& iFile)
 {
+    if (iFile.empty())
+        throw Failure("\"\" names no file");
     struct stat status = StatusOf(iFile);
     if (S_ISFIFO(status.st_mode))
     {

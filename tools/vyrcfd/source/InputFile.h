@@ -18,6 +18,7 @@ constexpr std::uintmax_t LargestInput = std::uintmax_t{2} << 30U;
  * To be called before a model or a catalog that a user names is opened. What comes through a pipe that the process has
  * open, as /dev/stdin or by <(...) of a shell, is read to its end and kept under that name from then on, so that it can
  * be read several times as a file can.
+ * @throws Failure for an empty name
  * @throws VYRStandalone::DocumentError for what is no file and no such pipe, and for what is too large. What is not
  * there, and a folder, are let pass: the reader has words for these.
  */
