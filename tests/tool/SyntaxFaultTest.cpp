@@ -52,6 +52,7 @@ const Mistake Commas[] = {
     {"MissingBehindLongText", "[\"" + std::string(60, 'x') + "\" 1]", "1:64", "a comma is missing behind at 1:2"},
     {"Semicolon", "[1; 2]", "1:3", "entries are parted by a comma, not by \";\""},
     {"Decimal", "{\"a\": 0,35}", "1:8", "a decimal comma is written as a point: 0.35"},
+    {"DecimalBehindPoint", "{\"a\": 1.5,3}", "1:11", "a key stands in quotation marks: \"3\""},
     {"DecimalBelowZero", "{\"a\": -12,5e3}", "1:10", "a decimal comma is written as a point: -12.5e3"},
 };
 INSTANTIATE_TEST_SUITE_P(Commas, Mistakes, testing::ValuesIn(Commas), NameOf);
@@ -163,6 +164,7 @@ const Mistake Values[] = {
     {"Unit", "{\"a\": 1.5m}", "1:7",
      "\"1.5m\" is no number; a value with a unit is a text, in quotation marks: \"1.5m\""},
     {"Version", "[1.2.3]", "1:2", "\"1.2.3\" is no number; one is written as 2, -0.5 or 1.5e-3"},
+    {"PointAlone", "[.]", "1:2", "\".\" is no number; one is written as 2, -0.5 or 1.5e-3"},
     {"ExponentWithoutDigits", "[1e]", "1:2", "\"1e\" is no number; one is written as 2, -0.5 or 1.5e-3"},
 };
 INSTANTIATE_TEST_SUITE_P(Values, Mistakes, testing::ValuesIn(Values), NameOf);

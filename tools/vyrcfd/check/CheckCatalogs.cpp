@@ -75,6 +75,23 @@ InstalledCatalogs CatalogsOf(const Installation& iInstallation)
     return catalogs;
 }
 
+/// A suggestion that the host makes itself, in place of that in its message.
+void TakeSuggestionOut(Finding& ioFinding)
+{
+    constexpr std::string_view Begin = "; did you mean \"";
+    constexpr std::string_view End = "\"?";
+    const std::size_t begin = ioFinding.message.find(Begin);
+    const std::size_t end = ioFinding.message.find(End, begin);
+    if (!ioFinding.suggestion.empty() || begin == std::string::npos || end == std::string::npos)
+        return;
+    const std::string suggestion = ioFinding.message.substr(begin + Begin.size(), end - begin - Begin.size());
+    // One with escapes would have to be read first.
+    if (suggestion.find('\\') != std::string::npos)
+        return;
+    ioFinding.suggestion = suggestion;
+    ioFinding.message.erase(begin, end + End.size() - begin);
+}
+
 /// Declares a catalog by its name, as a model without objects that uses it does: one that is declared already holds.
 void DeclareInstalled(const std::string& iName, const Installation& iInstallation)
 {
@@ -181,6 +198,7 @@ void CheckCatalogs::AddErrors(const std::vector<std::string>& iFolders, CheckRun
         Finding finding = FindingIn(error.File(), fault.position, FindingKind::UnreadableFile, Severity::Error,
                                     message + fault.remark + NothingIsChecked);
         finding.suggestion = fault.suggestion;
+        TakeSuggestionOut(finding);
         ioRun.Add(std::move(finding));
     }
     m_haveFailed = m_haveFailed || !m_errors.empty();

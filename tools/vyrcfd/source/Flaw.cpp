@@ -89,6 +89,8 @@ std::string FromHex(std::string_view iDigits)
 /// As JSON has the number that other languages write so; empty where it is none.
 std::string MeantNumber(std::string_view iWord)
 {
+    if (iWord.find_first_of(Digits) == std::string_view::npos)
+        return {};
     const bool isNegative = BeginsAt(iWord, 0, "-");
     std::string_view rest = iWord.substr(isNegative || BeginsAt(iWord, 0, "+") ? 1 : 0);
     std::string meant = isNegative ? "-" : "";

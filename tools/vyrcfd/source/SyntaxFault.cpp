@@ -272,12 +272,14 @@ private:
         return std::nullopt;
     }
 
-    /// Whether the last comma stands between digits.
+    /// Whether the last comma stands between digits, of which the first are a whole number.
     bool IsDecimalComma() const
     {
         constexpr std::string_view digits = "0123456789";
         return m_at == m_end && m_tokenBegin > 0 && m_text[m_tokenBegin] == ',' &&
-               IsIn(m_text[m_tokenBegin - 1], digits) && IsIn(m_text[m_at], digits);
+               IsIn(m_text[m_tokenBegin - 1], digits) && IsIn(m_text[m_at], digits) &&
+               m_text.substr(m_valueBegin, m_tokenBegin - m_valueBegin).find_first_not_of("-0123456789") ==
+                   std::string_view::npos;
     }
 
     std::string_view DigitsAt(std::size_t iAt) const
