@@ -39,7 +39,7 @@ struct CheckRun
     /// is said of what would follow from that.
     std::set<std::string, std::less<>> ambiguous{};
 
-    /// What the only item that applies its own configuration was probably meant to apply; empty where that is not known.
+    /// What the only item that applies its own configuration was probably meant to apply; empty where nobody knows.
     std::string meantInsteadOfItself{};
     /// Items by which configurations lead back to themselves, each as its configuration and number.
     std::set<std::pair<const SourceConfiguration*, std::size_t>> closing{};

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "ItemTrial.h"
 #include "MeantLists.h"
 #include "ScratchObjects.h"
