@@ -23,6 +23,7 @@ cmake_dependent_option(VYRCFD_BUILD_BENCH
 option(VYRCFD_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 set(VYRCFD_SANITIZE "" CACHE STRING "Sanitizers for the whole tree, as -fsanitize= takes them; clang")
 option(VYRCFD_UNITY "Compile the tests, the tool and, under sanitizers, the host some sources at a time" OFF)
+option(VYRCFD_TESTS_TOGETHER "Run the tests of a program in one process, which is faster where to start one takes long" OFF)
 option(VYRCFD_COVERAGE "Measure which lines and branches of the two libraries run; clang" OFF)
 
 # What a newer library can stand in for: before 1.0.0 each minor version is one of its own, from then on each major one.

@@ -8,6 +8,10 @@ find_package(Python3 REQUIRED COMPONENTS Interpreter)
 set(VYR_TEST_DISCOVERY_SECONDS 60)
 # A test that hangs fails, and names itself, long before the whole run is given up.
 set(VYR_TEST_SECONDS 180)
+# All those of a program.
+set(VYR_TESTS_TOGETHER_SECONDS 1200)
+# In how many processes.
+set(VYR_TEST_SHARDS 1)
 
 # What nearly every test source includes, parsed once for all of them: it is more than half of what compiling one costs.
 # Only what never changes stands here, so that no edit of ours compiles all tests again.
@@ -30,15 +34,17 @@ function(vyr_precompiled target)
   vyr_unity(${target})
 endfunction()
 
-# vyr_add_test(<name> SOURCES <file>... [LABELS <label>...] [ENVIRONMENT <NAME=value>...])
+# vyr_add_test(<name> SOURCES <file>... [LABELS <label>...] [ENVIRONMENT <NAME=value>...] [SHARDS <number>])
 #
 # One GoogleTest program and its tests, each of which is then one test of ctest, in a process of its own, called
 # <name>.Suite.Test and run from the root of the repository. It is labelled with its folder, the area, besides LABELS.
+# With VYRCFD_TESTS_TOGETHER all tests of a program run in one process, or in SHARDS of them where they take long,
+# called <name>.together.<shard>.
 # The sources see the public faces and tests/support, and two macros with absolute paths:
 #   VYR_SAMPLES_DIR    the sample installation, samples/
 #   VYR_TEST_DATA_DIR  the area's own data, tests/<area>/data
 function(vyr_add_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LABELS;ENVIRONMENT")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "SHARDS" "SOURCES;LABELS;ENVIRONMENT")
   vyr_refuse_leftovers(vyr_add_test "${name}" "${arg_UNPARSED_ARGUMENTS}")
   if(NOT arg_SOURCES)
     message(FATAL_ERROR "vyr_add_test(${name}): no SOURCES")
@@ -51,7 +57,10 @@ function(vyr_add_test name)
   target_compile_definitions(${name} PRIVATE
     VYR_SAMPLES_DIR="${PROJECT_SOURCE_DIR}/samples"
     VYR_TEST_DATA_DIR="${CMAKE_CURRENT_SOURCE_DIR}/data")
-  vyr_discover(${name} "" "" "${arg_LABELS}" "${arg_ENVIRONMENT}")
+  if(arg_SHARDS)
+    set(VYR_TEST_SHARDS ${arg_SHARDS})
+  endif()
+  vyr_declare_tests(${name} "" "" "${arg_LABELS}" "${arg_ENVIRONMENT}")
 endfunction()
 
 # vyr_add_test_setting(<name> <setting> ENVIRONMENT <NAME=value>... [FILTER <gtest filter>] [LABELS <label>...])
@@ -61,7 +70,7 @@ endfunction()
 function(vyr_add_test_setting name setting)
   cmake_parse_arguments(PARSE_ARGV 2 arg "" "FILTER" "LABELS;ENVIRONMENT")
   vyr_refuse_leftovers(vyr_add_test_setting "${name}" "${arg_UNPARSED_ARGUMENTS}")
-  vyr_discover(${name} "@${setting}" "${arg_FILTER}" "${arg_LABELS}" "${arg_ENVIRONMENT}")
+  vyr_declare_tests(${name} "@${setting}" "${arg_FILTER}" "${arg_LABELS}" "${arg_ENVIRONMENT}")
 endfunction()
 
 # vyr_add_script_test(<area>.<name> <script> [<argument>...])
@@ -77,6 +86,38 @@ function(vyr_refuse_leftovers function name leftovers)
   if(leftovers)
     message(FATAL_ERROR "${function}(${name}): cannot read \"${leftovers}\"")
   endif()
+endfunction()
+
+# vyr_declare_tests(<name> <suffix> <filter> <labels> <environment>)
+#
+# The tests of a GoogleTest program that is there already.
+function(vyr_declare_tests name suffix filter labels environment)
+  if(VYRCFD_TESTS_TOGETHER)
+    vyr_add_together(${name} "${suffix}" "${filter}" "${labels}" "${environment}")
+  else()
+    vyr_discover(${name} "${suffix}" "${filter}" "${labels}" "${environment}")
+  endif()
+endfunction()
+
+# Each process leaves its tests in test-results/, where count_tests.py looks for them.
+function(vyr_add_together name suffix filter labels environment)
+  get_filename_component(area "${CMAKE_CURRENT_SOURCE_DIR}" NAME)
+  if(NOT filter)
+    set(filter *)
+  endif()
+  math(EXPR last "${VYR_TEST_SHARDS} - 1")
+  foreach(shard RANGE ${last})
+    set(test "${name}${suffix}.together.${shard}")
+    set(results "${PROJECT_BINARY_DIR}/test-results/${test}.xml")
+    set(settings GTEST_TOTAL_SHARDS=${VYR_TEST_SHARDS} GTEST_SHARD_INDEX=${shard} ${environment})
+    add_test(NAME "${test}"
+      COMMAND ${name} --gtest_brief=1 "--gtest_filter=${filter}" "--gtest_output=xml:${results}"
+      WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}")
+    set_tests_properties("${test}" PROPERTIES
+      TIMEOUT ${VYR_TESTS_TOGETHER_SECONDS}
+      LABELS "${area};${labels}"
+      ENVIRONMENT "${settings}")
+  endforeach()
 endfunction()
 
 function(vyr_discover name suffix filter labels environment)

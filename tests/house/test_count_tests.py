@@ -14,6 +14,24 @@ NO_PROGRAM = '<testcase name="c" status="notrun"><skipped message="Unable to fin
 SKIPPED = '<testcase name="d" status="notrun"><skipped message="SKIP_REGULAR_EXPRESSION_MATCHED"/></testcase>'
 DISABLED = '<testcase name="e" status="disabled"><skipped message="Disabled"/></testcase>'
 
+TOGETHER_PASSED = '<testcase name="p.together.0" status="run"/>'
+TOGETHER_FAILED = '<testcase name="p.together.0" status="fail"><failure message="Failed"/></testcase>'
+ONE_PASSED = '<testcase name="a" status="run" result="completed"/>'
+ONE_FAILED = '<testcase name="b" status="run" result="completed"><failure message="no"/></testcase>'
+ONE_SKIPPED = '<testcase name="c" status="run" result="skipped"><skipped message="s"/></testcase>'
+ONE_DISABLED = '<testcase name="d" status="notrun" result="suppressed"/>'
+
+# Name of the case, the process, what it left (None: nothing), the line that is printed, the exit status.
+CASES_TOGETHER = [
+    ("all passed", TOGETHER_PASSED, [ONE_PASSED, ONE_PASSED], "dev 3 0 0\n", 0),
+    ("one failed", TOGETHER_FAILED, [ONE_PASSED, ONE_FAILED], "dev 2 1 0\n", 1),
+    ("one skipped, one disabled", TOGETHER_PASSED, [ONE_PASSED, ONE_SKIPPED, ONE_DISABLED], "dev 2 0 1\n", 0),
+    ("failed at its end", TOGETHER_FAILED, [ONE_PASSED, ONE_PASSED], "dev 3 1 0\n", 1),
+    ("passed, and a test failed", TOGETHER_PASSED, [ONE_PASSED, ONE_FAILED], "dev 2 1 0\n", 1),
+    ("left nothing", TOGETHER_PASSED, None, "dev 1 1 0\n", 1),
+    ("no test in this shard", TOGETHER_PASSED, [], "dev 1 0 0\n", 0),
+]
+
 # Name of the case, the test cases in the results, the line that is printed, the exit status.
 CASES = [
     ("all passed", [PASSED, PASSED], "dev 2 0 0\n", 0),
@@ -26,11 +44,14 @@ CASES = [
 
 
 class CountTests(unittest.TestCase):
-    def run_main(self, text):
+    def run_main(self, text, together=None):
         with tempfile.TemporaryDirectory() as folder:
             results = pathlib.Path(folder) / "results.xml"
             if text is not None:
                 results.write_text(text, encoding="utf-8")
+            if together is not None:
+                (results.parent / "test-results").mkdir()
+                (results.parent / "test-results/p.together.0.xml").write_text(together, encoding="utf-8")
             output = io.StringIO()
             with contextlib.redirect_stdout(output):
                 status = count_tests.main(["dev", str(results)])
@@ -40,6 +61,12 @@ class CountTests(unittest.TestCase):
         for name, cases, line, status in CASES:
             with self.subTest(name):
                 self.assertEqual(self.run_main(f"<testsuite>{''.join(cases)}</testsuite>"), (line, status))
+
+    def test_cases_together(self):
+        for name, process, cases, line, status in CASES_TOGETHER:
+            with self.subTest(name):
+                left = None if cases is None else f"<testsuites><testsuite>{''.join(cases)}</testsuite></testsuites>"
+                self.assertEqual(self.run_main(f"<testsuite>{PASSED}{process}</testsuite>", left), (line, status))
 
     def test_results_that_are_not_there_or_broken_are_a_failure(self):
         for text in (None, "<testsuite><testcase"):
