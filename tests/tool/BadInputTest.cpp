@@ -126,6 +126,15 @@ const BadInput Models[] = {
     {"UnitMisspelt", Replaced(Model, "3.06 degree", "3.06 degre"), ShowModel, 1,
      Model + ":21:30: /objects/0/values/freestream/values/angleOfAttack: no number, or no unit like \"rad\": "
              "\"3.06 degre\"; did you mean \"3.06 degree\"?\n"},
+    {"CatalogThatIsAFolder",
+     [](const TemporaryFolder& iFolder) {
+         Replaced(Model, "\"ExternalFlow\"", "\"Folder\"")(iFolder);
+         std::filesystem::create_directory(iFolder.Path("samples/catalogs/Folder.catalog.json"));
+     },
+     ShowModel, 1,
+     Model + ":3:16: /catalogs/0: unknown catalog \"Folder\": no file \"Folder.catalog.json\" in \"samples/models\", "
+             "\"samples/catalogs\", and none of that name is declared; samples/catalogs/Folder.catalog.json is a "
+             "folder, not a file\n"},
     {"CatalogNotFound", Replaced(Model, "\"ExternalFlow\"", "\"Nowhere\""), ShowModel, 1,
      Model + ":3:16: /catalogs/0: unknown catalog \"Nowhere\": no file \"Nowhere.catalog.json\" in \"samples/models\", "
              "\"samples/catalogs\", and none of that name is declared\n"},

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "CatalogFile.h"
+#include "ConfigurationSource.h"
 #include "DocumentMessage.h"
 #include "MeantUnit.h"
 #include "SourceFile.h"
@@ -33,7 +34,8 @@ std::vector<std::string> CatalogNames(const std::vector<std::string>& iFolders)
     {
         std::error_code ignored;
         for (const fs::directory_entry& entry : fs::directory_iterator(folder, ignored))
-            if (std::string name = CatalogSoughtIn(entry.path().filename().string()); !name.empty())
+            if (std::string name = CatalogSoughtIn(entry.path().filename().string());
+                !name.empty() && entry.is_regular_file(ignored))
                 names.push_back(std::move(name));
     }
     std::sort(names.begin(), names.end());
@@ -79,6 +81,14 @@ DocumentFault OfUnit(const MeantUnit& iMeant)
     return {{}, true, iMeant.text, {}, iMeant.Remark()};
 }
 
+DocumentFault OfCatalog(const std::string& iName, const std::vector<std::string>& iFolders)
+{
+    for (const std::string& folder : iFolders)
+        if (const std::string path = (fs::path(folder) / CatalogFileOf(iName)).string(); !NoFileOf(path).empty())
+            return {{}, true, {}, {}, "; " + OneLine(path) + " " + NoFileOf(path)};
+    return {{}, true, Nearest(iName, CatalogNames(iFolders))};
+}
+
 /// Without position. @param iMember what is written at the place that the error tells
 DocumentFault MeantAt(const SourceMember& iMember, const std::string& iMessage, const SourceFile& iFile,
                       const std::vector<std::string>& iCatalogFolders)
@@ -93,7 +103,7 @@ DocumentFault MeantAt(const SourceMember& iMember, const std::string& iMessage, 
     {
         std::vector<std::string> folders = iCatalogFolders;
         folders.push_back(fs::absolute(iFile.Path()).parent_path().string());
-        return {{}, true, Nearest(iMember.value->text, CatalogNames(folders))};
+        return OfCatalog(iMember.value->text, folders);
     }
     if (BeginsWith(iMessage, "type ") && iMessage.find(" has no attribute ") != std::string::npos)
         return {{}, true, Nearest(iMember.key, AttributesOf(FirstQuoted(iMessage), iFile.Root()))};
