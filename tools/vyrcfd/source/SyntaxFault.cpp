@@ -11,6 +11,8 @@ namespace Tool
 namespace
 {
 constexpr std::string_view JsonBlanks = " \t\r\n";
+/// That documents may have.
+constexpr std::size_t DeepestNesting = 1000;
 
 bool IsIn(char iByte, std::string_view iSet)
 {
@@ -37,6 +39,9 @@ public:
                 return AtEnd();
             if (std::optional<Flaw> flaw = IsComment(m_text, m_at) ? Comment() : Step())
                 return flaw;
+            // The reader refuses it here, and says so; how it goes on is not looked at.
+            if (m_open.size() > DeepestNesting)
+                return std::nullopt;
         }
     }
 
