@@ -2,6 +2,7 @@
 
 #include <set>
 
+#include "AttributeKind.h"
 #include "AttributeReader.h"
 #include "ListNames.h"
 #include "ModelSurvey.h"
@@ -14,32 +15,6 @@ namespace
 {
 constexpr char SetSuffix[] = "_isset";
 constexpr char AutoSuffix[] = "_isauto";
-
-const char* NameOfKind(int iType)
-{
-    switch (iType)
-    {
-    case tk_double:
-        return "real";
-    case tk_boolean:
-        return "boolean";
-    case tk_enum:
-        return "enumeration";
-    case tk_string:
-        return "string";
-    case tk_specobject:
-        return "reference";
-    case tk_list:
-        return "list";
-    case tk_component:
-        return "component";
-    case tk_integer:
-        return "integer";
-    default:
-        break;
-    }
-    return "unknown";
-}
 
 /// A flag that default management holds; nothing where there is none.
 std::optional<bool> ReadFlag(const ORXISpecAttrAccess_var& iFlags, const std::string& iName)

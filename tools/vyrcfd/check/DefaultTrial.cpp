@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "AttributeKind.h"
 #include "AttributeReader.h"
 #include "ItemTrial.h"
 #include "MeantLists.h"
@@ -52,21 +53,8 @@ std::string KindOf(const VYRStandalone::AttributeInfo& iInfo)
 /// What stands under "type" for an attribute; empty for such as have no default.
 std::string TypeWordOf(int iType)
 {
-    switch (iType)
-    {
-    case tk_double:
-        return "real";
-    case tk_integer:
-        return "integer";
-    case tk_boolean:
-        return "boolean";
-    case tk_enum:
-        return "enumeration";
-    case tk_string:
-        return "string";
-    default:
-        return {};
-    }
+    std::string name = NameOfKind(iType);
+    return Holds(TypeWords(), name) ? name : std::string();
 }
 
 bool FitsTypeWord(std::string_view iWord, const std::string& iText)
