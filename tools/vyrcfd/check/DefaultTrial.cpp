@@ -214,10 +214,11 @@ DefaultTrial::Verdict DefaultTrial::TryOnAttribute(const Trial& iTrial, const st
         return {false,
                 FindingKind::DefaultReopensDifferently,
                 false,
-                what + "has the default " + now.Shown() + " " + iTrial.Where() +
-                    " until the model is closed; opened again, it has " +
-                    (later.IsUnset() ? std::string("none") : "the default " + later.Shown()),
-                {}};
+                what + "has the default " + now.Shown() + " until the model is closed, and " +
+                    (later.IsUnset() ? "none" : later.Shown()) + " once it is opened again, " + iTrial.Where(),
+                {},
+                // Read without its unit a number is one of the standard's.
+                info.type == tk_double ? Taken(spManagement, name, now.Shown()) : std::string()};
     return {};
 }
 } // namespace Tool

@@ -1,6 +1,7 @@
 #include "TypeGuess.h"
 
 #include <algorithm>
+#include <set>
 
 #include "ConditionText.h"
 #include "ORXISpecAttrKey.h"
@@ -32,7 +33,10 @@ std::vector<std::string> NamesWanted(const SourceItem& iItem)
 }
 } // namespace
 
-TypeGuess::TypeGuess(ScratchObjects& ioObjects) : m_objects(ioObjects), m_types(VYRStandalone::TypeNames()) {}
+TypeGuess::TypeGuess(ScratchObjects& ioObjects, Suggestions& ioSuggestions)
+    : m_objects(ioObjects), m_suggestions(ioSuggestions), m_types(VYRStandalone::TypeNames())
+{
+}
 
 std::vector<std::string> TypeGuess::TypesFor(const SourceConfiguration& iConfiguration)
 {
@@ -48,7 +52,7 @@ std::vector<std::string> TypeGuess::TypesFor(const SourceConfiguration& iConfigu
         if (item.role == ItemRole::Choice)
             vote(Choices());
         for (const std::string& name : NamesWanted(item))
-            vote(TypesWith(name));
+            vote(TypesMeant(name));
     }
     std::size_t most = 0;
     for (const auto& [type, count] : votes)
@@ -97,6 +101,34 @@ const TypeGuess::Types& TypeGuess::TypesWith(const std::string& iName)
                 found->second.push_back(type);
         }
     return found->second;
+}
+
+const TypeGuess::Types& TypeGuess::TypesMeant(const std::string& iName)
+{
+    const Types& exact = TypesWith(iName);
+    if (!exact.empty())
+        return exact;
+    const auto [found, isNew] = m_meant.try_emplace(iName);
+    if (isNew)
+        found->second = m_suggestions.OnlySlipOf(iName, AllNames());
+    return found->second.empty() ? exact : TypesWith(found->second);
+}
+
+const std::vector<std::string>& TypeGuess::AllNames()
+{
+    if (!m_names.empty())
+        return m_names;
+    std::set<std::string> names;
+    for (const std::string& type : m_types)
+    {
+        const VYRCfdObjectAccess object = m_objects.At({type});
+        if (!VYRIMpaDefaultManagementProtected_var(object.Self()))
+            continue;
+        for (std::string& name : NamesOn(object))
+            names.insert(std::move(name));
+    }
+    m_names.assign(names.begin(), names.end());
+    return m_names;
 }
 
 const TypeGuess::Types& TypeGuess::Choices()

@@ -48,7 +48,9 @@ bool BlameReference(const SourceItem& iOrigin, const SourceConfiguration& iConfi
 }
 } // namespace
 
-TypedCheck::TypedCheck(CheckRun& ioRun) : m_run(ioRun), m_guess(m_objects), m_overlap(ioRun.source) {}
+TypedCheck::TypedCheck(CheckRun& ioRun) : m_run(ioRun), m_guess(m_objects, ioRun.suggestions), m_overlap(ioRun.source)
+{
+}
 
 void TypedCheck::Check(const CatalogSource& iCatalogs)
 {
