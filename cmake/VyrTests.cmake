@@ -34,17 +34,18 @@ function(vyr_precompiled target)
   vyr_unity(${target})
 endfunction()
 
-# vyr_add_test(<name> SOURCES <file>... [LABELS <label>...] [ENVIRONMENT <NAME=value>...] [SHARDS <number>])
+# vyr_add_test(<name> SOURCES <file>... [LABELS <label>...] [ENVIRONMENT <NAME=value>...]
+#              [SHARDS <number>] [SEPARATE])
 #
 # One GoogleTest program and its tests, each of which is then one test of ctest, in a process of its own, called
 # <name>.Suite.Test and run from the root of the repository. It is labelled with its folder, the area, besides LABELS.
 # With VYRCFD_TESTS_TOGETHER all tests of a program run in one process, or in SHARDS of them where they take long,
-# called <name>.together.<shard>.
+# called <name>.together.<shard>; not with SEPARATE, for tests that may end their process.
 # The sources see the public faces and tests/support, and two macros with absolute paths:
 #   VYR_SAMPLES_DIR    the sample installation, samples/
 #   VYR_TEST_DATA_DIR  the area's own data, tests/<area>/data
 function(vyr_add_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "SHARDS" "SOURCES;LABELS;ENVIRONMENT")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "SEPARATE" "SHARDS" "SOURCES;LABELS;ENVIRONMENT")
   vyr_refuse_leftovers(vyr_add_test "${name}" "${arg_UNPARSED_ARGUMENTS}")
   if(NOT arg_SOURCES)
     message(FATAL_ERROR "vyr_add_test(${name}): no SOURCES")
@@ -59,6 +60,9 @@ function(vyr_add_test name)
     VYR_TEST_DATA_DIR="${CMAKE_CURRENT_SOURCE_DIR}/data")
   if(arg_SHARDS)
     set(VYR_TEST_SHARDS ${arg_SHARDS})
+  endif()
+  if(arg_SEPARATE)
+    set(VYRCFD_TESTS_TOGETHER OFF)
   endif()
   vyr_declare_tests(${name} "" "" "${arg_LABELS}" "${arg_ENVIRONMENT}")
 endfunction()
@@ -111,7 +115,7 @@ function(vyr_add_together name suffix filter labels environment)
     set(results "${PROJECT_BINARY_DIR}/test-results/${test}.xml")
     set(settings GTEST_TOTAL_SHARDS=${VYR_TEST_SHARDS} GTEST_SHARD_INDEX=${shard} ${environment})
     add_test(NAME "${test}"
-      COMMAND ${name} --gtest_brief=1 "--gtest_filter=${filter}" "--gtest_output=xml:${results}"
+      COMMAND ${name} "--gtest_filter=${filter}" "--gtest_output=xml:${results}"
       WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}")
     set_tests_properties("${test}" PROPERTIES
       TIMEOUT ${VYR_TESTS_TOGETHER_SECONDS}

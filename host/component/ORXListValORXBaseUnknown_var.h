@@ -15,8 +15,8 @@
  * The first entry is at 1, the last at `Size()`. Entries may be null. A position out of range is the caller's fault.
  *
  * A list may be lent its entries by who holds the components anyway: then they are not counted once more, which is what
- * a long list costs, until the lender is about to let one go or the list itself is changed. Nobody else notices. A list
- * and its lender are used by one thread.
+ * a long list costs, until the lender is about to let one go or the list itself is changed. Only their counts show it.
+ * A list and its lender are used by one thread.
  */
 class ORXListValORXBaseUnknown_var
 {
@@ -115,9 +115,15 @@ private:
     {
         if (m_place == nullptr)
             return;
-        for (const ORXBaseUnknown_var& entry : m_entries)
-            if (entry.Pointer() != nullptr)
-                entry.Pointer()->CountIn();
+        for (std::size_t i = 0; i < m_entries.size(); ++i)
+        {
+            // What a long list costs is waiting for the components that are counted.
+            constexpr std::size_t Ahead = 16;
+            if (i + Ahead < m_entries.size())
+                __builtin_prefetch(m_entries[i + Ahead].Pointer(), 1);
+            if (ORXBaseUnknown* const component = m_entries[i].Pointer())
+                component->CountIn();
+        }
         LeaveLender();
     }
     void LeaveLender() noexcept

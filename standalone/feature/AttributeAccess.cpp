@@ -427,12 +427,9 @@ ORXListValORXBaseUnknown_var* AttributeAccess::ListObjects(ORXISpecAttrKey* iKey
     if (key == nullptr || !key->IsListOfObjects())
         return list.release();
     const Objects& objects = std::get<Objects>(m_object.Entries(*key));
-    // The objects of a start-up are not counted, and their slots are shared by all threads.
+    // A start-up, whose slots all threads share, has none.
     if (!m_object.IsPrototype())
         list->Borrow(m_object.List(*key).borrowers, objects);
-    else
-        for (FeatureObject* const object : objects)
-            list->Append(ORXBaseUnknown_var::Share(object));
     return list.release();
 }
 

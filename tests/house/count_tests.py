@@ -5,7 +5,7 @@
 Reads what `ctest --output-junit` wrote and prints "NAME PASSED FAILED SKIPPED". A test that did not run is a failure,
 unless it skipped itself or is disabled; so is a run that left no results or ran no test. Where tests ran together in
 one process, they are counted as GoogleTest has left them in test-results/ beside RESULTS; a process that left nothing
-there, or failed although its tests passed, is a failure. Exit status: 0 no failure, 1 some.
+there, ran no test, or failed although its tests passed, is a failure. Exit status: 0 no failure, 1 some.
 """
 
 import collections
@@ -39,8 +39,8 @@ def outcomes_together(process, results):
         "failed" if case.find("failure") is not None else "skipped" if case.get("result") == "skipped" else "passed"
         for case in cases
     ]
-    # What GoogleTest does not see, as what is found at the end of the process.
-    if process == "failed" and "failed" not in outcomes:
+    # What GoogleTest does not see, as what is found at the end of the process, or a filter that fits nothing any more.
+    if not outcomes or (process == "failed" and "failed" not in outcomes):
         outcomes.append("failed")
     return outcomes
 

@@ -1054,7 +1054,7 @@ HRESULT VYRCfdObjectAccess::List(std::vector<VYRCfdObjectAccess>& oObjects, bool
     VYRCFD_PASS(CheckStanding(VYRCFD_FUNCTION));
     oObjects.clear();
     VYRCFD_ASSERT(_spKey->GetType() == tk_list && (_spKey->GetListType() == tk_component || _spKey->GetListType() == tk_specobject));
-    const std::unique_ptr<ORXListValORXBaseUnknown_var> pVals(_spAttr->ListObjects(_spKey, 0));
+    const std::unique_ptr<const ORXListValORXBaseUnknown_var> pVals(_spAttr->ListObjects(_spKey, 0));
     if (pVals == nullptr)
         return S_OK;
     oObjects.reserve(static_cast<std::size_t>(pVals->Size()));
@@ -1245,7 +1245,7 @@ HRESULT VYRCfdObjectAccess::Remove(const ORXBaseUnknown_var& iObject) const
     VYRCFD_PASS(CheckStanding(VYRCFD_FUNCTION));
     VYRCFD_ASSERT(iObject);
     VYRCFD_PASS(CheckObjectList(VYRCFD_FUNCTION));
-    const std::unique_ptr<ORXListValORXBaseUnknown_var> pVals(_spAttr->ListObjects(_spKey, 0));
+    const std::unique_ptr<const ORXListValORXBaseUnknown_var> pVals(_spAttr->ListObjects(_spKey, 0));
     if (pVals == nullptr)
         return S_FALSE;
     for (int i = 1; i <= pVals->Size(); ++i)
