@@ -72,7 +72,10 @@ public:
                                                     [&](const std::string& iName) { return IsUnreferred(iName); });
         m_unreferred.assign(m_known.begin(), referred);
         for (Unknown& unknown : m_unknown)
-            Resolve(unknown);
+            TakeForMisnamed(unknown);
+        for (Unknown& unknown : m_unknown)
+            if (m_misnamed.count(unknown.name) == 0)
+                Resolve(unknown);
         TakeForDuplicate();
         TakeForNameless();
         TakeForUnused();
@@ -175,22 +178,54 @@ private:
             m_unknown[known->second].items.push_back(*iItem);
     }
 
+    /// Where several places, or a catalog, agree on a name, and the one definition that has a slip of it is referred to
+    /// by nothing, it is the definition that is misspelt.
+    void TakeForMisnamed(Unknown& ioUnknown)
+    {
+        const std::size_t places = 1 + ioUnknown.finding.related.size();
+        const bool isAgreed = places > 1 || ioUnknown.items.empty();
+        const std::string written =
+            isAgreed ? m_run.suggestions.OnlySlipOf(ioUnknown.name, m_unreferred) : std::string();
+        const SourceConfiguration* const definition = written.empty() ? nullptr : m_run.source.Find(written);
+        if (definition == nullptr || AppliedBy(ioUnknown, written))
+            return;
+        std::vector<RelatedPlace> related{{ioUnknown.finding.file, ioUnknown.finding.position.line}};
+        related.insert(related.end(), ioUnknown.finding.related.begin(), ioUnknown.finding.related.end());
+        Finding finding =
+            FindingAt(*definition, "name", FindingKind::UnknownConfig, Severity::Error,
+                      "there is no configuration " + Quoted(ioUnknown.name) + ", to which " + Shown(related) +
+                          (places == 1 ? " refers" : " refer") + ", and nothing refers to " + Quoted(written));
+        finding.related = std::move(related);
+        finding.suggestion = ioUnknown.name;
+        ioUnknown.finding = std::move(finding);
+        m_misnamed.emplace(ioUnknown.name, written);
+        std::erase(m_unreferred, written);
+        std::replace(m_known.begin(), m_known.end(), written, ioUnknown.name);
+        TakeAsMeant(ioUnknown, written);
+    }
+
+    /// Whether the configuration itself is among those that refer to the name.
+    static bool AppliedBy(const Unknown& iUnknown, const std::string& iConfiguration)
+    {
+        return std::any_of(iUnknown.items.begin(), iUnknown.items.end(),
+                           [&](const SourceItem& iItem) { return iItem.configuration.name == iConfiguration; });
+    }
+
     void Resolve(Unknown& ioUnknown)
     {
         Finding& finding = ioUnknown.finding;
         if (!finding.related.empty())
-            finding.message += ", to which " + Shown(finding.related) +
-                               (finding.related.size() == 1 ? " refers" : " refer") + " as well";
+            finding.message +=
+                "; " + Shown(finding.related) + (finding.related.size() == 1 ? " refers" : " refer") + " to it as well";
         ioUnknown.message = finding.message;
         m_run.suggestions.Complete(finding, ioUnknown.name, m_known);
         // Nobody means a configuration to apply itself.
-        const bool isOwn = std::any_of(ioUnknown.items.begin(), ioUnknown.items.end(), [&](const SourceItem& iItem) {
-            return iItem.configuration.name == finding.suggestion;
-        });
-        if (!isOwn && !IsDoubtful(ioUnknown) && finding.suggestion == MeantBy(ioUnknown.name))
-            TakeAsMeant(ioUnknown, finding.suggestion);
-        else if (!finding.suggestion.empty())
-            TakeAsUsed(finding.suggestion);
+        const auto misnamed = m_misnamed.find(finding.suggestion);
+        const std::string written = misnamed != m_misnamed.end() ? misnamed->second : finding.suggestion;
+        if (!AppliedBy(ioUnknown, written) && !IsDoubtful(ioUnknown) && finding.suggestion == MeantBy(ioUnknown.name))
+            TakeAsMeant(ioUnknown, written);
+        else if (!written.empty())
+            TakeAsUsed(written);
     }
 
     /// The name that must have been meant; empty where that is not known. Of several only one that nothing refers to.
@@ -224,6 +259,9 @@ private:
     /// Whether no known name is so near that it must be the one.
     static bool IsDoubtful(const Unknown& iOne)
     {
+        // A definition is told to have that very name.
+        if (iOne.finding.suggestion == iOne.name)
+            return false;
         return iOne.finding.suggestion.empty() || !IsSingleSlip(iOne.name, iOne.finding.suggestion);
     }
 
@@ -377,6 +415,8 @@ private:
     std::size_t m_ownReferences = 0;
     /// Names that stand behind misspelt keys.
     std::unordered_set<std::string> m_misspelt;
+    /// Names that were meant by those of definitions, with these.
+    std::unordered_map<std::string, std::string> m_misnamed;
     std::vector<Unknown> m_unknown;
     /// By name.
     std::unordered_map<std::string, std::size_t> m_unknownAt;
