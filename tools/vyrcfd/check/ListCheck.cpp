@@ -1,7 +1,9 @@
 #include <algorithm>
+#include <optional>
 #include <set>
 
 #include "CheckRun.h"
+#include "ConditionText.h"
 #include "MeantLists.h"
 #include "Wording.h"
 
@@ -85,7 +87,7 @@ private:
         if (IsText(iItem, "Startups"))
             CheckStartups(iItem, lists, choices, startups);
         // A choice that is missing in the list may be the default.
-        if (startups <= choices.size() || !IsText(iItem, "Startups"))
+        if ((startups <= choices.size() || !IsText(iItem, "Startups")) && !TakeMisspeltChoice(iItem, lists))
             CheckDefault(iItem, choices);
     }
 
@@ -136,6 +138,39 @@ private:
     {
         const std::string_view chosen = iItem.Text("default");
         return !chosen.empty() && std::find(iChoices.begin(), iChoices.end(), chosen) == iChoices.end();
+    }
+
+    /// How many conditions of the item's configuration ask for a choice.
+    static std::size_t ConditionsOn(const SourceItem& iItem, std::string_view iChoice)
+    {
+        std::size_t number = 0;
+        for (const SourceItem& item : ItemsOf(iItem.configuration))
+        {
+            const std::optional<ConditionText> parts = PartsOf(item.Text("condition"));
+            number += parts && parts->path == "value" && parts->value == iChoice ? 1 : 0;
+        }
+        return number;
+    }
+
+    /// A choice is misspelt where the default and a condition agree on another name, of which it is a slip.
+    bool TakeMisspeltChoice(const SourceItem& iItem, const MeantLists& iLists)
+    {
+        const std::vector<std::string> choices = SplitTexts(iLists.choices);
+        const std::string chosen(iItem.Text("default"));
+        const std::string written = IsOutside(iItem, choices) ? OnlySlip(chosen, choices) : std::string();
+        const std::size_t asking = written.empty() ? 0 : ConditionsOn(iItem, chosen);
+        if (asking == 0 || ConditionsOn(iItem, written) != 0 || !iLists.findings.empty())
+            return false;
+        std::string meant;
+        for (const std::string& choice : choices)
+            meant += (&choice == &choices.front() ? "" : ", ") + (choice == written ? chosen : choice);
+        Finding finding = FindingAt(iItem, "choices", FindingKind::DefaultNotInChoices, Severity::Error,
+                                    "the default and " + Counted(asking, "condition") + " say " + Quoted(chosen) +
+                                        ", and the choice is " + Quoted(written));
+        finding.suggestion = meant;
+        m_run.Add(std::move(finding));
+        m_run.meant.SetText(iItem, "choices", std::move(meant));
+        return true;
     }
 
     void CheckDefault(const SourceItem& iItem, const std::vector<std::string>& iChoices)

@@ -89,6 +89,113 @@ const std::vector<Signs>& AllSigns()
     return all;
 }
 
+/// A list with signs around entries, or around the whole, that are no part of a name: what they are, and the list
+/// without them. No signs where there are none.
+struct Undressed
+{
+    std::string signs{};
+    std::string text{};
+};
+
+constexpr std::string_view NoBreakSpace = "\xC2\xA0";
+
+bool IsInQuotes(std::string_view iText)
+{
+    return iText.size() >= 2 && iText.front() == iText.back() && (iText.front() == '\'' || iText.front() == '"') &&
+           iText.find(iText.front(), 1) == iText.size() - 1;
+}
+
+bool IsInBrackets(std::string_view iText)
+{
+    constexpr std::string_view opening = "[{(";
+    constexpr std::string_view closing = "]})";
+    const std::size_t kind = iText.size() < 2 ? std::string_view::npos : opening.find(iText.front());
+    return kind != std::string_view::npos && iText.back() == closing[kind] &&
+           iText.find_first_of("[]{}()", 1) == iText.size() - 1;
+}
+
+/// Without no-break spaces and blanks at its ends.
+std::string WithoutNoBreakSpaces(std::string iEntry)
+{
+    for (std::string before; before != iEntry;)
+    {
+        before = iEntry;
+        iEntry = Trimmed(iEntry);
+        if (iEntry.starts_with(NoBreakSpace))
+            iEntry.erase(0, NoBreakSpace.size());
+        if (iEntry.ends_with(NoBreakSpace))
+            iEntry.resize(iEntry.size() - NoBreakSpace.size());
+    }
+    return iEntry;
+}
+
+std::string Inside(const std::string& iText)
+{
+    return iText.substr(1, iText.size() - 2);
+}
+
+Undressed WithoutSigns(const std::string& iText)
+{
+    std::string whole = WithoutNoBreakSpaces(iText);
+    std::string signs = whole != Trimmed(iText) ? "the no-break spaces (U+00A0)" : "";
+    const auto tell = [&](const char* iSigns) {
+        if (signs.find(iSigns) == std::string::npos)
+            signs += (signs.empty() ? "" : " and ") + std::string(iSigns);
+    };
+    if (IsInBrackets(whole))
+    {
+        tell("the brackets");
+        whole = Inside(whole);
+    }
+    if (IsInQuotes(whole))
+    {
+        tell("the quotation marks");
+        whole = Inside(whole);
+    }
+    std::string text;
+    bool isFirst = true;
+    for (const std::string& written : WrittenEntries(whole))
+    {
+        std::string entry = WithoutNoBreakSpaces(written);
+        if (entry != Trimmed(written))
+            tell("the no-break spaces (U+00A0)");
+        if (IsInQuotes(entry))
+        {
+            tell("the quotation marks");
+            entry = Inside(entry);
+        }
+        text += (isFirst ? "" : ", ") + entry;
+        isFirst = false;
+    }
+    return {signs, text};
+}
+
+/// The first entry that is not as it was meant.
+std::string FirstOther(const std::string& iWritten, const std::string& iMeant)
+{
+    const std::vector<std::string> meant = SplitTexts(iMeant);
+    for (const std::string& entry : SplitTexts(iWritten))
+        if (!Holds(meant, entry))
+            return entry;
+    return iWritten;
+}
+
+/// That signs around entries belong to them.
+Finding SignsInEntries(const SourceItem& iItem, const char* iKey, const std::string& iWritten, const Undressed& iMeant,
+                       Severity iSeverity)
+{
+    std::string entry = FirstOther(iWritten, iMeant.text);
+    std::string shown = Quoted(entry);
+    // It looks like any other blank.
+    for (std::size_t at = 0; (at = shown.find(NoBreakSpace, at)) != std::string::npos;)
+        shown.replace(at, NoBreakSpace.size(), "<U+00A0>");
+    Finding finding = FindingAt(iItem, iKey, FindingKind::WrongSeparator, iSeverity,
+                                "a comma alone parts the entries of a list: " + iMeant.signs +
+                                    " belong to the entries, such as " + shown);
+    finding.suggestion = iMeant.text;
+    return finding;
+}
+
 class ListsReader
 {
 public:
@@ -102,6 +209,8 @@ public:
     {
         MeantLists lists;
         lists.hasStartups = m_hasStartups;
+        TakeSignsOut("choices", m_written.choices, lists.findings);
+        TakeSignsOut("Startups", m_written.startups, lists.findings);
         TakeWhiteOut("choices", m_written.choices, lists.findings);
         TakeWhiteOut("Startups", m_written.startups, lists.findings);
         Reading reading = Parted(lists.findings);
@@ -119,6 +228,17 @@ public:
     }
 
 private:
+    /// Where the default is such an entry, the signs are part of it.
+    void TakeSignsOut(const char* iKey, std::string& ioText, std::vector<Finding>& oFindings) const
+    {
+        const Undressed meant = WithoutSigns(ioText);
+        if (meant.signs.empty() || Holds(SplitTexts(ioText), m_default))
+            return;
+        const Severity severity = m_default.empty() ? Severity::Warning : Severity::Error;
+        oFindings.push_back(SignsInEntries(m_item, iKey, ioText, meant, severity));
+        ioText = meant.text;
+    }
+
     /// The engine takes blanks out of entries, but no other white space.
     void TakeWhiteOut(const char* iKey, std::string& ioText, std::vector<Finding>& oFindings) const
     {
@@ -253,6 +373,11 @@ MeantLists MeantListsOf(const SourceItem& iItem)
 MeantEntries MeantEntriesOf(const SourceItem& iItem)
 {
     MeantEntries entries{std::string(iItem.Text("value"))};
+    if (Undressed undressed = WithoutSigns(entries.text); !undressed.signs.empty())
+    {
+        entries.findings.push_back(SignsInEntries(iItem, "value", entries.text, undressed, Severity::Warning));
+        entries.text = std::move(undressed.text);
+    }
     const char sign = SeparatorIn(entries.text);
     if (sign == ',')
         return entries;
