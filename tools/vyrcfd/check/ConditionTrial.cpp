@@ -1,6 +1,8 @@
 #include <algorithm>
+#include <limits>
 
 #include "ItemTrial.h"
+#include "MeantUnit.h"
 #include "Oddity.h"
 #include "ScratchObjects.h"
 #include "VYRCfdUtilityMethods.h"
@@ -41,9 +43,12 @@ Oddity OfReal(const ConditionText& iParts)
     {
         std::string withPoint = iParts.value;
         std::replace(withPoint.begin(), withPoint.end(), ',', '.');
+        const MeantUnit meant = MeantQuantityOf(iParts.value);
         return {Quoted(iParts.path) + " is a real, and of " + Quoted(iParts.value) +
-                    " only the number at its head is compared, in SI units",
-                IsWhole<double>(withPoint) ? iParts.path + iParts.sign + withPoint : std::string()};
+                    " only the number at its head is compared, in SI units" +
+                    (meant.readings.empty() ? "" : meant.Remark()),
+                meant.readings.empty() && IsWhole<double>(withPoint) ? iParts.path + iParts.sign + withPoint
+                                                                     : std::string()};
     }
     return {};
 }
@@ -71,15 +76,19 @@ Oddity OfEnumeration(const ConditionText& iParts, const std::vector<std::string>
 Oddity OfInteger(const ConditionText& iParts, const std::vector<std::string>& iTexts)
 {
     int number = 0;
-    const bool isRead = VYRCfdUtilityMethods::ConvertToInteger(UnicodeOf(iParts.value), number) >= 0;
+    // The engine keeps the least integer for a right side that is none.
+    const bool isRead = VYRCfdUtilityMethods::ConvertToInteger(UnicodeOf(iParts.value), number) >= 0 &&
+                        number != std::numeric_limits<int>::min();
     const bool isOutside = number < 1 || static_cast<std::size_t>(number) > iTexts.size();
     if (!iTexts.empty() && (!isRead || (iParts.comparison == Comparison::Equal && isOutside)))
         return OfEnumeration(iParts, iTexts);
     if (!isRead)
         return {Quoted(iParts.path) + " is an integer, and is compared with no number: the condition never holds"};
+    const std::string meant = IntegerMeantBy(iParts.value);
     if (!IsWhole<int>(iParts.value))
         return {Quoted(iParts.path) + " is an integer, and of " + Quoted(iParts.value) + " only " +
-                std::to_string(number) + " is compared"};
+                    std::to_string(number) + " is compared",
+                meant.empty() ? meant : iParts.path + iParts.sign + meant};
     return {};
 }
 

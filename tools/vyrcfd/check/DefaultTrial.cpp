@@ -1,4 +1,8 @@
 #include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <cstring>
 
 #include "AttributeKind.h"
 #include "AttributeReader.h"
@@ -70,16 +74,27 @@ bool FitsTypeWord(std::string_view iWord, const std::string& iText)
     return true;
 }
 
-/// That a word is none at all is told already.
+/// That a word is none at all is told already, but not which the attribute's own is.
+void CompleteTypeWord(const SourceItem& iItem, std::string iRight, TrialFindings& oFindings)
+{
+    Finding finding = FindingAt(iItem, "type", FindingKind::UnknownType, Severity::Warning,
+                                Quoted(iItem.Text("type")) + " is no type of an attribute with a default");
+    finding.suggestion = std::move(iRight);
+    oFindings.push_back({finding});
+    oFindings.back().replaced = std::move(finding);
+}
+
 void CheckTypeWord(const SourceItem& iItem, const Trial& iTrial, const std::string& iName, TrialFindings& oFindings)
 {
     const std::string_view word = iItem.Text("type");
-    if (word.empty() || !Holds(TypeWords(), word))
+    if (word.empty())
         return;
     const VYRStandalone::AttributeInfo info = InfoOf(iTrial.object, iName);
     std::string right = TypeWordOf(info.type);
     if (right.empty() || right == word)
         return;
+    if (!Holds(TypeWords(), word))
+        return CompleteTypeWord(iItem, std::move(right), oFindings);
     Finding finding = FindingAt(iItem, "type", FindingKind::WrongType, Severity::Warning,
                                 Quoted(iName) + " is " + KindOf(info) + " " + iTrial.Where() + ", and no " +
                                     std::string(word) + ": nothing but the record of the default keeps the word");
@@ -104,7 +119,22 @@ VYRCfdObjectAccess RecordOn(const VYRCfdObjectAccess& iObject)
     return record;
 }
 
-/// The text if it is a default of the attribute; empty if not.
+/// Without the noise that a unit's factor leaves in the last digits of a number.
+std::string WithoutNoise(const Value& iNumber)
+{
+    constexpr int Digits = 15;
+    constexpr double Noise = 1e-14;
+    double number = 0.0;
+    if (VYRCfdUtilityMethods::ConvertToDouble(UnicodeOf(iNumber.Shown()), number) < 0)
+        return iNumber.Shown();
+    char text[40];
+    std::snprintf(text, sizeof(text), "%.*e", Digits - 1, number);
+    double rounded = 0.0;
+    std::from_chars(text, text + std::strlen(text), rounded);
+    return Value::Of(std::abs(rounded - number) <= Noise * std::abs(number) ? rounded : number).Shown();
+}
+
+/// The text if it is a default of the attribute, without its unit as a number of the standard's; empty if it is none.
 std::string Taken(const VYRIMpaDefaultManagementProtected_var& iManagement, const ORXUnicodeString& iName,
                   const std::string& iText)
 {
@@ -114,7 +144,10 @@ std::string Taken(const VYRIMpaDefaultManagementProtected_var& iManagement, cons
     if (iText.empty() || iManagement->SetCustomDefault(name, text) < 0)
         return {};
     iManagement->GetDefault(name, spDefault);
-    return ValueOf(spDefault, tk_double).IsUnset() ? std::string() : iText;
+    const Value value = ValueOf(spDefault, tk_double);
+    if (value.IsUnset())
+        return {};
+    return IsWhole<double>(iText) ? iText : WithoutNoise(value);
 }
 
 /// What default management finds in a record once the model was closed and opened.
@@ -146,7 +179,9 @@ void DefaultTrial::Check(const SourceItem& iItem, const Trial& iTrial, TrialFind
     const Verdict verdict = known != m_verdicts.end() ? known->second : Try(iTrial, name, text);
     m_verdicts.insert_or_assign(key, verdict);
     // Where the default fits the word alone, it is the attribute that is not the one that was meant.
-    if (verdict.isGood || verdict.kind != FindingKind::DefaultInvalid || !FitsTypeWord(iItem.Text("type"), text))
+    const std::string_view word = iItem.Text("type");
+    if (verdict.isGood || verdict.kind != FindingKind::DefaultInvalid || !Holds(TypeWords(), word) ||
+        !FitsTypeWord(word, text))
         CheckTypeWord(iItem, iTrial, name, oFindings);
     if (verdict.isGood)
         return;
@@ -191,13 +226,16 @@ DefaultTrial::Verdict DefaultTrial::TryOnAttribute(const Trial& iTrial, const st
     if (now.IsUnset() && info.type == tk_double)
     {
         const MeantUnit meant = MeantQuantityOf(iText);
+        const std::string taken = Taken(spManagement, name, meant.text);
+        const bool isConverted = !taken.empty() && taken != meant.text;
         return {false,
                 FindingKind::DefaultInvalid,
                 true,
                 what + "cannot take " + Quoted(iText) + " " + iTrial.Where() +
-                    ", and is left without a default and a value" + meant.Remark(),
+                    ", and is left without a default and a value" + meant.Remark() +
+                    (isConverted ? "; " + Quoted(meant.text) + " would be " + taken : ""),
                 {},
-                Taken(spManagement, name, meant.text)};
+                taken};
     }
     if (now.IsUnset())
         return {false, FindingKind::DefaultInvalid, true,
@@ -205,11 +243,9 @@ DefaultTrial::Verdict DefaultTrial::TryOnAttribute(const Trial& iTrial, const st
                     ", and is left without a default and a value",
                 info.type == tk_boolean ? std::vector<std::string>{"true", "false"} : info.values};
     if (info.type == tk_integer && !IsWhole<int>(iText))
-        return {false,
-                FindingKind::DefaultInvalid,
-                false,
-                what + "takes only " + now.Shown() + " of " + Quoted(iText) + " " + iTrial.Where(),
-                {}};
+        return {false, FindingKind::DefaultInvalid,
+                false, what + "takes only " + now.Shown() + " of " + Quoted(iText) + " " + iTrial.Where(),
+                {},    IntegerMeantBy(iText)};
     if (!(now == later))
         return {false,
                 FindingKind::DefaultReopensDifferently,
@@ -218,7 +254,7 @@ DefaultTrial::Verdict DefaultTrial::TryOnAttribute(const Trial& iTrial, const st
                     (later.IsUnset() ? "none" : later.Shown()) + " once it is opened again, " + iTrial.Where(),
                 {},
                 // Read without its unit a number is one of the standard's.
-                info.type == tk_double ? Taken(spManagement, name, now.Shown()) : std::string()};
+                info.type == tk_double ? Taken(spManagement, name, WithoutNoise(now)) : std::string()};
     return {};
 }
 } // namespace Tool

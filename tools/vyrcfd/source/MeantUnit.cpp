@@ -44,10 +44,28 @@ std::string WithPoint(std::string_view iNumber)
     number[comma] = '.';
     return number;
 }
+
+/// What a number may be whose only comma may as well part thousands: three digits stand behind it, and some other than
+/// zero in front. Empty for any other.
+std::string ReadingsOf(std::string_view iNumber)
+{
+    const std::string withPoint = WithPoint(iNumber);
+    const std::size_t comma = iNumber.find(',');
+    if (withPoint.empty() || iNumber.find_first_of("123456789") > comma)
+        return {};
+    const std::size_t end = std::min(iNumber.find_first_not_of("0123456789", comma + 1), iNumber.size());
+    if (end != comma + 4)
+        return {};
+    std::string whole(iNumber);
+    whole.erase(comma, 1);
+    return Quoted(withPoint) + " or " + Quoted(whole);
+}
 } // namespace
 
 std::string MeantUnit::Remark() const
 {
+    if (!readings.empty())
+        return "; it may be meant as " + readings;
     return strange.empty() ? std::string() : "; " + Quoted(strange) + " is like no usual unit";
 }
 
@@ -73,6 +91,8 @@ MeantUnit MeantUnitOf(std::string_view iUnit)
 
 MeantUnit MeantQuantityOf(std::string_view iNumberWithUnit)
 {
+    if (std::string readings = ReadingsOf(iNumberWithUnit); !readings.empty())
+        return {{}, {}, std::move(readings)};
     if (std::string withPoint = WithPoint(iNumberWithUnit); !withPoint.empty())
     {
         const MeantUnit meant = MeantQuantityOf(withPoint);

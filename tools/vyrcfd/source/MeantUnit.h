@@ -13,8 +13,11 @@ struct MeantUnit
     std::string text{};
     /// What in the text is like no usual unit, such as "x" in "mm/x"; empty where each name in it is like one.
     std::string strange{};
+    /// What a number with a comma in it may be, as `1.000 or 1000`; empty where it can be one only.
+    std::string readings{};
 
-    /// To be said behind what is wrong: `; "x" is like no usual unit`. Empty where nothing is strange.
+    /// To be said behind what is wrong: `; "x" is like no usual unit`. Empty where nothing is strange, and what was
+    /// meant can be one only.
     std::string Remark() const;
 };
 
