@@ -410,6 +410,43 @@ TEST_F(CheckTest, APipeOrAFolderInPlaceOfACatalog_IsTold_AndNobodyWaitsForIt)
     EXPECT_EQ(FindingsIn(Check()), findings("is a folder, not a file"));
 }
 
+TEST_F(CheckTest, AMistakeInACatalog_NamesTheKey)
+{
+    AddConfigurations(R"({"configurations": [{"name": "main"}]})");
+    const std::pair<const char*, const char*> mistakes[] = {
+        {R"({"types": []})", "1:1: error: \"catalog\" is missing"},
+        {R"({"catalog": "C"})", "1:1: error: \"types\" is missing"},
+        {R"({"catalog": "", "types": []})", "1:13: error: \"catalog\" must not be empty"},
+        {R"({"catalog": "C", "types": [{"name": "T"}, 7]})",
+         "1:43: error: an entry of \"types\" must be an object, not an integer"},
+        {R"({"catalog": "C", "types": [{"name": "T", "attributes": [{"kind": "real"}]}]})",
+         "1:57: error: \"name\" is missing"},
+        {R"({"catalog": "C", "types": [{"name": "T", "attributes": [{"name": "a"}]}]})",
+         "1:57: error: \"kind\" is missing"},
+        {R"({"catalog": "C", "types": [{"name": "T", "attributes": [{"name": "a", "kind": "list"}]}]})",
+         "1:57: error: \"of\" is missing"},
+        {R"({"catalog": "C", "types": [{"name": "T", "attributes": [{"name": "a", "kind": "enumeration"}]}]})",
+         "1:57: error: \"values\" is missing"},
+        {"[]", "1:1: error: the document must be an object, not an array"},
+    };
+    for (const auto& [catalog, finding] : mistakes)
+    {
+        m_folder.Write("C.catalog.json", catalog);
+        EXPECT_EQ(FindingsIn(Check({m_folder.Path("C.catalog.json")})),
+                  m_folder.Path("C.catalog.json:") + finding +
+                      "; as long as this catalog is not read, nothing is checked against types [unreadable-file]\n");
+    }
+}
+
+TEST_F(CheckTest, ACatalogThatIsSoughtInAFolderTwice_NamesItOnce)
+{
+    AddConfigurations(R"({"configurations": [{"name": "main"}]})");
+    m_folder.Write("installation/catalogs/User.catalog.json", R"({"catalog": "User", "uses": ["No"], "types": []})");
+    const std::string findings = FindingsIn(Check());
+    EXPECT_NE(findings.find("\"No.catalog.json\" in \"catalogs\", and none of that name"), std::string::npos)
+        << findings;
+}
+
 TEST_F(CheckTest, ACatalogThatIsNotThere_IsAFinding)
 {
     AddConfigurations(R"({"configurations": [{"name": "main"}]})");

@@ -196,7 +196,7 @@ void CheckCatalogs::AddErrors(const std::vector<std::string>& iFolders, CheckRun
         if (!fault.unknownKey.empty())
             message.insert(message.find("key") + 3, " " + Quoted(fault.unknownKey));
         Finding finding = FindingIn(error.File(), fault.position, FindingKind::UnreadableFile, Severity::Error,
-                                    message + fault.remark + NothingIsChecked);
+                                    fault.subject + message + fault.remark + NothingIsChecked);
         finding.suggestion = fault.suggestion;
         TakeSuggestionOut(finding);
         ioRun.Add(std::move(finding));

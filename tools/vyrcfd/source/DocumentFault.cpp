@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <optional>
 
 #include "CatalogFile.h"
@@ -116,6 +117,23 @@ bool IsOfKey(const std::string& iMessage)
            (BeginsWith(iMessage, "type ") && iMessage.find(" has no attribute ") != std::string::npos);
 }
 
+/// Of a message without subject: the member that the path ends at, or the array that it leads into.
+std::string SubjectOf(const std::string& iPath, const SourceMember& iMember, const std::string& iMessage)
+{
+    static constexpr std::string_view beginnings[] = {"is missing", "must ", "belongs to ", "stands twice",
+                                                      "cannot be added"};
+    if (std::none_of(std::begin(beginnings), std::end(beginnings),
+                     [&](std::string_view iOne) { return BeginsWith(iMessage, iOne); }))
+        return {};
+    const std::size_t end = iPath.rfind('/');
+    if (end == std::string::npos)
+        return "the document ";
+    if (!iMember.key.empty() || BeginsWith(iMessage, "is missing"))
+        return Quoted(KeyOfStep(iPath.substr(end + 1))) + " ";
+    const std::size_t begin = end == 0 ? end : iPath.rfind('/', end - 1) + 1;
+    return "an entry of " + Quoted(KeyOfStep(iPath.substr(begin, end - begin))) + " ";
+}
+
 /// Nothing where the file cannot be read again: it is no file of its own, or has changed.
 std::optional<SourceFile> Reread(const std::string& iPath)
 {
@@ -137,18 +155,23 @@ DocumentFault FaultOf(const VYRStandalone::DocumentError& iError, const std::vec
 {
     if (iError.Line() > 0)
         return {{iError.Line(), iError.Column()}, true};
-    if (iError.Path().empty())
-        return {};
     const std::optional<SourceFile> file = Reread(iError.File());
     if (!file)
         return {};
     const std::string message = MessageOf(iError);
+    if (iError.Path().empty())
+    {
+        DocumentFault whole;
+        whole.subject = SubjectOf({}, {}, message);
+        return whole;
+    }
     const SourceMember member = file->MemberAt(iError.Path());
     const bool isOfKey = IsOfKey(message) && !member.key.empty();
     DocumentFault fault = MeantAt(member, message, *file, iCatalogFolders);
     fault.position = isOfKey ? member.keyPosition : member.value->position;
     if (BeginsWith(message, UnknownKey))
         fault.unknownKey = member.key;
+    fault.subject = SubjectOf(iError.Path(), member, message);
     return fault;
 }
 

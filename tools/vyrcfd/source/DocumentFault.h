@@ -26,6 +26,8 @@ struct DocumentFault
     std::string unknownKey{};
     /// What else there is to say, to be put behind the message.
     std::string remark{};
+    /// What the message is about, to be put in front of it, where it only says what that is: `"name"` of "is missing".
+    std::string subject{};
 };
 
 /// Looks the place up in the file. @param iCatalogFolders where catalogs are sought

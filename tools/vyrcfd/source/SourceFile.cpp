@@ -12,10 +12,7 @@
 
 namespace Tool
 {
-namespace
-{
-/// A step of a JSON pointer as the key that it stands for.
-std::string KeyOf(std::string iStep)
+std::string KeyOfStep(std::string iStep)
 {
     for (const auto& [escape, sign] : {std::pair("~1", "/"), std::pair("~0", "~")})
         for (std::size_t at = iStep.find(escape); at != std::string::npos; at = iStep.find(escape, at + 1))
@@ -23,10 +20,12 @@ std::string KeyOf(std::string iStep)
     return iStep;
 }
 
+namespace
+{
 /// A member by its key or an element by its number from 0; without value for none.
 SourceMember StepTo(const SourceValue& iFrom, const std::string& iStep)
 {
-    if (const SourceMember* member = iFrom.Find(KeyOf(iStep)))
+    if (const SourceMember* member = iFrom.Find(KeyOfStep(iStep)))
         return *member;
     std::size_t number = 0;
     const char* const end = iStep.data() + iStep.size();

@@ -13,6 +13,9 @@
 
 namespace Tool
 {
+/// A step of a JSON pointer as the key that it stands for.
+std::string KeyOfStep(std::string iStep);
+
 /// Owns the values of a file. Their nesting may have any depth: none of it is held recursively.
 class SourceFile
 {
