@@ -87,10 +87,17 @@ std::string MeantByWords(const std::string& iText)
     return {};
 }
 
+/// Whether what a comparison goes on with behind a joint is another one. "Wing and body" is a text like any other.
+bool IsJoined(const std::string& iValue, const char* iJoint)
+{
+    const std::size_t at = iValue.find(iJoint);
+    return at != std::string::npos && iValue.find_first_of("=<>", at) != std::string::npos;
+}
+
 Oddity OddityOf(const std::string& iText, const ConditionText& iParts)
 {
     for (const char* joint : {"&&", "||", " and ", " or "})
-        if (iParts.value.find(joint) != std::string::npos)
+        if (IsJoined(iParts.value, joint))
             return {"a condition is one comparison: " + Quoted(joint) + " and what follows belong to the text that " +
                     Quoted(iParts.path) + " is compared with"};
     if (Oddity oddity = OfSigns(iText); !oddity.message.empty())
