@@ -76,6 +76,18 @@ TEST_F(InputTest, Pipe_TakesNothingThatIsSaved)
     const std::string text = Read(External);
     EXPECT_EQ(Outcome(RunOnPipe({"purge", "/dev/stdin", "--yes"}, text)),
               Outcome(1, "/dev/stdin: is a pipe, which nothing is saved to; --output names a file\n"));
+    const auto refused = Outcome(1, "/dev/stdin: is a pipe, which nothing is saved to; --output names a file\n");
+    const InputArguments apply = {"apply", "/dev/stdin", "Solver.1", "externalFlow", "-o", "/dev/stdin"};
+    EXPECT_EQ(Outcome(RunOnPipe(apply, text)), refused);
+    InputArguments onFile = apply;
+    onFile[1] = External;
+    EXPECT_EQ(Outcome(RunOnPipe(onFile, "nothing is read of it")), refused);
+    EXPECT_EQ(Outcome(RunOnPipe({"purge", "/dev/stdin", "--yes", "-o", "/dev/stdin"}, text)), refused);
+    InputArguments toOutput = apply;
+    toOutput.back() = "/dev/stdout";
+    const ToolRun written = RunOnPipe(toOutput, text);
+    EXPECT_EQ(Outcome(written), Outcome(0, ""));
+    EXPECT_EQ(written.output.substr(0, 14), "{\n  \"model\": 1");
     Write("script", "save\n");
     EXPECT_EQ(Outcome(RunOnPipe({"shell", "/dev/stdin", "-f", "script"}, text)),
               Outcome(1, "script:1: /dev/stdin: is a pipe, which nothing is saved to; save FILE names a file\n"));
@@ -105,6 +117,30 @@ TEST_F(InputTest, Device_IsRefused)
         EXPECT_EQ(Outcome(Run({"list", "--catalog", device})),
                   Outcome(1, std::string(device) + ": is a device, not a file\n"));
     }
+}
+
+TEST_F(InputTest, Device_IsNoScript_ButAnEmptyOne)
+{
+    EXPECT_EQ(Outcome(Run({"shell", External, "-f", "/dev/zero"})), Outcome(1, "/dev/zero: is a device, not a file\n"));
+    EXPECT_EQ(Outcome(Run({"shell", External, "-f", "/dev/null"})), Outcome(0, ""));
+}
+
+TEST_F(InputTest, ScriptOfOneEndlessLine_IsRefused)
+{
+    Write("script", "help\n");
+    std::filesystem::resize_file(m_folder.Path("script"), (std::uintmax_t{16} << 20U) + 6);
+    EXPECT_EQ(Outcome(Run({"shell", External, "-f", "script"})),
+              Outcome(1, "script:2: the line is too long: one has at most 16 MB\n"));
+}
+
+TEST_F(InputTest, CommandOfAnyLength_IsShownInPart)
+{
+    Write("script", std::string(1'000'000, 'x') + "\n");
+    EXPECT_EQ(Outcome(Run({"shell", External, "-f", "script"})),
+              Outcome(1, "script:1: no command \"" + std::string(100, 'x') + "...\"\n"));
+    Write("script", "help " + std::string(1'000'000, 'x') + "\n");
+    EXPECT_EQ(Outcome(Run({"shell", External, "-f", "script"})),
+              Outcome(1, "script:1: no command \"" + std::string(100, 'x') + "...\"\n"));
 }
 
 TEST_F(InputTest, TooLargeFile_IsRefused_BeforeItIsRead)

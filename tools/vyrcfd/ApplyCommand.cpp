@@ -8,6 +8,7 @@
 #include "Configuring.h"
 #include "FailedItem.h"
 #include "Failure.h"
+#include "InputFile.h"
 #include "ObjectPath.h"
 #include "Output.h"
 #include "Progress.h"
@@ -55,6 +56,8 @@ void Apply(const CommonOptions& iOptions, const ApplyArguments& iArguments)
         PrintError(note);
     const ConfigurationSource source(installation);
     const VYRStandalone::Model model = installation.LoadModel(iArguments.model);
+    if (!iArguments.output.empty() && IsFromPipe(iArguments.output))
+        throw Failure(OneLine(iArguments.output) + ": is a pipe, which nothing is saved to; --output names a file");
     const ORXISpecObject_var spObject = FollowToObject(model, iArguments.model, iArguments.object);
 
     std::optional<Progress> progress;

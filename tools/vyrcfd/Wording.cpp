@@ -119,6 +119,17 @@ std::string Quoted(std::string_view iText)
     return '"' + Escaped(iText, true) + '"';
 }
 
+std::string Shortened(std::string iText, std::size_t iLongest)
+{
+    if (iText.size() <= iLongest)
+        return iText;
+    std::size_t end = iLongest;
+    while (end > 0 && Continues(iText, end))
+        --end;
+    iText.replace(end, std::string::npos, "...");
+    return iText;
+}
+
 std::size_t Characters(std::string_view iText)
 {
     return static_cast<std::size_t>(std::count_if(

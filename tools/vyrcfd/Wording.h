@@ -20,6 +20,9 @@ std::string OneLine(std::string_view iText);
 /// The same between quotation marks, with those inside escaped; nothing is left out.
 std::string Quoted(std::string_view iText);
 
+/// The text up to a number of bytes, which do not end inside a character; "..." stands for the rest.
+std::string Shortened(std::string iText, std::size_t iLongest);
+
 /// Number of characters of a text in UTF-8.
 std::size_t Characters(std::string_view iText);
 

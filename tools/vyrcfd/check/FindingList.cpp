@@ -10,17 +10,7 @@ namespace Tool
 namespace
 {
 /// A text of the file that is quoted may be longer than anybody wants to read.
-std::string Shortened(std::string iText)
-{
-    constexpr std::size_t longest = 1000;
-    if (iText.size() <= longest)
-        return iText;
-    // Not in the middle of a character.
-    std::size_t end = longest;
-    while ((static_cast<unsigned char>(iText[end]) & 0xC0U) == 0x80U)
-        --end;
-    return iText.substr(0, end) + "...";
-}
+constexpr std::size_t LongestMessage = 1000;
 } // namespace
 
 FindingList::Identity FindingList::IdentityOf(const Finding& iFinding)
@@ -31,7 +21,7 @@ FindingList::Identity FindingList::IdentityOf(const Finding& iFinding)
 
 void FindingList::Add(Finding iFinding)
 {
-    iFinding.message = Shortened(std::move(iFinding.message));
+    iFinding.message = Shortened(std::move(iFinding.message), LongestMessage);
     if (m_known.insert(IdentityOf(iFinding)).second)
         m_findings.push_back(std::move(iFinding));
 }
@@ -50,7 +40,7 @@ void FindingList::Raise(const Finding& iFinding)
         if (IdentityOf(known) == IdentityOf(iFinding) && iFinding.severity < known.severity)
         {
             known.severity = iFinding.severity;
-            known.message = Shortened(iFinding.message);
+            known.message = Shortened(iFinding.message, LongestMessage);
         }
 }
 

@@ -116,14 +116,15 @@ void RunPurge(const CommonOptions& iOptions, const PurgeArguments& iArguments)
 {
     const Installation installation(iOptions);
     const VYRStandalone::Model model = installation.LoadModel(iArguments.model);
-    if (iArguments.isMeant && iArguments.output.empty() && IsFromPipe(iArguments.model))
-        throw Failure(OneLine(iArguments.model) + ": is a pipe, which nothing is saved to; --output names a file");
+    const std::string& target = iArguments.output.empty() ? iArguments.model : iArguments.output;
+    if (iArguments.isMeant && IsFromPipe(target))
+        throw Failure(OneLine(target) + ": is a pipe, which nothing is saved to; --output names a file");
     Purge purge{CountRecords(model), ""};
     const std::vector<UnreferencedRecord>& records = purge.census.unreferenced;
     // The model itself is left alone where there is nothing to remove; a copy that was asked for is made.
     if (iArguments.isMeant && (!records.empty() || !iArguments.output.empty()))
     {
-        purge.savedTo = iArguments.output.empty() ? iArguments.model : iArguments.output;
+        purge.savedTo = target;
         const std::string text = PurgedText(installation, model, iArguments.model, records);
         const Uninterrupted save(purge.savedTo);
         VYRStandalone::SaveText(purge.savedTo, text);

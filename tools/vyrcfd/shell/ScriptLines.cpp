@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <filesystem>
 #include <iostream>
 #include <system_error>
 
@@ -12,6 +13,9 @@ namespace Tool
 {
 namespace
 {
+/// No command is as long; what has no line breaks at all must not fill the memory.
+constexpr std::size_t LongestLine = std::size_t{16} << 20U;
+
 /// @throws Failure
 [[noreturn]] void FailFor(const std::string& iName, const char* iWhat)
 {
@@ -23,6 +27,13 @@ ScriptLines::ScriptLines() : m_stream(std::cin), m_name("stdin") {}
 
 ScriptLines::ScriptLines(const std::string& iFile) : m_stream(m_file), m_name(OneLine(iFile))
 {
+    std::error_code ignored;
+    const std::filesystem::file_status status = std::filesystem::status(iFile, ignored);
+    const bool isDevice = std::filesystem::is_character_file(status) || std::filesystem::is_block_file(status);
+    // Which is an empty script.
+    const bool isNull = isDevice && std::filesystem::canonical(iFile, ignored) == "/dev/null";
+    if (isDevice && !isNull)
+        throw Failure(m_name + ": is a device, not a file");
     errno = 0;
     m_file.open(iFile, std::ios::binary);
     if (!m_file)
@@ -34,14 +45,19 @@ std::optional<std::string> ScriptLines::Next()
     constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
     std::string line;
     errno = 0;
-    if (!std::getline(m_stream, line))
-    {
-        // The stream of standard input tells an end and a failure alike.
-        if (m_stream.bad() || (&m_stream == &std::cin && std::ferror(stdin) != 0))
-            FailFor(m_name, "cannot be read");
-        return std::nullopt;
-    }
     ++m_line;
+    char one = '\0';
+    while (m_stream.get(one) && one != '\n')
+    {
+        if (line.size() == LongestLine)
+            throw Failure(Place() + ": the line is too long: one has at most 16 MB");
+        line += one;
+    }
+    // The stream of standard input tells an end and a failure alike.
+    if (m_stream.bad() || (&m_stream == &std::cin && std::ferror(stdin) != 0))
+        FailFor(m_name, "cannot be read");
+    if (!m_stream && line.empty())
+        return std::nullopt;
     if (m_line == 1 && line.starts_with(ByteOrderMark))
         line.erase(0, ByteOrderMark.size());
     return line;

@@ -17,7 +17,7 @@ class ScriptLines final : public LineSource
 public:
     /// Reads standard input.
     ScriptLines();
-    /// @throws Failure for a file that cannot be opened
+    /// @throws Failure for a file that cannot be opened, and for a device
     explicit ScriptLines(const std::string& iFile);
 
     std::optional<std::string> Next() override;

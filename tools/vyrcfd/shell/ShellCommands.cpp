@@ -133,11 +133,18 @@ std::vector<std::string> ShellCommandNames()
     return names;
 }
 
+Failure NoShellCommand(const std::string& iName)
+{
+    // It may be a line of a file that is no script.
+    constexpr std::size_t LongestShown = 100;
+    return Failure("no command " + Quoted(Shortened(iName, LongestShown)) + DidYouMean(iName, ShellCommandNames()));
+}
+
 void RunShellCommand(ShellSession& ioSession, const std::vector<std::string>& iWords)
 {
     const ShellCommand* const command = FindShellCommand(iWords.front());
     if (command == nullptr)
-        throw Failure("no command " + Quoted(iWords.front()) + DidYouMean(iWords.front(), ShellCommandNames()));
+        throw NoShellCommand(iWords.front());
     const ShellArguments arguments(iWords.begin() + 1, iWords.end());
     if (!command->Takes(arguments.size()))
         throw Failure(std::string("usage: ") + command->usage + QuotationHint(*command, arguments));

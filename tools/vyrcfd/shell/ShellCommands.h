@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "Failure.h"
 #include "ShellSession.h"
 
 namespace Tool
@@ -40,6 +41,9 @@ const std::vector<ShellCommand>& ShellCommands();
 const ShellCommand* FindShellCommand(const std::string& iName);
 
 std::vector<std::string> ShellCommandNames();
+
+/// That there is no such command, and which one was probably meant.
+Failure NoShellCommand(const std::string& iName);
 
 /// Runs the command that the words make, which leaves its answer with the session. @throws Failure also for an unknown
 /// command and a wrong number of arguments

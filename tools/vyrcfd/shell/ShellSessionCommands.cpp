@@ -97,7 +97,7 @@ void ShellHelp(ShellSession& ioSession, const ShellArguments& iArguments)
     }
     const ShellCommand* const command = FindShellCommand(iArguments[0]);
     if (command == nullptr)
-        throw Failure("no command " + Quoted(iArguments[0]) + DidYouMean(iArguments[0], ShellCommandNames()));
+        throw NoShellCommand(iArguments[0]);
     ioSession.Say(MakeAnswer(CommandText(*command), [&](JsonWriter& oWriter) { WriteCommand(oWriter, *command); }));
 }
 

@@ -39,6 +39,12 @@ struct stat StatusOf(const std::string& iFile)
     return status;
 }
 
+bool IsOpenAs(int iDescriptor, const struct stat& iFile)
+{
+    struct stat status = {};
+    return fstat(iDescriptor, &status) == 0 && status.st_dev == iFile.st_dev && status.st_ino == iFile.st_ino;
+}
+
 /// The descriptor by which the process has a pipe open; -1 for none.
 int DescriptorOf(const struct stat& iPipe)
 {
@@ -46,8 +52,7 @@ int DescriptorOf(const struct stat& iPipe)
     for (const std::filesystem::directory_entry& entry : std::filesystem::directory_iterator("/proc/self/fd", ignored))
     {
         const int descriptor = std::atoi(entry.path().filename().c_str());
-        struct stat status = {};
-        if (fstat(descriptor, &status) == 0 && status.st_dev == iPipe.st_dev && status.st_ino == iPipe.st_ino)
+        if (IsOpenAs(descriptor, iPipe))
             return descriptor;
     }
     return -1;
@@ -127,6 +132,8 @@ void AdmitInput(const std::string& iFile)
 bool IsFromPipe(const std::string& iFile)
 {
     const struct stat status = StatusOf(iFile);
+    if (S_ISFIFO(status.st_mode))
+        return IsOpenAs(STDIN_FILENO, status) && !IsOpenAs(STDOUT_FILENO, status);
     return S_ISREG(status.st_mode) && status.st_nlink == 0;
 }
 } // namespace Tool

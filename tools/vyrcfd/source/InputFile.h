@@ -24,7 +24,7 @@ constexpr std::uintmax_t LargestInput = std::uintmax_t{2} << 30U;
  */
 void AdmitInput(const std::string& iFile);
 
-/// Whether a pipe has stood there, so that nothing can be saved under the name.
+/// Whether a pipe has stood there, or stands there as standard input, so that nothing can be saved under the name.
 bool IsFromPipe(const std::string& iFile);
 } // namespace Tool
 
