@@ -111,6 +111,13 @@ const Mistake Brackets[] = {
      "the document ends, and the \"{\" at 1:8 is not closed by \"}\", nor the \"[\" at 1:7, nor 1 other further out"},
     {"OneTooMany", "{\"a\": []}\n}", "2:1",
      "this \"}\" closes nothing: the document ends at 1:9, where its value does"},
+    {"FirstMissing", "\n  \"configurations\": []\n}", "2:3",
+     "a key with a value stands between { and }: a \"{\" is missing in front of \"configurations\""},
+    {"TextAndMoreBehindIt", "\"a\", 1", "1:4",
+     "the document ends at 1:3, where its value does, and nothing may follow"},
+    {"RoundInPlaceOfSquare", "{\"a\": [1, 2)}", "1:12", "the \"[\" at 1:7 is closed by \"]\", not by \")\""},
+    {"RoundInPlaceOfCurly", "[{\"a\": 1)]", "1:9", "the \"{\" at 1:2 is closed by \"}\", not by \")\""},
+    {"RoundThatOpens", "{\"a\": (1, 2)}", "1:7", "an array stands between [ and ], not between ( and )"},
     {"FirstOfAll", "]", "1:1", "this \"]\" closes nothing"},
     {"KeyInArray", "[\"a\": 1]", "1:5",
      "a key with a value stands between { and }, and the array at 1:1 holds values alone"},
@@ -145,6 +152,9 @@ const Mistake Texts[] = {
      "[1,\xC2\xA0"
      "2]",
      "1:4", "what looks like a blank here is another character, which has no place outside texts; write a blank"},
+    {"Joined", "[\"a\" + \"b\"]", "1:6", "texts cannot be joined by \"+\"; write them as one text"},
+    {"JoinedWithoutBlanks", "{\"a\": \"b\"+\n\"c\"}", "1:10",
+     "texts cannot be joined by \"+\"; write them as one text"},
     {"SignOfNoMeaning", "[&]", "1:2", "\"&\" has no place here; a value is wanted"},
 };
 INSTANTIATE_TEST_SUITE_P(Texts, Mistakes, testing::ValuesIn(Texts), NameOf);
@@ -160,6 +170,9 @@ const Mistake Values[] = {
     {"PointBelowZero", "[-.5]", "1:2", "\"-.5\" is no number of JSON; write -0.5"},
     {"PointAtEnd", "[5.]", "1:2", "\"5.\" is no number of JSON; write 5"},
     {"LeadingZero", "[007]", "1:2", "\"007\" is no number of JSON; write 7"},
+    {"PartedDigits", "[-1_000.5]", "1:2", "\"-1_000.5\" is no number of JSON; write -1000.5"},
+    {"UnitBehindALine", "[1_m]", "1:2",
+     "\"1_m\" is no number; a value with a unit is a text, in quotation marks: \"1_m\""},
     {"Hexadecimal", "[0x1F]", "1:2", "\"0x1F\" is no number of JSON; write 31"},
     {"Unit", "{\"a\": 1.5m}", "1:7",
      "\"1.5m\" is no number; a value with a unit is a text, in quotation marks: \"1.5m\""},
@@ -178,6 +191,9 @@ const Mistake Documents[] = {
      "a byte order mark has no place in JSON; save the file as UTF-8 without one"},
     {"Utf16", std::string("\xFF\xFE{\0}\0", 6), "1:1", "the file is in UTF-16; save it as UTF-8"},
     {"Utf16WithoutMark", std::string("\0{\0}", 4), "1:1", "the file is in UTF-16; save it as UTF-8"},
+    {"Utf32", std::string("\xFF\xFE\0\0{\0\0\0", 8), "1:1", "the file is in UTF-32; save it as UTF-8"},
+    {"Utf32WithoutMark", std::string("{\0\0\0}\0\0\0", 8), "1:1", "the file is in UTF-32; save it as UTF-8"},
+    {"Utf32OfTheOtherOrder", std::string("\0\0\0{\0\0\0}", 8), "1:1", "the file is in UTF-32; save it as UTF-8"},
     // What the parser itself has to say stands.
     {"ZeroByte", std::string("[1, \0]", 6), "1:5", "A zero byte has no place in JSON."},
     {"TooLargeNumber", "[1e999]", "1:2", "Number too big to be stored in double."},

@@ -91,8 +91,11 @@ std::string MeantNumber(std::string_view iWord)
 {
     if (iWord.find_first_of(Digits) == std::string_view::npos)
         return {};
-    const bool isNegative = BeginsAt(iWord, 0, "-");
-    std::string_view rest = iWord.substr(isNegative || BeginsAt(iWord, 0, "+") ? 1 : 0);
+    // Which other languages part digits by.
+    std::string digits(iWord);
+    std::erase(digits, '_');
+    const bool isNegative = BeginsAt(digits, 0, "-");
+    std::string_view rest = std::string_view(digits).substr(isNegative || BeginsAt(digits, 0, "+") ? 1 : 0);
     std::string meant = isNegative ? "-" : "";
     if (BeginsAt(rest, 0, "0x") || BeginsAt(rest, 0, "0X"))
     {

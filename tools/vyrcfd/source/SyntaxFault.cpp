@@ -80,6 +80,8 @@ private:
 
     Found Step()
     {
+        if (std::optional<Flaw> foreign = SignOfAnotherLanguage())
+            return foreign;
         switch (m_wanted)
         {
         case Wanted::Value:
@@ -96,6 +98,21 @@ private:
             break;
         }
         return BehindTheEnd();
+    }
+
+    Found SignOfAnotherLanguage() const
+    {
+        const char byte = m_text[m_at];
+        if (byte == ')' && !m_open.empty())
+            return Flaw{m_at, "the " + Opening(m_open.back()) + " is closed by " +
+                                  Shown(CloserOf(m_open.back().bracket)) + ", not by \")\""};
+        if (byte == '(' && (m_wanted == Wanted::Value || m_wanted == Wanted::ValueOrEnd))
+            return Flaw{m_at, "an array stands between [ and ], not between ( and )"};
+        const std::size_t next = m_text.find_first_not_of(JsonBlanks, m_at + 1);
+        const bool isBehindText = m_end > 0 && m_text[m_end - 1] == '"';
+        if (byte == '+' && isBehindText && next != std::string_view::npos && m_text[next] == '"')
+            return Flaw{m_at, "texts cannot be joined by \"+\"; write them as one text"};
+        return std::nullopt;
     }
 
     Found Value()
@@ -178,6 +195,9 @@ private:
         const std::string end = "the document ends at " + Place(m_end - 1) + ", where its value does";
         if (IsIn(m_text[m_at], "}]"))
             return Flaw{m_at, "this " + Shown(m_text[m_at]) + " closes nothing: " + end};
+        if (m_text[m_at] == ':' && m_text[m_end - 1] == '"')
+            return Flaw{m_tokenBegin,
+                        "a key with a value stands between { and }: a \"{\" is missing in front of " + Token()};
         return Flaw{m_at, end + ", and nothing may follow"};
     }
 
@@ -326,6 +346,11 @@ private:
 /// What an editor has written in front of the first character, or in another encoding throughout.
 std::optional<Flaw> EncodingFault(std::string_view iText)
 {
+    using namespace std::string_view_literals;
+    const std::string_view four = iText.substr(0, 4);
+    const bool isWide = four.size() == 4 && std::count(four.begin(), four.end(), '\0') == 3;
+    if (four == "\xFF\xFE\0\0"sv || four == "\0\0\xFE\xFF"sv || (isWide && (four[0] != '\0' || four[3] != '\0')))
+        return Flaw{0, "the file is in UTF-32; save it as UTF-8"};
     const std::string_view begin = iText.substr(0, 2);
     const bool isMarked = begin == "\xFF\xFE" || begin == "\xFE\xFF";
     if (isMarked || (begin.size() == 2 && (begin[0] == '\0') != (begin[1] == '\0')))
