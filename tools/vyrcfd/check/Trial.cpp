@@ -32,7 +32,7 @@ std::string WithSlashes(const std::string& iPath, const Misstep& iMisstep)
 
 std::string Trial::Where() const
 {
-    return "on " + place.Shown() + (isGuessed ? ", the type that most of the configuration's paths fit" : "");
+    return "on " + place.Shown() + (isGuessed ? ", the type that the configuration's paths were meant for" : "");
 }
 
 void AddMissteps(const SourceItem& iItem, const Trial& iTrial, const char* iKey, const std::string& iPath,
