@@ -21,6 +21,11 @@ bool AsksForEquality(const ConditionText& iParts)
     return iParts.comparison == Comparison::Equal || iParts.comparison == Comparison::NotEqual;
 }
 
+bool AllowsEquality(const ConditionText& iParts)
+{
+    return iParts.comparison == Comparison::GreaterOrEqual || iParts.comparison == Comparison::LessOrEqual;
+}
+
 /// The result is the attribute's value itself. So a comparison that reads like it is in order.
 Oddity OfBoolean(const ConditionText& iParts)
 {
@@ -95,7 +100,8 @@ Oddity OfInteger(const ConditionText& iParts, const std::vector<std::string>& iT
 Oddity OfText(const ConditionText& iParts, const VYRCfdObjectAccess& iAttribute)
 {
     if (!AsksForEquality(iParts))
-        return {Quoted(iParts.path) + " is a text, and can be compared by == and != only: the condition never holds"};
+        return {Quoted(iParts.path) + " is a text, and can be compared by == and != only: the condition never holds",
+                AllowsEquality(iParts) ? iParts.path + "==" + iParts.value : std::string()};
     const VYRCfdObjectAccess owner{iAttribute.Self()};
     const std::vector<std::string> choices =
         iAttribute.GetName() == ORXUnicodeString("value") ? ChoicesOf(owner) : std::vector<std::string>();

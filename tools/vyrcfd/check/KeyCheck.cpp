@@ -65,7 +65,19 @@ private:
                 "the key " + Quoted(iMember.key) + " stands twice in " + iObject.what + ", and the first counts");
         else if (!iMember.value->Is(known->second))
             Add(iObject, FindingKind::WrongKind, Severity::Error, iMember.key, iMember.value->position,
-                WrongKindText(Quoted(iMember.key), known->second, *iMember.value));
+                WrongKindText(Quoted(iMember.key), known->second, *iMember.value) +
+                    (!InKind(iMember.key, *iMember.value).empty() && known->second == Kind::Boolean
+                         ? ", and stands without quotation marks"
+                         : ""),
+                InKind(iMember.key, *iMember.value));
+    }
+
+    /// A number, and a text that says what is true, as they are to be written; empty for anything else.
+    static std::string InKind(std::string_view iKey, const SourceValue& iValue)
+    {
+        const bool isTruth = iValue.Is(Kind::Text) && (iValue.text == "true" || iValue.text == "false");
+        const bool isRight = (iKey == "default" && iValue.Is(Kind::Number)) || (iKey == "list" && isTruth);
+        return isRight ? iValue.text : std::string();
     }
 
     void AddUnknown(const KeyedObject& iObject, const SourceMember& iMember)
@@ -79,7 +91,7 @@ private:
     }
 
     void Add(const KeyedObject& iObject, FindingKind iKind, Severity iSeverity, const std::string& iKey,
-             const SourcePosition& iPosition, std::string iMessage)
+             const SourcePosition& iPosition, std::string iMessage, std::string iSuggestion = {})
     {
         Finding finding = iObject.place;
         finding.kind = iKind;
@@ -87,6 +99,7 @@ private:
         finding.key = iKey;
         finding.position = iPosition;
         finding.message = std::move(iMessage);
+        finding.suggestion = std::move(iSuggestion);
         m_run.Add(std::move(finding));
     }
 

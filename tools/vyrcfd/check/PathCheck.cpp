@@ -13,23 +13,6 @@ bool HasReadablePath(const SourceItem& iItem)
     return path == nullptr || path->value->Is(SourceValue::Kind::Text);
 }
 
-void CheckName(const SourceItem& iItem, CheckRun& ioRun)
-{
-    const std::string what = iItem.role == ItemRole::Values ? "a \"value\"" : "a \"default\"";
-    const std::string_view path = iItem.Text("path");
-    // What seems to be an item for a Choice is told already.
-    const bool isTold = HasWrongKey(iItem.value) || !iItem.Text("Startups").empty();
-    if (path.empty() && !isTold)
-        ioRun.Add(FindingAt(iItem, "path", FindingKind::PathNowhere, Severity::Error,
-                            what + " is for an attribute, but the item has no \"path\": the configuration fails here"));
-    else if (path.find('/') != std::string_view::npos)
-        ioRun.Add(FindingAt(iItem, "path", FindingKind::PathNowhere, Severity::Error,
-                            "the \"path\" of " + what +
-                                " is the name of one attribute and is not followed: " + Quoted(path) +
-                                " is no name, and the configuration fails here; reach an object that "
-                                "lies deeper by an item with \"config\""));
-}
-
 /// The path without names that are empty.
 std::string WithoutEmptyNames(std::string_view iPath)
 {
@@ -40,6 +23,31 @@ std::string WithoutEmptyNames(std::string_view iPath)
     if (!path.empty() && path.back() == '/')
         path.pop_back();
     return path;
+}
+
+void CheckName(const SourceItem& iItem, CheckRun& ioRun)
+{
+    const std::string what = iItem.role == ItemRole::Values ? "a \"value\"" : "a \"default\"";
+    const std::string_view path = iItem.Text("path");
+    // What seems to be an item for a Choice is told already.
+    const bool isTold = HasWrongKey(iItem.value) || !iItem.Text("Startups").empty();
+    if (path.empty() && !isTold)
+        ioRun.Add(FindingAt(iItem, "path", FindingKind::PathNowhere, Severity::Error,
+                            what + " is for an attribute, but the item has no \"path\": the configuration fails here"));
+    else if (path.find('/') != std::string_view::npos)
+    {
+        Finding finding =
+            FindingAt(iItem, "path", FindingKind::PathNowhere, Severity::Error,
+                      "the \"path\" of " + what + " is the name of one attribute and is not followed: " + Quoted(path) +
+                          " is no name, and the configuration fails here; reach an object that "
+                          "lies deeper by an item with \"config\"");
+        if (std::string meant = WithoutEmptyNames(path); meant.find('/') == std::string::npos && !meant.empty())
+        {
+            finding.suggestion = meant;
+            ioRun.meant.SetText(iItem, "path", std::move(meant));
+        }
+        ioRun.Add(std::move(finding));
+    }
 }
 
 /// The cursor stops at an empty name, and says nothing.

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "CheckRun.h"
+#include "MeantLists.h"
 #include "Wording.h"
 
 namespace Tool
@@ -73,6 +74,12 @@ Unread UnreadBy(ItemRole iRole)
     return {{}, ""};
 }
 
+/// Whether the "value" of an item with "choices" is what is to be chosen at first.
+bool MeansDefault(const SourceItem& iItem)
+{
+    return !iItem.value.Has("default") && Holds(SplitTexts(iItem.Text("choices")), iItem.Text("value"));
+}
+
 void CheckUnread(const SourceItem& iItem, CheckRun& ioRun)
 {
     const Unread unread = UnreadBy(iItem.role);
@@ -87,6 +94,13 @@ void CheckUnread(const SourceItem& iItem, CheckRun& ioRun)
         {
             ioRun.Add(FindingAt(iItem, key, FindingKind::IgnoredKey, Severity::Error,
                                 "\"Startups\" belong to \"choices\", which are missing"));
+            continue;
+        }
+        if (key == "value" && iItem.role == ItemRole::Choice && MeansDefault(iItem))
+        {
+            ioRun.Add(FindingAt(iItem, key, FindingKind::IgnoredKey, Severity::Warning,
+                                "\"value\" has no effect in an item with \"choices\": what is chosen at first stands "
+                                "under \"default\""));
             continue;
         }
         // Nothing reads the word for the type but people, and what it says may be right.

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "CatalogCheck.h"
+#include "ConditionText.h"
 #include "KnownTypes.h"
 #include "MeantLists.h"
 #include "VYRIMpaDefaultManagementProtected.h"
@@ -45,6 +46,31 @@ bool BlameReference(const SourceItem& iOrigin, const SourceConfiguration& iConfi
     ioFindings.erase(std::remove_if(ioFindings.begin(), ioFindings.end(), IsPathNowhere), ioFindings.end());
     ioFindings.push_back({std::move(blamed)});
     return true;
+}
+
+constexpr std::string_view Denial = "not ";
+
+bool IsDenied(const ConditionText& iParts)
+{
+    return iParts.path.starts_with(Denial);
+}
+
+/// That no word turns a condition round, with the one that holds where this one would not.
+Finding DeniedCondition(const SourceItem& iItem, const ConditionText& iParts)
+{
+    static const std::map<std::string, std::string> opposites{{"==", "!="}, {"=", "!="}, {"!=", "=="}, {"<", ">="},
+                                                              {">", "<="},  {"<=", ">"}, {">=", "<"}};
+    Finding finding = FindingAt(iItem, "condition", FindingKind::OddCondition, Severity::Warning,
+                                "\"not\" belongs to the path " + Quoted(iParts.path) +
+                                    ", which leads nowhere: the condition never holds");
+    finding.suggestion = Trimmed(iParts.path.substr(Denial.size())) + opposites.at(iParts.sign) + iParts.value;
+    return finding;
+}
+
+/// Whether a startup says in a word or a sign that there is none.
+bool MeansNothing(const std::string& iStartup)
+{
+    return Holds({"none", "None", "NONE", "null", "-"}, iStartup);
 }
 } // namespace
 
@@ -332,6 +358,11 @@ TypedCheck::Guard TypedCheck::TryCondition(const SourceItem& iItem, const Trial&
     if (parts->path.find_first_of("=!<>") != std::string::npos || Trimmed(parts->path) != parts->path ||
         EndOfNames(parts->path) != parts->path.size())
         return Guard::None;
+    if (IsDenied(*parts))
+    {
+        oFindings.push_back({DeniedCondition(iItem, *parts)});
+        return Guard::None;
+    }
     const PathEnd end = ioWalk.Follow(parts->path).front();
     AddMissteps(iItem, iTrial, "condition", parts->path, end.missteps, oFindings);
     if (end.kind == PathEnd::Kind::Nowhere)
@@ -407,6 +438,15 @@ void TypedCheck::CheckTypeNames(const SourceItem& iItem)
     {
         if (startup.empty() || IsKnownType(startup))
             continue;
+        if (MeansNothing(startup))
+        {
+            m_run.Add(FindingAt(iItem, lists.startupsKey, FindingKind::UnknownType, Severity::Error,
+                                "the startup " + Quoted(startup) +
+                                    " is no type of the catalogs; the entry of a choice without data is left empty"));
+            startup.clear();
+            isMisspelt = true;
+            continue;
+        }
         m_run.Add(FindingAt(iItem, lists.startupsKey, FindingKind::UnknownType, Severity::Error,
                             "the startup " + Quoted(startup) + " is no type of the catalogs"),
                   startup, KnownTypes());
