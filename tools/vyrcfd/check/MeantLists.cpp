@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <sstream>
 
+#include "ConditionText.h"
 #include "KnownTypes.h"
 #include "Wording.h"
 
