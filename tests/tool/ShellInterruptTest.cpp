@@ -209,11 +209,12 @@ TEST_P(InterruptedLines, AreEmpty_AndRunNothing)
     EXPECT_NE(seen.find(GetParam().shown), std::string::npos) << seen;
     shell.Type("\x03");
     shell.Until("\nvyrcfd> ");
-    shell.Type("\r");
-    EXPECT_EQ(shell.Until(Prompt), "\nvyrcfd> ");
     shell.Type("get Case.1/relaxation\r");
     const std::string answer = shell.Until("0.2\n");
-    EXPECT_NE(answer.find("get Case.1/relaxation\n0.2\n"), std::string::npos) << answer;
+    // At the beginning of the line, which a slow machine may still be about to show.
+    const std::size_t command = answer.find("get Case.1/relaxation\n0.2\n");
+    ASSERT_NE(command, std::string::npos) << answer;
+    EXPECT_TRUE(command == 0 || answer.substr(0, command).ends_with(Prompt)) << answer;
 }
 
 const InterruptedKeys Interrupted[] = {
